@@ -1,0 +1,61 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace tarnwick {
+
+enum class MessageIcon { kNone, kExclamation, kInformation, kQuestion };
+enum class MessageButtons { kOk, kOkCancel, kYesNo };
+enum class MessageAnswer { kOk, kCancel, kYes, kNo };
+
+enum class YieldMode { kPoll, kWait };
+
+struct Message {
+  std::string text;
+  std::string title;
+  MessageIcon icon = MessageIcon::kNone;
+  MessageButtons buttons = MessageButtons::kOk;
+};
+
+// The computer's clock: local date "yyyy-mm-dd", local time "HH:MM:SS" and how many minutes the
+// local time is ahead of Greenwich.
+struct ClockReading {
+  std::string date;
+  std::string time;
+  int offset_minutes = 0;
+};
+
+// The forms' way to the outside. The windows have one that talks to the real desktop, the driver
+// and the tests their own.
+class Desktop {
+ public:
+  Desktop() = default;
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+  virtual ~Desktop() = default;
+
+  // Shows a message box and returns the button that the user pressed.
+  virtual MessageAnswer ShowMessage(const Message& message) = 0;
+  virtual ClockReading ReadClock() const = 0;
+
+  virtual std::string ClipboardText() const = 0;
+  virtual void SetClipboardText(const std::string& text) = 0;
+
+  // Asks where to save a file, `suggestion` being a name for it; nothing if the user gives up.
+  virtual std::optional<std::filesystem::path> AskSavePath(const std::string& title,
+                                                           const std::string& suggestion) = 0;
+  // The folder for the user's own data.
+  virtual std::filesystem::path UserDataFolder() const = 0;
+  // The folder that the program lies in.
+  virtual std::filesystem::path ProgramFolder() const = 0;
+  virtual void OpenWebPage(const std::string& address) = 0;
+
+  // Lets waiting events be handled. kWait sleeps until there is one, kPoll returns at once.
+  virtual void Yield(YieldMode mode) = 0;
+  // Ends the program once the running handlers have returned.
+  virtual void EndProgram() = 0;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/control.h"
+
+namespace tarnwick {
+
+// The windows of the program and which of them is active. The first one is the main window.
+class Screen {
+ public:
+  const std::vector<Form*>& Forms() const { return forms_; }
+  Form* Active() const { return active_; }
+  Form* Find(std::string_view name) const;
+
+ private:
+  friend class Form;
+
+  std::vector<Form*> forms_;
+  Form* active_ = nullptr;
+};
+
+// A window: its controls by name, its focus and its own events. A form handles an event by
+// overriding it.
+class Form : public Observable {
+ public:
+  Form(Screen& screen, std::string name, std::string caption);
+  ~Form() override;
+
+  const std::string& Name() const { return name_; }
+  const std::vector<Control*>& Controls() const { return controls_; }
+  Control* Find(std::string_view name) const;
+
+  const std::string& Caption() const { return caption_; }
+  void SetCaption(std::string caption) { Assign(caption_, std::move(caption), Property::kCaption); }
+
+  const tarnwick::Bounds& Bounds() const { return bounds_; }
+  void SetBounds(const tarnwick::Bounds& bounds) { Assign(bounds_, bounds, Property::kBounds); }
+
+  bool Visible() const { return visible_; }
+  bool Minimised() const { return minimised_; }
+  bool IsActive() const { return screen_.active_ == this; }
+  void Show();
+  void Hide();
+  void Minimise();
+  // The user has turned to this window.
+  void Activate();
+  // The user has given the window a new size.
+  void Resize(int width, int height);
+  // The system close box.
+  void Close();
+
+  // The control that has the focus in this window, null when none has.
+  Control* Focus() const { return focus_; }
+  void MoveFocus(Control& control);
+
+  virtual void Form_Load() {}
+  virtual void Form_Activate() {}
+  virtual void Form_Resize() {}
+  // The window is about to close; setting `cancel` keeps it open.
+  virtual void Form_Unload(bool& /*cancel*/) {}
+  virtual void Form_KeyPress(int& /*key*/) {}
+
+ private:
+  friend class Control;
+  void Register(Control& control) { controls_.push_back(&control); }
+
+  Screen& screen_;
+  std::string name_;
+  std::string caption_;
+  tarnwick::Bounds bounds_;
+  bool visible_ = false;
+  bool minimised_ = false;
+  std::vector<Control*> controls_;
+  Control* focus_ = nullptr;
+};
+
+}  // namespace tarnwick
