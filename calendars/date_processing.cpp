@@ -63,11 +63,6 @@ const MonthNames& MonthTable(bool german, bool abbreviated) {
   return german ? kGermanMonths : kMonths;
 }
 
-std::string YearText(std::int32_t year) {
-  const bool long_year = year > 9999 || year < -9999;
-  return separate_thousands(std::to_string(year), long_year ? ',' : 0);
-}
-
 std::string_view CalendarName(std::int32_t letter) {
   switch (letter) {
     case 'G':
@@ -169,6 +164,11 @@ std::string_view MonthName(std::int32_t month, std::int32_t language, bool abbre
 
 std::string_view AnnusNovusDayName(std::int32_t day) {
   return day < 1 ? "" : kAnnusNovusDays[static_cast<std::size_t>((day - 1) % 5)];
+}
+
+std::string YearText(std::int32_t year) {
+  const bool long_year = year > 9999 || year < -9999;
+  return separate_thousands(std::to_string(year), long_year ? ',' : 0);
 }
 
 std::string DateText(const DateRecord& record) {

@@ -48,8 +48,11 @@ std::string_view MonthName(std::int32_t month, std::int32_t language = kEnglish,
 // empty for a day below 1.
 std::string_view AnnusNovusDayName(std::int32_t day);
 
-// The numeric text of a date: "2003-12-31", "-3200-01-01", "79-08-24". The year has no leading
-// zeros; beyond 9999 or below -9999 it has thousands separators: "12,003-12-31".
+// A year as plain digits with its sign; beyond 9999 or below -9999 with thousands separators.
+std::string YearText(std::int32_t year);
+
+// The numeric text of a date: "2003-12-31", "-3200-01-01", "79-08-24", "12,003-12-31"; the year
+// as YearText writes it.
 std::string DateText(const DateRecord& record);
 
 // The long text of a date in calendar "G", "J" or "A":

@@ -1,0 +1,67 @@
+#include "app/date_texts.h"
+
+#include "app/calendar_table.h"
+#include "calendars/archetypes.h"
+#include "calendars/date_processing.h"
+#include "calendars/goddess.h"
+#include "calendars/text.h"
+
+namespace tarnwick {
+namespace {
+
+DateTexts EuroTexts(std::int32_t day_number, char letter, const std::string& abbreviation) {
+  DateRecord date;
+  date.calendar = letter;
+  date.jdn = day_number;
+  jdn_to_euro_date(date);
+  const std::string short_form = DateText(date) + " " + abbreviation;
+  return {short_form,
+          short_form + " (" + WeekdayName(euro_day_of_week(day_number)) + ", " +
+              std::string(MonthName(date.month)) + " " + std::to_string(date.day) + ", " +
+              YearText(date.year) + ")",
+          DayOfYearText(date)};
+}
+
+DateTexts ARCTexts(std::int32_t day_number) {
+  ARCDate date;
+  date.jdn = day_number;
+  JDNToARCDate(date);
+  return {ARCDateString(date, 1), ARCDateString(date, 2), ARCDateString(date, 4)};
+}
+
+DateTexts KSGTexts(std::int32_t day_number) {
+  KSGDate date;
+  date.jdn = day_number;
+  JDNToKSGDate(date);
+  return {KSGDateString(date, 1, true), KSGDateString(date, 2, true), KSGDateString(date, 3, true)};
+}
+
+DateTexts DayCountTexts(double days, const std::string& abbreviation) {
+  const std::string text = FormatFixed(days, 4, true) + " " + abbreviation;
+  return {text, text, ""};
+}
+
+}  // namespace
+
+DateTexts DateTextsOf(std::int16_t calendar, double ajd, int offset_minutes) {
+  const double cjd = AJDToCJD(ajd, offset_minutes);
+  const std::int32_t day_number = SplitCJD(cjd).day_number;
+  switch (calendar) {
+    case kCE:
+      return EuroTexts(day_number, 'G', "CE");
+    case kJC:
+      return EuroTexts(day_number, 'J', "JC");
+    case kARC:
+      return ARCTexts(day_number);
+    case kKSG:
+      return KSGTexts(day_number);
+    case kCJD:
+      return DayCountTexts(cjd, "CJD");
+    case kAJD:
+      return DayCountTexts(ajd, "AJD");
+    default:
+      return {};
+  }
+}
+
+}  // namespace tarnwick

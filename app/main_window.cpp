@@ -1,0 +1,115 @@
+#include "app/main_window.h"
+
+#include "app/time_zone.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::string_view kVersion = " 18.0";
+
+}  // namespace
+
+void ShowChoice(Control& chosen, Control& other) {
+  chosen.SetForeColor(kSelectedColor);
+  other.SetForeColor(kUnselectedColor);
+}
+
+frmMain::frmMain(Desktop& desktop, Screen& screen)
+    : Form(screen, "frmMain", "Tarnwick"),
+      desktop_(desktop),
+      date_labels_{&lblCommonEraDate,           &lblJulianCalendarDate,     &lblArchetypesDate,
+                   &lblSarvikDolmerSLCDate,     &lblLTCLunarDate,           &lblKSGDate,
+                   &lblChronologicalJulianDate, &lblAstronomicalJulianDate, &lblOstrelLWCDate} {
+  ConnectHandlers();
+}
+
+void frmMain::ConnectHandlers() {
+  cmdCompute.on_click = [this] { cmdCompute_Click(); };
+  cmdClearDate.on_click = [this] { cmdClearDate_Click(); };
+  cmdNow.on_click = [this] { cmdNow_Click(); };
+  cmdQuit.on_click = [this] { cmdQuit_Click(); };
+  txbDate.on_key_press = [this](int& key) { txbDate_KeyPress(key); };
+  txbDate.on_lost_focus = [this] { txbDate_LostFocus(); };
+  txbPlusMinus.on_key_press = [this](int& key) { txbPlusMinus_KeyPress(key); };
+  optPlus.on_click = [this] { optPlus_Click(); };
+  optMinus.on_click = [this] { optMinus_Click(); };
+  optGreenwich.on_click = [this] { optGreenwich_Click(); };
+  optLocal.on_click = [this] { optLocal_Click(); };
+  cboTimeZone.on_click = [this] { cboTimeZone_Click(); };
+  Clock.on_timer = [this] { Clock_Timer(); };
+
+  const auto connect = [this](DateLabel& label, void (frmMain::*handler)(int)) {
+    label[0].on_click = [this, handler] { (this->*handler)(0); };
+    label[1].on_click = [this, handler] { (this->*handler)(1); };
+  };
+  connect(lblCommonEraDate, &frmMain::lblCommonEraDate_Click);
+  connect(lblJulianCalendarDate, &frmMain::lblJulianCalendarDate_Click);
+  connect(lblArchetypesDate, &frmMain::lblArchetypesDate_Click);
+  connect(lblSarvikDolmerSLCDate, &frmMain::lblSarvikDolmerSLCDate_Click);
+  connect(lblLTCLunarDate, &frmMain::lblLTCLunarDate_Click);
+  connect(lblKSGDate, &frmMain::lblKSGDate_Click);
+  connect(lblOstrelLWCDate, &frmMain::lblOstrelLWCDate_Click);
+  connect(lblChronologicalJulianDate, &frmMain::lblChronologicalJulianDate_Click);
+  connect(lblAstronomicalJulianDate, &frmMain::lblAstronomicalJulianDate_Click);
+  lblTime[1].on_click = [this] { lblTime_Click(); };
+}
+
+void frmMain::Form_Load() {
+  SetCaption(Caption() + std::string(kVersion));
+  Initialise();
+  intCalendar = kCE;
+  MarkCurrentCalendar();
+  EnableDisableFunctions(true);
+  cmdQuit.SetEnabled(true);
+  DisplayMoment();
+  MarkCurrentCalendar();
+  Show();
+  SetTheFocus();
+}
+
+// Sets the choices of a first start; each runs its handler, which sets the colours.
+void frmMain::Initialise() {
+  dblMoment = PresentMoment();
+  FillTimeZones();
+  ClearValueLabels();
+  intStoredOffset = TimeZoneOffsetMinutes();
+  picCheck.SetVisible(false);
+  optLocal.SetValue(true);
+  optPlus.SetValue(true);
+}
+
+void frmMain::FillTimeZones() {
+  for (int i = 0; i < kTimeZoneCount; ++i) cboTimeZone.AddItem(TimeZoneText(i));
+  cboTimeZone.SetListIndex(kGmtTimeZone);
+}
+
+void frmMain::ClearValueLabels() {
+  for (DateLabel* label : date_labels_) (*label)[1].SetCaption("");
+  for (DateLabel* label : {&lblTime, &lblPhaseOfMoon, &lblAgeOfMoon, &lblDeltaT}) {
+    (*label)[1].SetCaption("");
+  }
+}
+
+void frmMain::EnableDisableFunctions(bool enable) {
+  for (Control* control :
+       std::initializer_list<Control*>{&cmdCompute, &cmdClearDate, &txbDate, &txbPlusMinus}) {
+    control->SetEnabled(enable);
+  }
+  cmdQuit.SetFocus();
+}
+
+void frmMain::SetTheFocus() {
+  if (!IsActive() || !fraConvert.Enabled()) return;
+  if (!txbDate.Enabled()) {
+    cmdQuit.SetFocus();
+    return;
+  }
+  txbDate.SetFocus();
+  txbDate.MoveCaretToEnd();
+}
+
+void frmMain::Form_Unload(bool& /*cancel*/) { cmdQuit_Click(); }
+
+void frmMain::cmdQuit_Click() { desktop_.EndProgram(); }
+
+}  // namespace tarnwick

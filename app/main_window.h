@@ -1,0 +1,156 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "app/calendar_table.h"
+#include "controls/control_array.h"
+#include "controls/controls.h"
+#include "controls/desktop.h"
+#include "controls/form.h"
+
+namespace tarnwick {
+
+inline constexpr double kLowerLimit = 552283.0;   // AJD, the smallest accepted
+inline constexpr double kUpperLimit = 3912515.0;  // AJD, noon of 6000-01-01 CE, still accepted
+
+inline constexpr Color kSelectedColor{255, 255, 255};
+inline constexpr Color kUnselectedColor{200, 200, 200};
+
+// The main window. It holds the one current moment and shows it in every calendar.
+class frmMain final : public Form {
+ public:
+  using DateLabel = ControlArray<Label, 2>;  // 0: what it is, 1: the value
+
+  frmMain(Desktop& desktop, Screen& screen);
+
+  // Convert: the entry of a moment and the time system it is read in.
+  Frame fraConvert{*this, "fraConvert", "Convert"};
+  TextBox txbDate{fraConvert, "txbDate"};
+  OptionGroup grpPlusMinus;
+  OptionButton optPlus{fraConvert, "optPlus", grpPlusMinus, "plus"};
+  OptionButton optMinus{fraConvert, "optMinus", grpPlusMinus, "minus"};
+  TextBox txbPlusMinus{fraConvert, "txbPlusMinus"};
+  Label lblDays{fraConvert, "lblDays", "days"};
+  Button cmdCompute{fraConvert, "cmdCompute", "Compute"};
+  Button cmdClearDate{fraConvert, "cmdClearDate", "Clear"};
+  Button cmdNow{fraConvert, "cmdNow", "Now"};
+  Picture picCheck{fraConvert, "picCheck"};  // the moment shown is the present one
+  Label lblTimeSystem{fraConvert, "lblTimeSystem", "Time system"};
+  OptionGroup grpTimeSystem;
+  OptionButton optGreenwich{fraConvert, "optGreenwich", grpTimeSystem, "Greenwich"};
+  OptionButton optLocal{fraConvert, "optLocal", grpTimeSystem, "local"};
+  Label lblTimeZone{fraConvert, "lblTimeZone", "Time zone"};
+  ComboBox cboTimeZone{fraConvert, "cboTimeZone"};
+
+  // One moment, nine ways.
+  DateLabel lblTime{*this, "lblTime"};
+  DateLabel lblCommonEraDate{*this, "lblCommonEraDate"};
+  DateLabel lblJulianCalendarDate{*this, "lblJulianCalendarDate"};
+  DateLabel lblArchetypesDate{*this, "lblArchetypesDate"};
+  DateLabel lblSarvikDolmerSLCDate{*this, "lblSarvikDolmerSLCDate"};
+  DateLabel lblLTCLunarDate{*this, "lblLTCLunarDate"};
+  DateLabel lblKSGDate{*this, "lblKSGDate"};
+  DateLabel lblOstrelLWCDate{*this, "lblOstrelLWCDate"};
+  DateLabel lblChronologicalJulianDate{*this, "lblChronologicalJulianDate"};
+  DateLabel lblAstronomicalJulianDate{*this, "lblAstronomicalJulianDate"};
+
+  // The Moon.
+  DateLabel lblPhaseOfMoon{*this, "lblPhaseOfMoon"};
+  DateLabel lblAgeOfMoon{*this, "lblAgeOfMoon"};
+  DateLabel lblDeltaT{*this, "lblDeltaT"};
+
+  Button cmdQuit{*this, "cmdQuit", "Quit"};
+  Timer Clock{*this, "Clock"};
+
+  void Form_Load() override;
+  void Form_Unload(bool& cancel) override;
+
+  // The label array of a calendar of the calendar table.
+  DateLabel& DateLabelOf(std::int16_t calendar) {
+    return *date_labels_[static_cast<std::size_t>(calendar)];
+  }
+
+ private:
+  // Start-up (main_window.cpp).
+  void Initialise();
+  void ConnectHandlers();
+  void FillTimeZones();
+  void ClearValueLabels();
+
+  void EnableDisableFunctions(bool enable);
+  void SetTheFocus();
+  void cmdQuit_Click();
+
+  // Entry (convert.cpp).
+  void cmdCompute_Click();
+  void cmdClearDate_Click();
+  void txbDate_KeyPress(int& key);
+  void txbPlusMinus_KeyPress(int& key);
+  void txbDate_LostFocus();
+  void optPlus_Click();
+  void optMinus_Click();
+  // Reads an entry. On success the code is 0, `ajd` the moment and the calendar of the entry the
+  // current one; else `ajd` stays as it was.
+  void ParseDateEntry(const std::string& text, std::int16_t& error_code, double& ajd);
+  void ReportDateEntryError(std::int16_t code);
+  // Whether the moment lies outside the accepted range, after telling the user.
+  bool DateOutOfRange(double ajd);
+
+  // Display (display.cpp).
+  double AJDToCJD(double ajd) const;
+  std::string MomentTimeText() const;
+  std::string TimeSuffix() const;
+  void DisplayTime();
+  // Returns the moment in the current calendar, in short form.
+  std::string DisplayAllDates();
+  std::string DisplayMoment();
+  void MarkCurrentCalendar();
+  void CopyDateToEntryBox();
+  // Copies the date again if the entry box still holds what was last copied there.
+  void RenewCopiedDate();
+  void ClickDateLabel(Calendar calendar, int index);
+  void lblCommonEraDate_Click(int index);
+  void lblJulianCalendarDate_Click(int index);
+  void lblArchetypesDate_Click(int index);
+  void lblSarvikDolmerSLCDate_Click(int index);
+  void lblLTCLunarDate_Click(int index);
+  void lblKSGDate_Click(int index);
+  void lblOstrelLWCDate_Click(int index);
+  void lblChronologicalJulianDate_Click(int index);
+  void lblAstronomicalJulianDate_Click(int index);
+  void lblTime_Click();
+
+  // Time system, zone and clock (time_system.cpp).
+  std::int16_t TimeZoneOffsetMinutes() const;
+  // Minutes east of Greenwich at which moments are read: 0 when Greenwich is chosen.
+  int ReadingOffset() const;
+  double PresentMoment() const;
+  std::string ClockTimeText() const;
+  void optGreenwich_Click();
+  void optLocal_Click();
+  void ShowTimeSystem();
+  void cboTimeZone_Click();
+  void cmdNow_Click();
+  void StopClock();
+  void ShowPresentMoment();
+  void Clock_Timer();
+
+  Desktop& desktop_;
+  std::array<DateLabel*, kCalendarCount> date_labels_;
+
+  double dblMoment = 0;              // the current moment, AJD in Universal Time
+  std::int16_t intCalendar = kCE;    // the current calendar
+  std::int16_t intStoredOffset = 0;  // of the zone when the moment was last set, minutes
+  std::int16_t intClockSeconds = 5;  // between two readings of the running clock
+  bool blnClockRunning = false;      // the moment is the present one and follows the clock
+  bool blnRestoring = false;         // the saved state is being restored
+  bool blnRestoringHistory = false;  // an entry of the history is being recalled
+  std::string strCopiedEntry;        // what was last copied to the entry box
+};
+
+// Sets two option buttons or labels apart: the chosen one white, the other grey.
+void ShowChoice(Control& chosen, Control& other);
+
+}  // namespace tarnwick

@@ -1,0 +1,27 @@
+#include "app/time_zone.h"
+
+#include <cstdlib>
+
+#include "calendars/text.h"
+
+namespace tarnwick {
+
+std::string TimeZoneText(int index) {
+  const int half_hours = index - kGmtTimeZone;
+  if (half_hours == 0) return "GMT";
+  const int size = std::abs(half_hours);
+  return std::string("GMT") + (half_hours > 0 ? " + " : " - ") + TwoDigits(size / 2) +
+         (size % 2 != 0 ? ":30" : ":00");
+}
+
+std::int16_t TimeZoneOffset(std::string_view text) {
+  constexpr std::size_t kHours = 6;
+  constexpr std::size_t kMinutes = 9;
+  if (text == "Greenwich" || text.size() < kMinutes) return 0;
+  const double minutes =
+      60 * LeadingNumber(text.substr(kHours, 2)) + LeadingNumber(text.substr(kMinutes));
+  const auto offset = static_cast<std::int16_t>(minutes);
+  return text.find('-') == std::string_view::npos ? offset : static_cast<std::int16_t>(-offset);
+}
+
+}  // namespace tarnwick
