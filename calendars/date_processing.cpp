@@ -126,7 +126,7 @@ std::string LongDurationText(const Duration& duration) {
   append(duration.days, " day");
   append(duration.hours, " hour");
   append(duration.minutes, " minute");
-  if (CountOf(text, " and") > 1) text.replace(text.find(" and"), 4, ",");
+  if (CountOf(text, " and") > 1) text.replace(text.find(" and"), 4, 1, ',');
   return text.empty() ? "0 minutes" : text;
 }
 

@@ -165,10 +165,11 @@ std::string FormatFixed(double value, std::int32_t decimals, bool grouping) {
   Decimal number = ToFifteenDigits(value);
   RoundTo(number, static_cast<std::size_t>(std::max(decimals, 0)));
   const bool zero = number.digits.find_first_not_of('0') == std::string::npos;
-  const std::string whole = number.digits.substr(0, number.point);
-  const std::string fraction = number.digits.substr(number.point);
-  return (value < 0 && !zero ? "-" : "") + separate_thousands(whole, grouping ? ',' : 0) +
-         (fraction.empty() ? "" : "." + fraction);
+  const std::string_view digits = number.digits;
+  std::string text(value < 0 && !zero ? "-" : "");
+  text.append(separate_thousands(digits.substr(0, number.point), grouping ? ',' : 0));
+  if (decimals > 0) text.append(".").append(digits.substr(number.point));
+  return text;
 }
 
 std::string PadLeft(std::string_view text, std::int32_t width, char pad) {
@@ -180,7 +181,7 @@ std::string PadLeft(std::string_view text, std::int32_t width, char pad) {
 std::string TwoDigits(std::int32_t number) { return PadLeft(std::to_string(number), 2, '0'); }
 
 std::string SignedNumberText(std::int32_t number) {
-  return (number < 0 ? "" : " ") + std::to_string(number);
+  return std::string(number < 0 ? "" : " ").append(std::to_string(number));
 }
 
 std::string_view OrdinalSuffix(std::int32_t number) {
