@@ -134,7 +134,8 @@ DateAndTime SplitTime(std::string text) {
   const std::size_t colon = text.find(':');
   const bool two_digit_hour = colon >= 2 && IsDigit(text[colon - 2]);
   const std::size_t begin = colon - (two_digit_hour ? 2 : 1);
-  const std::string time = two_digit_hour ? text.substr(begin, 5) : "0" + text.substr(begin, 4);
+  std::string time(two_digit_hour ? "" : "0");
+  time.append(text, begin, colon - begin + 3);
   const double hours = LeadingNumber(std::string_view(time).substr(0, 2));
   const double minutes = LeadingNumber(std::string_view(time).substr(3));
   return {text.substr(0, begin), (hours * 60 + minutes) / 1440};

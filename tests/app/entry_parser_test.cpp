@@ -1,0 +1,156 @@
+#include "app/entry_parser.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+
+#include "app/calendar_table.h"
+
+namespace tarnwick {
+namespace {
+
+struct GoodEntry {
+  const char* text;
+  Calendar calendar;
+  double cjd;
+};
+
+TEST(ParseEntry, ReadsTheMomentOfEveryForm) {
+  const GoodEntry entries[] = {
+      {"2000-01-01 CE", kCE, 2451545.5},
+      {"2000-1-1 CE 0:00", kCE, 2451545.0},
+      {"2000-01-01 CE 7:05", kCE, 2451545 + 425 / 1440.0},
+      {"2000-01-01 CE 23:59", kCE, 2451545 + 1439 / 1440.0},
+      {"2000-01-01 CE 10:75", kCE, 2451545 + 675 / 1440.0},
+      {"2000-01-01 CE 10:5", kCE, 2451545 + 605 / 1440.0},
+      {"2000-01-01 CE 10:", kCE, 2451545 + 600 / 1440.0},
+      {"2000-01-01 CE 15:55 (LOCAL = GMT+05:30)", kCE, 2451545 + 955 / 1440.0},
+      {"1999-12-19 JC 12:00", kJC, 2451545.5},
+      {"-3200-01-01 CE 0:00", kCE, 552284.0},
+      {"4708-11-11 ARC", kARC, 2455901.5},
+      {"1-105-13-11 KSG", kKSG, 2455901.5},
+      {"105-13-11 KSG", kKSG, 2455901.5},
+      {"0-470-13-29 KSG 6:00", kKSG, 2415610.25},
+      {"2,451,545.25 CJD", kCJD, 2451545.25},
+      {"2451545 AJD", kAJD, 2451545.5},
+      {"2000-01-01", kCE, 2451545.5},
+  };
+  for (const GoodEntry& expected : entries) {
+    SCOPED_TRACE(expected.text);
+    const Entry entry = ParseEntry(expected.text, {});
+    EXPECT_EQ(entry.code, kEntryOk);
+    EXPECT_EQ(entry.calendar, expected.calendar);
+    EXPECT_NEAR(entry.ajd, expected.cjd - 0.5, 1e-9);
+  }
+}
+
+struct BadEntry {
+  const char* text;
+  EntryCode code;
+};
+
+TEST(ParseEntry, RefusesWithTheCodeOfTheFirstFault) {
+  const BadEntry entries[] = {
+      {"", kInvalidEntry},
+      {", ,", kInvalidEntry},
+      {"HELLO", kInvalidEntry},
+      {"+2000-01-01 CE", kInvalidEntry},
+      {"2000 -01-01", kCalendarMissing},
+      {"2000-01-01 CE X", kCalendarMissing},
+      {"2000-01-01 CE -5", kCalendarMissing},
+      {"2451545 CJD:", kCalendarMissing},
+      {"2451545 AJD 12:00", kTimeNotPermitted},
+      {"2000-01-01 CE 24:00", kInvalidTime},
+      {"2000-01-01 CE 23:60", kInvalidTime},
+      {"2000-01-01 CE 0:-5", kInvalidTime},
+      {"2000.01.01 CE", kInvalidSeparator},
+      {"2000/01/01 CE", kInvalidSeparator},
+      {"2000-13-01 CE", kInvalidCE},
+      {"2001-02-29 CE", kInvalidCE},
+      {"2000-01 CE", kInvalidCE},
+      {"5 CE (CJD)", kInvalidCE},  // the date goes before the remark
+      {"99999999999-01-01 CE", kInvalidCE},
+      {"2001-02-29 JC", kInvalidJC},
+      {"4708-14-01 ARC", kInvalidARC},
+      {"4708-02-30 ARC", kInvalidARC},
+      {"2147483647-01-01 ARC", kInvalidARC},
+      {"1-471-01-01 KSG", kInvalidKSG},
+      {"9999999-105-13-11 KSG", kInvalidKSG},
+      {"1-1 KSG", kInvalidKSG},
+      {"-1-2 CJD", kInvalidDayCount},
+      {"2000-01-01 15:55 CE", kUnparsable},  // no calendar is left before the time
+      {"12:00", kUnparsable},
+  };
+  for (const BadEntry& expected : entries) {
+    SCOPED_TRACE(expected.text);
+    const Entry entry = ParseEntry(expected.text, {});
+    EXPECT_EQ(entry.code, expected.code);
+    EXPECT_EQ(entry.calendar, -1);
+  }
+}
+
+TEST(ParseEntry, TakesTheCurrentCalendarWhereNoneIsNamed) {
+  const Entry entry = ParseEntry("4708-11-11", {kARC, 0, false});
+  EXPECT_EQ(entry.code, kEntryOk);
+  EXPECT_EQ(entry.calendar, kARC);
+  EXPECT_TRUE(entry.calendar_supplied);
+  EXPECT_FALSE(ParseEntry("4708-11-11 ARC", {kARC, 0, false}).calendar_supplied);
+}
+
+TEST(ParseEntry, ReadsInTheGivenZoneExceptAstronomicalDates) {
+  for (const int offset : {-720, 330, 720}) {
+    SCOPED_TRACE(offset);
+    const EntryContext context{kCE, offset, false};
+    const double east = offset / 1440.0;
+    EXPECT_DOUBLE_EQ(ParseEntry("2000-01-01 CE", context).ajd, 2451545.0 - east);
+    EXPECT_DOUBLE_EQ(ParseEntry("2451545.5 CJD", context).ajd, 2451545.0 - east);
+    EXPECT_EQ(ParseEntry("2451545 AJD", context).ajd, 2451545.0);
+  }
+}
+
+TEST(ParseEntry, RecalledDayCountsMayCarryATime) {
+  const Entry entry = ParseEntry("2,451,545.0000 AJD (LOCAL = GMT+05:30)", {kCE, 0, true});
+  EXPECT_EQ(entry.code, kEntryOk);
+  EXPECT_EQ(entry.ajd, 2451545.0);
+}
+
+// Whatever is typed, the answer is a code or a number that the range check can judge.
+TEST(ParseEntry, SurvivesAnyText) {
+  const std::string digits(100000, '9');
+  const std::string texts[] = {
+      digits,
+      digits + " AJD",
+      "-" + digits + " CJD",
+      digits + "-1-1 CE",
+      "1-" + digits + "-1 ARC",
+      "1-1-1 KSG " + digits + ":" + digits,
+      "1" + std::string(100000, '-') + " CE",
+      std::string("2000-01-01\0 CE", 14),
+      "1\xff\xfe\xc3 CE",
+      "1-1-1 CE 1\xe2\x82:\xac",
+      "0." + std::string(100000, '0') + "1 AJD",
+      "1CE",
+      "-",
+      "-CJD",
+      "1:CE:CE:CE",
+  };
+  for (const std::string& text : texts) {
+    SCOPED_TRACE(text.substr(0, 20));
+    const Entry entry = ParseEntry(text, {kKSG, 720, false});
+    EXPECT_FALSE(std::isnan(entry.ajd));
+    EXPECT_EQ(entry.code == kEntryOk, entry.calendar >= 0);
+  }
+  EXPECT_EQ(ParseEntry(digits + " AJD", {}).ajd, std::numeric_limits<double>::infinity());
+}
+
+TEST(EntryErrorText, KnowsEveryCodeAndNoOther) {
+  for (std::int16_t code = kInvalidEntry; code <= kNoDateGiven; ++code) {
+    EXPECT_NE(EntryErrorText(code), "Unknown error.") << code;
+  }
+  EXPECT_EQ(EntryErrorText(0), "Unknown error.");
+  EXPECT_EQ(EntryErrorText(20), "Unknown error.");
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "controls/desktop.h"
+
+namespace tarnwick {
+
+// The desktop of a program without one: a clock that stands still until it is set, message boxes
+// that are kept and answered from a queue, a clipboard of its own.
+class DriverDesktop final : public Desktop {
+ public:
+  // Runs at every yield of the program.
+  using YieldHook = std::function<void(YieldMode)>;
+
+  explicit DriverDesktop(YieldHook on_yield) : on_yield_(std::move(on_yield)) {}
+
+  void SetClock(ClockReading clock) { clock_ = std::move(clock); }
+  void SetStateFile(std::filesystem::path path) { state_file_ = std::move(path); }
+  void QueueAnswer(MessageAnswer answer) { answers_.push_back(answer); }
+  void QueueSavePath(std::optional<std::filesystem::path> path) {
+    save_paths_.push_back(std::move(path));
+  }
+  // The message boxes shown since the last call.
+  std::vector<Message> TakeMessages();
+  // Whether the program has asked to end since the last call.
+  bool TakeEnd();
+
+  MessageAnswer ShowMessage(const Message& message) override;
+  ClockReading ReadClock() const override { return clock_; }
+  std::string ClipboardText() const override { return clipboard_; }
+  void SetClipboardText(const std::string& text) override { clipboard_ = text; }
+  std::optional<std::filesystem::path> AskSavePath(const std::string& title,
+                                                   const std::string& suggestion) override;
+  std::filesystem::path UserDataFolder() const override { return {}; }
+  std::filesystem::path ProgramFolder() const override { return {}; }
+  void OpenWebPage(const std::string& /*address*/) override {}
+  void Yield(YieldMode mode) override { on_yield_(mode); }
+  void EndProgram() override { ended_ = true; }
+
+ private:
+  YieldHook on_yield_;
+  ClockReading clock_{"2024-03-05", "12:00:00", 0};
+  std::deque<MessageAnswer> answers_;
+  std::deque<std::optional<std::filesystem::path>> save_paths_;
+  std::vector<Message> messages_;
+  std::string clipboard_;
+  std::optional<std::filesystem::path> state_file_;
+  bool ended_ = false;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,10 @@
+// Runs the whole program by text: commands from standard input, answers to standard output.
+#include <iostream>
+
+#include "tools/driver/driver.h"
+
+int main() {
+  std::ios::sync_with_stdio(false);
+  tarnwick::Driver driver(std::cin, std::cout);
+  return driver.Run();
+}
