@@ -20,7 +20,18 @@ frmMain::frmMain(Desktop& desktop, Screen& screen)
       date_labels_{&lblCommonEraDate,           &lblJulianCalendarDate,     &lblArchetypesDate,
                    &lblSarvikDolmerSLCDate,     &lblLTCLunarDate,           &lblKSGDate,
                    &lblChronologicalJulianDate, &lblAstronomicalJulianDate, &lblOstrelLWCDate} {
+  NameLabels();
   ConnectHandlers();
+}
+
+void frmMain::NameLabels() {
+  for (std::int16_t calendar = 0; calendar < kCalendarCount; ++calendar) {
+    DateLabelOf(calendar)[0].SetCaption(std::string(AbbreviationOf(calendar)));
+  }
+  lblTime[0].SetCaption("Time");
+  lblPhaseOfMoon[0].SetCaption("Phase");
+  lblAgeOfMoon[0].SetCaption("Age");
+  lblDeltaT[0].SetCaption("Delta T");
 }
 
 void frmMain::ConnectHandlers() {

@@ -75,6 +75,7 @@ class frmMain final : public Form {
  private:
   // Start-up (main_window.cpp).
   void Initialise();
+  void NameLabels();
   void ConnectHandlers();
   void FillTimeZones();
   void ClearValueLabels();

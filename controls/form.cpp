@@ -46,6 +46,7 @@ void Form::Hide() {
 void Form::Activate() {
   if (IsActive()) return;
   screen_.active_ = this;
+  Notify(Property::kFocus);
   Form_Activate();
 }
 
@@ -66,10 +67,11 @@ void Form::Close() {
 }
 
 void Form::MoveFocus(Control& control) {
-  if (focus_ == &control || !control.CanTakeFocus() || !control.IsUsable()) return;
+  if (!control.CanTakeFocus() || !control.IsUsable()) return;
   Control* left = std::exchange(focus_, &control);
+  // Also where it was already: a view's own focus may have strayed to what is no control.
   control.Notify(Property::kFocus);
-  if (left != nullptr && left->on_lost_focus) left->on_lost_focus();
+  if (left != nullptr && left != &control && left->on_lost_focus) left->on_lost_focus();
 }
 
 }  // namespace tarnwick

@@ -11,7 +11,7 @@ enum class Property {
   kBounds,
   kCaption,
   kEnabled,
-  kFocus,  // the control has been given the focus
+  kFocus,  // the control has been given the focus, or the form has become the active one
   kForeColor,
   kInterval,
   kItems,
