@@ -1,0 +1,181 @@
+#include "desktop/binder.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QTimer>
+#include <algorithm>
+
+#include "desktop/characters.h"
+#include "desktop/event_hook.h"
+#include "desktop/link_label.h"
+#include "desktop/look.h"
+#include "desktop/mirror.h"
+#include "desktop/panel.h"
+
+namespace tarnwick {
+
+QWidget* Binder::WidgetOf(const Control& control) const {
+  const auto found = widgets_.find(&control);
+  return found == widgets_.end() ? nullptr : found->second;
+}
+
+Wording Binder::WordingOf(const Control& control) const {
+  const auto found = std::find_if(wordings_.begin(), wordings_.end(), [&](const Wording& wording) {
+    return wording.control == control.Name();
+  });
+  return found == wordings_.end() ? Wording{control.Name(), 0, {}} : *found;
+}
+
+// What a screen reader says: what the control is, then what it shows.
+QString Binder::SpokenName(const CaptionedControl& control) const {
+  const std::string spoken(WordingOf(control).spoken);
+  if (spoken.empty()) return ToQt(control.Caption().empty() ? control.Name() : control.Caption());
+  return ToQt(control.Caption().empty() ? spoken : spoken + ": " + control.Caption());
+}
+
+// What every control has, whatever its kind.
+void Binder::BindControl(Control& control, QWidget& widget) {
+  widgets_[&control] = &widget;
+  widget.setObjectName(ToQt(control.Name()));
+  const std::string spoken(WordingOf(control).spoken);
+  widget.setAccessibleName(ToQt(spoken.empty() ? control.Name() : spoken));
+  Mirror(control, Property::kEnabled, widget, [&] { widget.setEnabled(control.Enabled()); });
+  Mirror(control, Property::kVisible, widget, [&] { widget.setVisible(control.Visible()); });
+  Mirror(control, Property::kToolTipText, widget,
+         [&] { widget.setToolTip(ToQt(control.ToolTipText())); });
+  if (control.CanTakeFocus()) BindFocus(control, widget);
+}
+
+void Binder::BindFocus(Control& control, QWidget& widget) {
+  Mirror(control, Property::kFocus, widget, [&] {
+    if (control.Owner().Focus() == &control && !widget.hasFocus()) widget.setFocus();
+  });
+  new EventHook(widget, [&control, &gate = gate_](QEvent& event) {
+    if (event.type() == QEvent::FocusIn) gate.Run([&] { control.SetFocus(); });
+    return false;
+  });
+}
+
+// Black is the colour of a control that has been given none: the panel's colour stays.
+void Binder::BindForeColor(Control& control, QWidget& widget) {
+  Mirror(control, Property::kForeColor, widget, [&] {
+    const Color color = control.ForeColor();
+    SetTextColor(widget, color == Color{} ? QColor() : QColor(color.red, color.green, color.blue));
+  });
+}
+
+template <class Widget>
+void Binder::BindCaption(CaptionedControl& control, Widget& widget) {
+  BindControl(control, widget);
+  const char mnemonic = WordingOf(control).mnemonic;
+  Mirror(control, Property::kCaption, widget, [this, &control, &widget, mnemonic] {
+    widget.setText(WithMnemonic(ToQt(control.Caption()), mnemonic));
+    widget.setAccessibleName(SpokenName(control));
+  });
+}
+
+void Binder::Bind(Frame& frame, QWidget& area) {
+  BindControl(frame, area);
+  Mirror(frame, Property::kCaption, area,
+         [this, &frame, &area] { area.setAccessibleName(SpokenName(frame)); });
+}
+
+void Binder::Bind(Frame& frame, Panel& panel) {
+  Bind(frame, static_cast<QWidget&>(panel));
+  Mirror(frame, Property::kCaption, panel, [&] { panel.SetTitle(ToQt(frame.Caption())); });
+}
+
+void Binder::Bind(Label& label, QLabel& text) {
+  text.setTextFormat(Qt::PlainText);
+  BindControl(label, text);
+  BindForeColor(label, text);
+  const char mnemonic = WordingOf(label).mnemonic;
+  Mirror(label, Property::kCaption, text, [this, &label, &text, mnemonic] {
+    const QString caption = ToQt(label.Caption());
+    // A label takes "&" for a mnemonic only if it has a buddy.
+    text.setText(text.buddy() != nullptr ? WithMnemonic(caption, mnemonic) : caption);
+    text.setAccessibleName(SpokenName(label));
+  });
+}
+
+void Binder::Bind(Label& label, LinkLabel& link) {
+  BindCaption(label, link);
+  BindForeColor(label, link);
+  QObject::connect(&link, &LinkLabel::clicked, &link,
+                   [&label, &gate = gate_] { gate.Run([&] { label.Click(); }); });
+}
+
+void Binder::Bind(Button& button, QPushButton& push) {
+  BindCaption(button, push);
+  QObject::connect(&push, &QPushButton::clicked, &push,
+                   [&button, &gate = gate_] { gate.Run([&] { button.Click(); }); });
+}
+
+void Binder::Bind(CheckBox& box, QCheckBox& check) {
+  BindCaption(box, check);
+  BindForeColor(box, check);
+  Mirror(box, Property::kValue, check, [&] { check.setChecked(box.Value()); });
+  QObject::connect(&check, &QCheckBox::clicked, &check, [&box, &gate = gate_](bool checked) {
+    gate.Run([&] { box.SetValue(checked); });
+  });
+}
+
+void Binder::Bind(OptionButton& option, QRadioButton& radio) {
+  BindCaption(option, radio);
+  BindForeColor(option, radio);
+  Mirror(option, Property::kValue, radio, [&] {
+    radio.setAutoExclusive(false);  // an exclusive button refuses to be deselected
+    radio.setChecked(option.Value());
+    radio.setAutoExclusive(true);
+  });
+  QObject::connect(&radio, &QRadioButton::clicked, &radio,
+                   [&option, &gate = gate_] { gate.Run([&] { option.Click(); }); });
+}
+
+void Binder::Bind(ComboBox& list, QComboBox& combo) {
+  BindControl(list, combo);
+  Mirror(list, Property::kListIndex, combo, [&] { combo.setCurrentIndex(list.ListIndex()); });
+  Mirror(list, Property::kItems, combo, [&] {
+    combo.clear();
+    for (const ComboBox::Item& item : list.Items()) combo.addItem(ToQt(item.text));
+    combo.setCurrentIndex(list.ListIndex());
+  });
+  // Unlike a change of the index this also tells of the same item chosen again, and it tells only
+  // of what the user does.
+  QObject::connect(&combo, &QComboBox::activated, &combo, [&list, &gate = gate_](int index) {
+    gate.Run([&] { list.SetListIndex(index); });
+  });
+}
+
+void Binder::Bind(Picture& picture, QWidget& area) {
+  BindControl(picture, area);
+  new EventHook(area, [&picture, &area, &gate = gate_](QEvent& event) {
+    if (event.type() != QEvent::MouseButtonRelease) return false;
+    const auto& release = static_cast<const QMouseEvent&>(event);
+    if (release.button() == Qt::LeftButton && area.rect().contains(release.position().toPoint())) {
+      gate.Run([&] { picture.Click(); });
+    }
+    return false;
+  });
+}
+
+void Binder::Bind(Timer& timer, QTimer& clock) {
+  const auto show = [&] {
+    if (timer.Enabled() && timer.Interval() > 0) {
+      clock.start(timer.Interval());
+    } else {
+      clock.stop();
+    }
+  };
+  Mirror(timer, Property::kEnabled, clock, show);
+  Mirror(timer, Property::kInterval, clock, show);
+  QObject::connect(&clock, &QTimer::timeout, &clock,
+                   [&timer, &gate = gate_] { gate.Run([&] { timer.Tick(); }); });
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <map>
+#include <span>
+#include <string_view>
+
+#include "controls/controls.h"
+#include "controls/form.h"
+#include "desktop/handler_gate.h"
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QPushButton;
+class QRadioButton;
+class QString;
+class QTimer;
+class QWidget;
+
+namespace tarnwick {
+
+class LinkLabel;
+class Panel;
+
+// What a window adds to the caption of a control.
+struct Wording {
+  std::string_view control;  // its name, "lblTime(1)" for one of an array
+  char mnemonic = 0;         // the letter of its caption that Alt reaches it by
+  std::string_view spoken;   // what it is, for users who do not see what stands around it
+};
+
+// Ties the controls of a form to the widgets of a window. A widget shows the state of its control
+// from the moment it is bound, and what the user does with it becomes the control's user action.
+//
+// Controls and gate outlive the widgets. The widgets have their parents before they are bound: a
+// control in a frame is disabled or hidden with the widget of the frame.
+class Binder {
+ public:
+  Binder(HandlerGate& gate, std::span<const Wording> wordings) : gate_(gate), wordings_(wordings) {}
+
+  void Bind(Form& form, QWidget& window);
+  void Bind(Frame& frame, QWidget& area);
+  void Bind(Frame& frame, Panel& panel);
+  void Bind(Label& label, QLabel& text);
+  void Bind(Label& label, LinkLabel& link);
+  void Bind(Button& button, QPushButton& push);
+  void Bind(CheckBox& box, QCheckBox& check);
+  // The widgets of a group, and no others, have one parent in common.
+  void Bind(OptionButton& option, QRadioButton& radio);
+  void Bind(ComboBox& list, QComboBox& combo);
+  void Bind(Picture& picture, QWidget& area);
+  void Bind(Timer& timer, QTimer& clock);
+  void Bind(TextBox& box, QLineEdit& edit);
+  void Bind(TextBox& box, QPlainTextEdit& edit);
+
+  // The widget that a control is bound to, null if it is not.
+  QWidget* WidgetOf(const Control& control) const;
+
+ private:
+  void BindControl(Control& control, QWidget& widget);
+  void BindFocus(Control& control, QWidget& widget);
+  void BindForeColor(Control& control, QWidget& widget);
+  void BindTextEvents(TextBox& box, QWidget& edit, QWidget& surface);
+  template <class Widget>
+  void BindCaption(CaptionedControl& control, Widget& widget);
+  QString SpokenName(const CaptionedControl& control) const;
+  Wording WordingOf(const Control& control) const;
+
+  HandlerGate& gate_;
+  std::span<const Wording> wordings_;
+  std::map<const Control*, QWidget*> widgets_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,97 @@
+// The window of a form.
+#include <QShortcut>
+#include <QWidget>
+
+#include "desktop/binder.h"
+#include "desktop/characters.h"
+#include "desktop/event_hook.h"
+#include "desktop/mirror.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kTwipsPerPixel = 15;  // 1440 an inch, and 96 device-independent pixels
+constexpr int kEscapeKey = 27;
+
+Bounds BoundsOf(const QWidget& window) {
+  return {window.x() * kTwipsPerPixel, window.y() * kTwipsPerPixel, window.width() * kTwipsPerPixel,
+          window.height() * kTwipsPerPixel};
+}
+
+void ShowBounds(const Form& form, QWidget& window) {
+  const Bounds& bounds = form.Bounds();
+  if (bounds.width <= 0 || bounds.height <= 0 || bounds == BoundsOf(window)) return;
+  window.move(bounds.left / kTwipsPerPixel, bounds.top / kTwipsPerPixel);
+  window.resize(bounds.width / kTwipsPerPixel, bounds.height / kTwipsPerPixel);
+}
+
+void ShowMinimised(const Form& form, QWidget& window) {
+  if (form.Minimised() != window.isMinimized()) {
+    window.setWindowState(window.windowState() ^ Qt::WindowMinimized);
+  }
+}
+
+void ShowActive(const Form& form, QWidget& window) {
+  if (!form.IsActive() || !window.isVisible() || window.isActiveWindow()) return;
+  window.raise();
+  window.activateWindow();
+}
+
+void ReportState(Form& form, const QWidget& window) {
+  if (window.isMinimized() == form.Minimised()) return;
+  if (window.isMinimized()) {
+    form.Minimise();
+  } else {
+    form.Show();
+  }
+}
+
+// What the user has done with the window itself.
+void Report(QEvent::Type type, Form& form, const QWidget& window) {
+  switch (type) {
+    case QEvent::Close:
+      form.Close();
+      break;
+    case QEvent::WindowActivate:
+      form.Activate();
+      break;
+    case QEvent::WindowStateChange:
+      ReportState(form, window);
+      break;
+    case QEvent::Move:
+      form.SetBounds(BoundsOf(window));
+      break;
+    case QEvent::Resize:
+      form.SetBounds(BoundsOf(window));
+      form.Resize(form.Bounds().width, form.Bounds().height);
+      break;
+    default:
+      break;
+  }
+}
+
+}  // namespace
+
+void Binder::Bind(Form& form, QWidget& window) {
+  window.setObjectName(ToQt(form.Name()));
+  Mirror(form, Property::kCaption, window, [&] { window.setWindowTitle(ToQt(form.Caption())); });
+  Mirror(form, Property::kBounds, window, [&] { ShowBounds(form, window); });
+  Mirror(form, Property::kMinimised, window, [&] { ShowMinimised(form, window); });
+  Mirror(form, Property::kVisible, window, [&] { window.setVisible(form.Visible()); });
+  Mirror(form, Property::kFocus, window, [&] { ShowActive(form, window); });
+
+  new EventHook(window, [&form, &window, &gate = gate_](QEvent& event) {
+    gate.Run([&] { Report(event.type(), form, window); });
+    if (event.type() != QEvent::Close) return false;
+    event.ignore();  // the form decides whether it goes
+    return true;
+  });
+  // As a shortcut it reaches the form from wherever the focus is, lists included.
+  auto* escape = new QShortcut(Qt::Key_Escape, &window);
+  QObject::connect(escape, &QShortcut::activated, &window, [&form, &gate = gate_] {
+    int key = kEscapeKey;
+    gate.Run([&] { form.Form_KeyPress(key); });
+  });
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QWidget>
+
+namespace tarnwick {
+
+// A small drawn check mark. Its room stays when it is hidden.
+class CheckMark : public QWidget {
+ public:
+  explicit CheckMark(QWidget* parent);
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,41 @@
+#include <QApplication>
+#include <QMessageBox>
+#include <cstdlib>
+#include <iostream>
+
+#include "app/main_window.h"
+#include "controls/form.h"
+#include "desktop/characters.h"
+#include "desktop/look.h"
+#include "desktop/main_window_view.h"
+#include "desktop/qt_desktop.h"
+
+namespace {
+
+// A handler has failed where none may. What further handlers are still running cannot be trusted,
+// so the program ends at once, and says so.
+[[noreturn]] void EndWithFault(const std::string& what) {
+  std::cerr << "tarnwick: " << what << std::endl;
+  QMessageBox box(QMessageBox::Critical, "Tarnwick",
+                  "Tarnwick has to end because of a fault in it:\n\n" + tarnwick::ToQt(what));
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+  std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("tarnwick");
+  QApplication::setQuitOnLastWindowClosed(false);  // the main window's form ends the program
+  tarnwick::ApplyLook(application);
+
+  tarnwick::HandlerGate gate(EndWithFault);
+  tarnwick::QtDesktop desktop(gate);
+  tarnwick::Screen screen;
+  tarnwick::frmMain form(desktop, screen);
+  tarnwick::MainWindowView view(form, gate);
+  gate.Run([&] { form.Form_Load(); });
+  return gate.IsOpen() ? QApplication::exec() : EXIT_SUCCESS;
+}

@@ -1,0 +1,41 @@
+#include "desktop/panel.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "desktop/look.h"
+
+namespace tarnwick {
+
+Panel::Panel(Ground ground, QWidget* parent)
+    : QWidget(parent), ground_(ground), title_(new QLabel(this)), content_(new QVBoxLayout(this)) {
+  if (ground == Ground::kLight) setPalette(LightPalette());
+  SetTextColor(*title_, ground == Ground::kLight ? Look::kLightCaption : Look::kCaption);
+  QFont font = title_->font();
+  font.setBold(true);
+  title_->setFont(font);
+  title_->setTextFormat(Qt::PlainText);
+
+  const int space = Spacing(*this);
+  content_->setContentsMargins(2 * space, space, 2 * space, 3 * space / 2);
+  content_->setSpacing(space);
+  content_->addWidget(title_);
+}
+
+void Panel::SetTitle(const QString& title) {
+  title_->setText(title);
+  setAccessibleName(title);
+}
+
+void Panel::paintEvent(QPaintEvent* /*event*/) {
+  const bool light = ground_ == Ground::kLight;
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(light ? Look::kLightPanelEdge : Look::kPanelEdge);
+  painter.setBrush(light ? Look::kLightPanel : Look::kPanel);
+  const double radius = fontMetrics().height() / 3.0;
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+}
+
+}  // namespace tarnwick

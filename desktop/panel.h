@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QVBoxLayout;
+
+namespace tarnwick {
+
+// A titled area of a window with a ground of its own.
+class Panel : public QWidget {
+ public:
+  enum class Ground { kDark, kLight };
+
+  Panel(Ground ground, QWidget* parent);
+
+  void SetTitle(const QString& title);
+  // Where its content goes, below the title.
+  QVBoxLayout& Content() { return *content_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  Ground ground_;
+  QLabel* title_;
+  QVBoxLayout* content_;
+};
+
+}  // namespace tarnwick

@@ -1,0 +1,15 @@
+// What differs from one system to the next.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+namespace tarnwick::platform {
+
+// The folder for the data that programs keep for the user.
+std::filesystem::path UserDataFolder();
+
+// Shows a page in the user's browser.
+void OpenWebPage(const std::string& address);
+
+}  // namespace tarnwick::platform

@@ -1,0 +1,21 @@
+#include "desktop/platform.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QUrl>
+
+#include "desktop/characters.h"
+
+namespace tarnwick::platform {
+
+// XDG_CONFIG_HOME counts only if it is an absolute path.
+std::filesystem::path UserDataFolder() {
+  const QString chosen = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
+  const QString folder = QDir::isAbsolutePath(chosen) ? chosen : QDir::homePath() + "/.config";
+  return QFile::encodeName(folder).toStdString();
+}
+
+void OpenWebPage(const std::string& address) { QDesktopServices::openUrl(QUrl(ToQt(address))); }
+
+}  // namespace tarnwick::platform

@@ -1,0 +1,116 @@
+#include "desktop/qt_desktop.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QMessageBox>
+
+#include "desktop/characters.h"
+#include "desktop/platform.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kSecondsPerMinute = 60;
+
+QMessageBox::Icon IconOf(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::kExclamation:
+      return QMessageBox::Warning;
+    case MessageIcon::kInformation:
+      return QMessageBox::Information;
+    case MessageIcon::kQuestion:
+      return QMessageBox::Question;
+    case MessageIcon::kNone:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons) {
+  switch (buttons) {
+    case MessageButtons::kOkCancel:
+      return QMessageBox::Ok | QMessageBox::Cancel;
+    case MessageButtons::kYesNo:
+      return QMessageBox::Yes | QMessageBox::No;
+    case MessageButtons::kOk:
+      break;
+  }
+  return QMessageBox::Ok;
+}
+
+MessageAnswer AnswerOf(int pressed, MessageButtons buttons) {
+  if (pressed == QMessageBox::Yes) return MessageAnswer::kYes;
+  if (pressed == QMessageBox::Ok || buttons == MessageButtons::kOk) return MessageAnswer::kOk;
+  return buttons == MessageButtons::kYesNo ? MessageAnswer::kNo : MessageAnswer::kCancel;
+}
+
+// A short text would leave the title no room beside the buttons of the window's frame.
+void WidenForTitle(QMessageBox& box) {
+  const QFontMetrics font = box.fontMetrics();
+  const int width = font.horizontalAdvance(box.windowTitle()) + 12 * font.height();
+  auto* grid = static_cast<QGridLayout*>(box.layout());
+  grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+}  // namespace
+
+MessageAnswer QtDesktop::ShowMessage(const Message& message) {
+  QMessageBox box(IconOf(message.icon), ToQt(message.title), ToQt(message.text),
+                  ButtonsOf(message.buttons), QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
+  WidenForTitle(box);
+  return AnswerOf(box.exec(), message.buttons);
+}
+
+// One reading gives date, time and offset, so that they agree even while the clocks change.
+ClockReading QtDesktop::ReadClock() const {
+  const QDateTime now = QDateTime::currentDateTime();
+  return {FromQt(now.toString("yyyy-MM-dd")), FromQt(now.toString("HH:mm:ss")),
+          now.offsetFromUtc() / kSecondsPerMinute};
+}
+
+std::string QtDesktop::ClipboardText() const {
+  return FromQt(QGuiApplication::clipboard()->text());
+}
+
+void QtDesktop::SetClipboardText(const std::string& text) {
+  QGuiApplication::clipboard()->setText(ToQt(text));
+}
+
+std::optional<std::filesystem::path> QtDesktop::AskSavePath(const std::string& title,
+                                                            const std::string& suggestion) {
+  QFileDialog dialog(QApplication::activeWindow(), ToQt(title));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QFileInfo(ToQt(suggestion)).suffix());
+  dialog.selectFile(ToQt(suggestion));
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return QFileInfo(dialog.selectedFiles().constFirst()).filesystemFilePath();
+}
+
+std::filesystem::path QtDesktop::UserDataFolder() const { return platform::UserDataFolder(); }
+
+std::filesystem::path QtDesktop::ProgramFolder() const {
+  return QFileInfo(QCoreApplication::applicationDirPath()).filesystemFilePath();
+}
+
+void QtDesktop::OpenWebPage(const std::string& address) { platform::OpenWebPage(address); }
+
+void QtDesktop::Yield(YieldMode mode) {
+  if (!gate_.IsOpen()) return;
+  QCoreApplication::processEvents(mode == YieldMode::kWait
+                                      ? QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents
+                                      : QEventLoop::AllEvents);
+}
+
+void QtDesktop::EndProgram() {
+  gate_.Shut();
+  QCoreApplication::exit();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "controls/desktop.h"
+#include "desktop/handler_gate.h"
+
+namespace tarnwick {
+
+// The real desktop. It needs a QApplication.
+class QtDesktop final : public Desktop {
+ public:
+  explicit QtDesktop(HandlerGate& gate) : gate_(gate) {}
+
+  MessageAnswer ShowMessage(const Message& message) override;
+  ClockReading ReadClock() const override;
+  std::string ClipboardText() const override;
+  void SetClipboardText(const std::string& text) override;
+  std::optional<std::filesystem::path> AskSavePath(const std::string& title,
+                                                   const std::string& suggestion) override;
+  std::filesystem::path UserDataFolder() const override;
+  std::filesystem::path ProgramFolder() const override;
+  void OpenWebPage(const std::string& address) override;
+  void Yield(YieldMode mode) override;
+  // Shuts the gate at once and leaves the event loop when the handlers have returned.
+  void EndProgram() override;
+
+ private:
+  HandlerGate& gate_;
+};
+
+}  // namespace tarnwick
