@@ -129,9 +129,11 @@ void Binder::Bind(OptionButton& option, QRadioButton& radio) {
   BindCaption(option, radio);
   BindForeColor(option, radio);
   Mirror(option, Property::kValue, radio, [&] {
-    radio.setAutoExclusive(false);  // an exclusive button refuses to be deselected
+    if (!option.Value()) radio.setAutoExclusive(false);  // else it refuses to be deselected
     radio.setChecked(option.Value());
     radio.setAutoExclusive(true);
+    // The tab key stops at the chosen one of a group, the arrow keys lead to the others.
+    radio.setFocusPolicy(option.Value() ? Qt::StrongFocus : Qt::ClickFocus);
   });
   QObject::connect(&radio, &QRadioButton::clicked, &radio,
                    [&option, &gate = gate_] { gate.Run([&] { option.Click(); }); });

@@ -19,7 +19,7 @@ Bounds BoundsOf(const QWidget& window) {
 }
 
 void ShowBounds(const Form& form, QWidget& window) {
-  const Bounds& bounds = form.Bounds();
+  const Bounds bounds = form.Bounds();  // a copy: each step below is reported to the form
   if (bounds.width <= 0 || bounds.height <= 0 || bounds == BoundsOf(window)) return;
   window.move(bounds.left / kTwipsPerPixel, bounds.top / kTwipsPerPixel);
   window.resize(bounds.width / kTwipsPerPixel, bounds.height / kTwipsPerPixel);

@@ -16,7 +16,7 @@ struct Look {
   static constexpr QColor kPanelEdge{0x3b, 0x4b, 0x5c};
   static constexpr QColor kText{0xd6, 0xdd, 0xe4};
   static constexpr QColor kCaption{0xa4, 0xb5, 0xc6};  // says what stands beside it
-  static constexpr QColor kDisabledText{0x9a, 0xa8, 0xb6};
+  static constexpr QColor kDisabledText{0xa0, 0xad, 0xba};
 
   // Light: the Moon and the results.
   static constexpr QColor kLightPanel{0xf1, 0xf4, 0xf8};
@@ -31,7 +31,7 @@ struct Look {
   static constexpr QColor kDisabledField{0xc3, 0xcc, 0xd5};
   static constexpr QColor kDisabledFieldText{0x40, 0x4d, 0x5a};
   static constexpr QColor kButton{0x43, 0x56, 0x69};
-  static constexpr QColor kDisabledButton{0x35, 0x43, 0x52};
+  static constexpr QColor kDisabledButton{0x31, 0x3e, 0x4c};
   static constexpr QColor kOption{0x66, 0x7d, 0x94};  // the ground of option buttons, check boxes
   static constexpr QColor kSelection{0x2a, 0x72, 0xb0};
   static constexpr QColor kSelectionText{0xff, 0xff, 0xff};

@@ -1,0 +1,17 @@
+#include <QApplication>
+
+#include "desktop/look.h"
+#include "tests/desktop/suites.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  tarnwick::ApplyLook(application);
+  int failures = 0;
+  for (const auto suite :
+       {tarnwick::RunBinderTests, tarnwick::RunBinderFormTests, tarnwick::RunBinderTextTests,
+        tarnwick::RunMainWindowViewTests, tarnwick::RunQtDesktopTests}) {
+    failures += suite(argc, argv);
+  }
+  return failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}

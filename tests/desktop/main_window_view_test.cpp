@@ -1,0 +1,324 @@
+#include "desktop/main_window_view.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <cmath>
+#include <memory>
+#include <set>
+
+#include "desktop/look.h"
+#include "tests/desktop/suites.h"
+
+namespace tarnwick {
+namespace {
+
+// A desktop that notes what it is asked for; its clock stands still.
+class NotingDesktop final : public Desktop {
+ public:
+  explicit NotingDesktop(HandlerGate& gate) : gate_(gate) {}
+
+  MessageAnswer ShowMessage(const Message& message) override {
+    messages.push_back(message);
+    return MessageAnswer::kOk;
+  }
+  ClockReading ReadClock() const override { return {"2024-03-05", "12:34:56", 0}; }
+  std::string ClipboardText() const override { return {}; }
+  void SetClipboardText(const std::string& /*text*/) override {}
+  std::optional<std::filesystem::path> AskSavePath(const std::string& /*title*/,
+                                                   const std::string& /*suggestion*/) override {
+    return std::nullopt;
+  }
+  std::filesystem::path UserDataFolder() const override { return {}; }
+  std::filesystem::path ProgramFolder() const override { return {}; }
+  void OpenWebPage(const std::string& /*address*/) override {}
+  void Yield(YieldMode /*mode*/) override {}
+  void EndProgram() override { gate_.Shut(); }
+
+  std::vector<Message> messages;
+
+ private:
+  HandlerGate& gate_;
+};
+
+struct MainWindow {
+  MainWindow() {
+    gate.Run([&] { form.Form_Load(); });
+  }
+
+  template <class Widget>
+  Widget& Find(const Control& control) {
+    return *qobject_cast<Widget*>(view.WidgetOf(control));
+  }
+
+  HandlerGate gate{[](const std::string& what) { QFAIL(what.c_str()); }};
+  NotingDesktop desktop{gate};
+  Screen screen;
+  frmMain form{desktop, screen};
+  MainWindowView view{form, gate};
+};
+
+double Luminance(const QColor& color) {
+  const auto linear = [](double value) {
+    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+         0.0722 * linear(color.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+  const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
+  return (light + 0.05) / (dark + 0.05);
+}
+
+// The widgets that show a text, each of which knows how much room it needs for it.
+std::vector<QWidget*> TextWidgets(const QWidget& window) {
+  std::vector<QWidget*> found;
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    const bool text = qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget) ||
+                      qobject_cast<QLineEdit*>(widget) || qobject_cast<QComboBox*>(widget);
+    if (text && widget->isVisible()) found.push_back(widget);
+  }
+  return found;
+}
+
+void VerifyNothingIsClipped(const QWidget& window) {
+  for (const QWidget* widget : TextWidgets(window)) {
+    const QByteArray name = widget->objectName().toUtf8();
+    const QSize needed = widget->minimumSizeHint();
+    QVERIFY2(widget->width() >= needed.width(), name);
+    QVERIFY2(widget->height() >= needed.height(), name);
+    const QRect place(widget->mapTo(&window, QPoint()), widget->size());
+    QVERIFY2(window.rect().contains(place), name);
+  }
+}
+
+}  // namespace
+
+class MainWindowViewTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void typedDateIsComputedOnReturn();
+  void faultyEntryIsReported();
+  void everyControlHasItsWidget();
+  void mnemonicsAreUnique();
+  void tabKeyFollowsTheOrderOfUse();
+  void labelIsCopiedByKeyboard();
+  void timeSystemsStayApartFromTheDirection();
+  void checkMarkAppearsBesideNow();
+  void currentCalendarIsWhite();
+  void closeBoxEndsTheProgram();
+  void noTextIsClipped_data();
+  void noTextIsClipped();
+  void longestDateLeavesTheWindowAlone();
+  void textsStandOutFromTheirGround();
+};
+
+void MainWindowViewTest::typedDateIsComputedOnReturn() {
+  MainWindow main;
+  QVERIFY(QTest::qWaitForWindowActive(&main.view));
+  QCOMPARE(main.view.windowTitle(), "Tarnwick 18.0");
+  auto& date = main.Find<QLineEdit>(main.form.txbDate);
+  QVERIFY(date.hasFocus());
+  QTest::keyClicks(&date, "2003-12-31 ce 15:55");
+  QTest::keyClick(&date, Qt::Key_Return);
+  QCOMPARE(main.Find<QAbstractButton>(main.form.lblCommonEraDate[1]).text(),
+           "2003-12-31 CE (Wednesday, December 31, 2003)");
+  QCOMPARE(main.Find<QAbstractButton>(main.form.lblTime[1]).text(), "15:55 (local=GMT)");
+  QCOMPARE(date.text(), "2003-12-31 CE 15:55");
+  QCOMPARE(date.cursorPosition(), 19);
+  QVERIFY(main.desktop.messages.empty());
+}
+
+void MainWindowViewTest::faultyEntryIsReported() {
+  MainWindow main;
+  QVERIFY(QTest::qWaitForWindowActive(&main.view));
+  auto& date = main.Find<QLineEdit>(main.form.txbDate);
+  QTest::keyClicks(&date, "2003-13-31 ce");
+  QTest::keyClick(&main.view, Qt::Key_C, Qt::AltModifier);
+  QTRY_COMPARE(main.desktop.messages.size(), std::size_t{1});
+  QCOMPARE(main.desktop.messages.front().title, "Invalid date/time entry");
+  QCOMPARE(date.text(), "2003-13-31 CE");
+}
+
+void MainWindowViewTest::everyControlHasItsWidget() {
+  MainWindow main;
+  for (Control* control : main.form.Controls()) {
+    const char* name = control->Name().c_str();
+    if (dynamic_cast<Timer*>(control) != nullptr) continue;
+    const QWidget* widget = main.view.WidgetOf(*control);
+    QVERIFY2(widget != nullptr, name);
+    QVERIFY2(!widget->accessibleName().isEmpty(), name);
+    QVERIFY2(widget->accessibleName() != widget->objectName(), name);
+    // The tab key stops at the chosen one of a group of option buttons only.
+    const auto* option = dynamic_cast<OptionButton*>(control);
+    const bool tab_stop = control->CanTakeFocus() && (option == nullptr || option->Value());
+    if (tab_stop) QVERIFY2((widget->focusPolicy() & Qt::TabFocus) != 0, name);
+  }
+}
+
+void MainWindowViewTest::mnemonicsAreUnique() {
+  MainWindow main;
+  std::set<QString> seen;
+  for (const QWidget* widget : TextWidgets(main.view)) {
+    const QVariant text = widget->property("text");
+    const QString letter = QKeySequence::mnemonic(text.toString()).toString();
+    if (letter.isEmpty() || qobject_cast<const QLineEdit*>(widget)) continue;
+    QVERIFY2(seen.insert(letter).second, qPrintable(letter + " of " + text.toString()));
+  }
+  QCOMPARE(seen.size(), std::size_t{10});
+}
+
+void MainWindowViewTest::tabKeyFollowsTheOrderOfUse() {
+  MainWindow main;
+  QVERIFY(QTest::qWaitForWindowActive(&main.view));
+  QStringList order;
+  for (int i = 0; i < 40 && (i == 0 || main.view.focusWidget()->objectName() != "txbDate"); ++i) {
+    order << main.view.focusWidget()->objectName();
+    QTest::keyClick(main.view.focusWidget(), Qt::Key_Tab);
+  }
+  const QStringList expected{
+      "txbDate",
+      "optPlus",
+      "txbPlusMinus",
+      "cmdCompute",
+      "cmdClearDate",
+      "cmdNow",
+      "optLocal",
+      "cboTimeZone",
+      "lblTime(1)",
+      "lblCommonEraDate(1)",
+      "lblJulianCalendarDate(1)",
+      "lblArchetypesDate(1)",
+      "lblSarvikDolmerSLCDate(1)",
+      "lblLTCLunarDate(1)",
+      "lblKSGDate(1)",
+      "lblOstrelLWCDate(1)",
+      "lblChronologicalJulianDate(1)",
+      "lblAstronomicalJulianDate(1)",
+      "cmdQuit",
+  };
+  QCOMPARE(order, expected);
+}
+
+void MainWindowViewTest::labelIsCopiedByKeyboard() {
+  MainWindow main;
+  QVERIFY(QTest::qWaitForWindowActive(&main.view));
+  auto& julian = main.Find<QWidget>(main.form.lblJulianCalendarDate[1]);
+  julian.setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&julian, Qt::Key_Return);
+  auto& date = main.Find<QLineEdit>(main.form.txbDate);
+  QCOMPARE(date.text(), "2024-02-21 JC 12:34");
+  QVERIFY(date.hasFocus());
+}
+
+void MainWindowViewTest::timeSystemsStayApartFromTheDirection() {
+  MainWindow main;
+  main.Find<QAbstractButton>(main.form.optMinus).click();
+  main.Find<QAbstractButton>(main.form.optGreenwich).click();
+  QVERIFY(main.form.optMinus.Value() && main.form.optGreenwich.Value());
+  QVERIFY(main.Find<QAbstractButton>(main.form.optMinus).isChecked());
+  QVERIFY(!main.Find<QAbstractButton>(main.form.optLocal).isChecked());
+}
+
+void MainWindowViewTest::checkMarkAppearsBesideNow() {
+  MainWindow main;
+  const auto& mark = main.Find<QWidget>(main.form.picCheck);
+  auto& now = main.Find<QWidget>(main.form.cmdNow);
+  const QRect before = now.geometry();
+  QVERIFY(!mark.isVisible());
+  QTest::mouseClick(&now, Qt::LeftButton);
+  QCoreApplication::processEvents();
+  QVERIFY(mark.isVisible());
+  QCOMPARE(now.geometry(), before);
+}
+
+void MainWindowViewTest::currentCalendarIsWhite() {
+  MainWindow main;
+  const auto color = [&](frmMain::DateLabel& label) {
+    return main.Find<QWidget>(label[1]).palette().color(QPalette::WindowText);
+  };
+  QCOMPARE(color(main.form.lblCommonEraDate), QColor(255, 255, 255));
+  QCOMPARE(color(main.form.lblKSGDate), QColor(200, 200, 200));
+  QTest::mouseClick(&main.Find<QWidget>(main.form.lblKSGDate[0]), Qt::LeftButton);
+  QCOMPARE(color(main.form.lblCommonEraDate), QColor(200, 200, 200));
+  QCOMPARE(color(main.form.lblKSGDate), QColor(255, 255, 255));
+}
+
+void MainWindowViewTest::closeBoxEndsTheProgram() {
+  MainWindow main;
+  main.view.close();
+  QVERIFY(!main.gate.IsOpen());
+  QVERIFY(!main.view.isVisible());
+}
+
+void MainWindowViewTest::noTextIsClipped_data() {
+  QTest::addColumn<double>("scale");
+  QTest::newRow("100 %") << 1.0;
+  QTest::newRow("150 %") << 1.5;
+  QTest::newRow("250 %") << 2.5;
+}
+
+void MainWindowViewTest::noTextIsClipped() {
+  QFETCH(double, scale);
+  const QFont usual = QApplication::font();
+  QFont font = usual;
+  font.setPointSizeF(usual.pointSizeF() * scale);
+  QApplication::setFont(font);
+  {
+    MainWindow main;
+    QVERIFY(QTest::qWaitForWindowExposed(&main.view));
+    VerifyNothingIsClipped(main.view);
+    main.view.resize(1, 1);
+    QCoreApplication::processEvents();
+    VerifyNothingIsClipped(main.view);
+    const auto& date = main.Find<QLineEdit>(main.form.txbDate);
+    QVERIFY(date.fontMetrics().horizontalAdvance(date.placeholderText()) <
+            date.width() - date.textMargins().left() - date.textMargins().right());
+  }
+  QApplication::setFont(usual);
+}
+
+void MainWindowViewTest::longestDateLeavesTheWindowAlone() {
+  MainWindow main;
+  QVERIFY(QTest::qWaitForWindowExposed(&main.view));
+  const QSize before = main.view.minimumSizeHint();
+  main.form.lblOstrelLWCDate[1].SetCaption(
+      "9000-13-3-3 OLW (Daythree in Weekthree of De Quincy, 9000)");
+  main.form.lblAgeOfMoon[1].SetCaption("[-64316] 29 days, 23 hrs, 59 mins (100.0%)");
+  QCoreApplication::processEvents();
+  QCOMPARE(main.view.minimumSizeHint(), before);
+  VerifyNothingIsClipped(main.view);
+}
+
+void MainWindowViewTest::textsStandOutFromTheirGround() {
+  struct {
+    const char* name;
+    QColor text;
+    QColor ground;
+  } const pairs[] = {
+      {"text", Look::kText, Look::kPanel},
+      {"text on the window", Look::kText, Look::kWindow},
+      {"caption", Look::kCaption, Look::kPanel},
+      {"other calendars", QColor(200, 200, 200), Look::kPanel},
+      {"disabled", Look::kDisabledText, Look::kPanel},
+      {"Moon", Look::kLightText, Look::kLightPanel},
+      {"caption of the Moon", Look::kLightCaption, Look::kLightPanel},
+      {"field", Look::kFieldText, Look::kField},
+      {"hint in a field", Look::kPlaceholder, Look::kField},
+      {"disabled field", Look::kDisabledFieldText, Look::kDisabledField},
+      {"button", Look::kSelectionText, Look::kButton},
+      {"disabled button", Look::kDisabledText, Look::kDisabledButton},
+      {"selection", Look::kSelectionText, Look::kSelection},
+      {"tool tip", Look::kToolTipText, Look::kToolTip},
+  };
+  for (const auto& pair : pairs) QVERIFY2(Contrast(pair.text, pair.ground) >= 4.5, pair.name);
+}
+
+int RunMainWindowViewTests(int argc, char** argv) { return Run<MainWindowViewTest>(argc, argv); }
+
+}  // namespace tarnwick
+
+#include "main_window_view_test.moc"

@@ -1,0 +1,175 @@
+#include "desktop/qt_desktop.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include "tests/desktop/suites.h"
+
+namespace tarnwick {
+
+class QtDesktopTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void messageBoxShowsTheMessageAndAnswers_data();
+  void messageBoxShowsTheMessageAndAnswers();
+  void clockReadsLocalTime();
+  void clipboardKeepsText();
+  void filePathIsAskedFor();
+  void userFolderFollowsTheEnvironment();
+  void programFolderHoldsTheProgram();
+  void waitingYieldWaitsForAnEvent();
+  void endedProgramRunsNothingMore();
+
+ private:
+  HandlerGate gate_{[](const std::string& what) { QFAIL(what.c_str()); }};
+  QtDesktop desktop_{gate_};
+};
+
+namespace {
+
+// Does something to the next modal window once it is open.
+template <class Window, class Action>
+void WhenModal(const Action& action) {
+  auto* poll = new QTimer(qApp);
+  QObject::connect(poll, &QTimer::timeout, poll, [poll, action] {
+    auto* window = qobject_cast<Window*>(QApplication::activeModalWidget());
+    if (window == nullptr) return;
+    poll->stop();
+    poll->deleteLater();
+    action(*window);
+  });
+  poll->start(5);
+}
+
+}  // namespace
+
+void QtDesktopTest::messageBoxShowsTheMessageAndAnswers_data() {
+  QTest::addColumn<MessageIcon>("icon");
+  QTest::addColumn<MessageButtons>("buttons");
+  QTest::addColumn<int>("key");
+  QTest::addColumn<int>("shown");
+  QTest::addColumn<MessageAnswer>("answer");
+  using enum MessageIcon;
+  const auto row = [](const char* name, MessageIcon icon, MessageButtons buttons, int key,
+                      int shown, MessageAnswer answer) {
+    QTest::newRow(name) << icon << buttons << key << shown << answer;
+  };
+  constexpr auto kOk = MessageButtons::kOk;
+  constexpr auto kOkCancel = MessageButtons::kOkCancel;
+  constexpr auto kYesNo = MessageButtons::kYesNo;
+  row("ok", kExclamation, kOk, Qt::Key_Return, QMessageBox::Warning, MessageAnswer::kOk);
+  row("ok, Escape", kNone, kOk, Qt::Key_Escape, QMessageBox::NoIcon, MessageAnswer::kOk);
+  row("ok or cancel", kQuestion, kOkCancel, Qt::Key_Return, QMessageBox::Question,
+      MessageAnswer::kOk);
+  row("cancel", kQuestion, kOkCancel, Qt::Key_Escape, QMessageBox::Question,
+      MessageAnswer::kCancel);
+  row("yes", kInformation, kYesNo, Qt::Key_Return, QMessageBox::Information, MessageAnswer::kYes);
+  row("no", kQuestion, kYesNo, Qt::Key_Escape, QMessageBox::Question, MessageAnswer::kNo);
+}
+
+void QtDesktopTest::messageBoxShowsTheMessageAndAnswers() {
+  QFETCH(MessageIcon, icon);
+  QFETCH(MessageButtons, buttons);
+  QFETCH(int, key);
+  QFETCH(int, shown);
+  WhenModal<QMessageBox>([key, shown](QMessageBox& box) {
+    QCOMPARE(box.text(), "<b>plain</b>");
+    QCOMPARE(box.textFormat(), Qt::PlainText);
+    QCOMPARE(box.windowTitle(), "Compute date");
+    QCOMPARE(static_cast<int>(box.icon()), shown);
+    QTest::keyClick(&box, static_cast<Qt::Key>(key));
+  });
+  const MessageAnswer given = desktop_.ShowMessage({"<b>plain</b>", "Compute date", icon, buttons});
+  QFETCH(MessageAnswer, answer);
+  QCOMPARE(given, answer);
+}
+
+void QtDesktopTest::clockReadsLocalTime() {
+  const ClockReading clock = desktop_.ReadClock();
+  const QString text = QString::fromStdString(clock.date + " " + clock.time);
+  const QDateTime read = QDateTime::fromString(text, "yyyy-MM-dd HH:mm:ss");
+  QVERIFY(read.isValid());
+  const QDateTime now = QDateTime::currentDateTime();
+  QVERIFY(std::abs(read.secsTo(now)) <= 2);
+  QDateTime gmt = read.addSecs(-60 * clock.offset_minutes);
+  gmt.setTimeSpec(Qt::UTC);
+  QVERIFY(std::abs(gmt.secsTo(QDateTime::currentDateTimeUtc())) <= 2);
+}
+
+void QtDesktopTest::clipboardKeepsText() {
+  desktop_.SetClipboardText("\xC5\xA0\r\nlog");
+  QCOMPARE(desktop_.ClipboardText(), "\xC5\xA0\r\nlog");
+}
+
+void QtDesktopTest::filePathIsAskedFor() {
+  const QTemporaryDir folder;
+  WhenModal<QFileDialog>([&](QFileDialog& dialog) {
+    QCOMPARE(dialog.windowTitle(), "Save picture");
+    QCOMPARE(QFileInfo(dialog.selectedFiles().value(0)).fileName(), "lunation.png");
+    dialog.selectFile(folder.filePath("moon"));
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  const auto path = desktop_.AskSavePath("Save picture", "lunation.png");
+  QVERIFY(path.has_value());
+  QCOMPARE(QString::fromStdString(path->string()), folder.filePath("moon.png"));
+
+  WhenModal<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+  QVERIFY(!desktop_.AskSavePath("Save picture", "lunation.png").has_value());
+}
+
+void QtDesktopTest::userFolderFollowsTheEnvironment() {
+#ifdef Q_OS_WIN
+  QSKIP("the shell tells the folder");
+#endif
+  const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+  const std::string home = QDir::homePath().toStdString();
+  qputenv("XDG_CONFIG_HOME", "/tmp/a folder");
+  QCOMPARE(desktop_.UserDataFolder().string(), "/tmp/a folder");
+  for (const char* useless : {"", "not/absolute"}) {
+    qputenv("XDG_CONFIG_HOME", useless);
+    QCOMPARE(desktop_.UserDataFolder().string(), home + "/.config");
+  }
+  qputenv("XDG_CONFIG_HOME", before);
+}
+
+void QtDesktopTest::programFolderHoldsTheProgram() {
+  const QString name = QFileInfo(QCoreApplication::applicationFilePath()).fileName();
+  QVERIFY(std::filesystem::exists(desktop_.ProgramFolder() / name.toStdString()));
+}
+
+void QtDesktopTest::waitingYieldWaitsForAnEvent() {
+  QCoreApplication::processEvents();
+  bool happened = false;
+  desktop_.Yield(YieldMode::kPoll);
+  QTimer::singleShot(30, this, [&] { happened = true; });
+  desktop_.Yield(YieldMode::kPoll);
+  QVERIFY(!happened);
+  while (!happened) desktop_.Yield(YieldMode::kWait);
+}
+
+// The last of the tests: it shuts the gate.
+void QtDesktopTest::endedProgramRunsNothingMore() {
+  int later = 0;
+  QTimer::singleShot(0, this, [&] {
+    gate_.Run([&] {
+      desktop_.EndProgram();
+      desktop_.Yield(YieldMode::kWait);  // returns although no event comes
+      gate_.Run([&] { ++later; });
+    });
+  });
+  QCOMPARE(QApplication::exec(), 0);
+  gate_.Run([&] { ++later; });
+  QCOMPARE(later, 0);
+}
+
+int RunQtDesktopTests(int argc, char** argv) { return Run<QtDesktopTest>(argc, argv); }
+
+}  // namespace tarnwick
+
+#include "qt_desktop_test.moc"
