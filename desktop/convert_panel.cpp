@@ -15,6 +15,7 @@
 namespace tarnwick {
 namespace {
 
+constexpr int kVisibleZones = 17;
 constexpr char kLongestDayCount[] = "+9,999,999";
 
 // Option buttons that exclude each other need a parent of their own.
@@ -113,6 +114,7 @@ void MainWindowView::AddTimeZone(QHBoxLayout& row, QWidget* panel) {
   row.addWidget(caption);
 
   zone->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  zone->setMaxVisibleItems(kVisibleZones);
   binder_.Bind(form_.cboTimeZone, *zone);
   row.addWidget(zone);
 }

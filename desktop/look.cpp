@@ -2,12 +2,28 @@
 
 #include <QApplication>
 #include <QFontMetrics>
-#include <QStyleFactory>
+#include <QProxyStyle>
 #include <QToolTip>
 #include <QWidget>
 
 namespace tarnwick {
 namespace {
+
+class Style final : public QProxyStyle {
+ public:
+  Style() : QProxyStyle("Fusion") {}
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* returned) const override {
+    switch (hint) {
+      case SH_ComboBox_Popup:  // a list that scrolls, not a menu as high as the screen
+      case SH_ComboBox_AllowWheelScrolling:  // a stray turn of the wheel would move the moment
+        return 0;
+      default:
+        return QProxyStyle::styleHint(hint, option, widget, returned);
+    }
+  }
+};
 
 QPalette DarkPalette() {
   QPalette palette;
@@ -18,8 +34,8 @@ QPalette DarkPalette() {
   palette.setColor(QPalette::Text, Look::kFieldText);
   palette.setColor(QPalette::PlaceholderText, Look::kPlaceholder);
   palette.setColor(QPalette::Button, Look::kButton);
-  palette.setColor(QPalette::ButtonText, Look::kSelectionText);
-  palette.setColor(QPalette::BrightText, Look::kSelectionText);
+  palette.setColor(QPalette::ButtonText, Look::kButtonText);
+  palette.setColor(QPalette::BrightText, Look::kButtonText);
   palette.setColor(QPalette::Highlight, Look::kSelection);
   palette.setColor(QPalette::HighlightedText, Look::kSelectionText);
   palette.setColor(QPalette::Link, Look::kFocusRing);
@@ -44,14 +60,14 @@ QPalette DarkPalette() {
 QPalette OptionPalette() {
   QPalette palette = DarkPalette();
   palette.setColor(QPalette::Base, Look::kOption);
-  palette.setColor(QPalette::Text, Look::kSelectionText);
+  palette.setColor(QPalette::Text, Look::kButtonText);
   return palette;
 }
 
 }  // namespace
 
 void ApplyLook(QApplication& application) {
-  application.setStyle(QStyleFactory::create("Fusion"));
+  application.setStyle(new Style);
   const QPalette palette = DarkPalette();
   application.setPalette(palette);
   application.setPalette(OptionPalette(), "QRadioButton");

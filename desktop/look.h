@@ -32,9 +32,11 @@ struct Look {
   static constexpr QColor kDisabledFieldText{0x40, 0x4d, 0x5a};
   static constexpr QColor kButton{0x43, 0x56, 0x69};
   static constexpr QColor kDisabledButton{0x31, 0x3e, 0x4c};
-  static constexpr QColor kOption{0x66, 0x7d, 0x94};  // the ground of option buttons, check boxes
-  static constexpr QColor kSelection{0x2a, 0x72, 0xb0};
-  static constexpr QColor kSelectionText{0xff, 0xff, 0xff};
+  static constexpr QColor kOption{0x5c, 0x72, 0x89};  // the ground of option buttons, check boxes
+  static constexpr QColor kButtonText{0xff, 0xff, 0xff};
+  // Light, since the outline of what has the focus is drawn in a shade of it.
+  static constexpr QColor kSelection{0x7d, 0xb8, 0xe8};
+  static constexpr QColor kSelectionText{0x17, 0x21, 0x2b};
   static constexpr QColor kFocusRing{0x7d, 0xb8, 0xe8};
   static constexpr QColor kCheckMark{0x8a, 0xdb, 0x96};
 

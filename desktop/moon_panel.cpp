@@ -19,7 +19,10 @@ QWidget* MainWindowView::MakeMoonPanel() {
   panel->SetTitle("Moon");
   auto* rows = new QGridLayout;
   rows->setHorizontalSpacing(2 * Spacing(*panel));
-  rows->setVerticalSpacing(Spacing(*panel) / 2);
+  // The padding of the dates beside them, so that the rows stand on one line.
+  const int padding = panel->fontMetrics().height() / 6;
+  rows->setContentsMargins(0, padding, 0, padding);
+  rows->setVerticalSpacing(2 * padding);
   rows->setColumnStretch(1, 1);
   rows->setColumnMinimumWidth(1, panel->fontMetrics().horizontalAdvance(kLongestAge));
   AddMoonRow(form_.lblPhaseOfMoon, *rows, panel);

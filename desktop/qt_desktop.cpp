@@ -49,10 +49,13 @@ MessageAnswer AnswerOf(int pressed, MessageButtons buttons) {
   return buttons == MessageButtons::kYesNo ? MessageAnswer::kNo : MessageAnswer::kCancel;
 }
 
-// A short text would leave the title no room beside the buttons of the window's frame.
-void WidenForTitle(QMessageBox& box) {
+// Makes room for the title beside the buttons of the window's frame, and for a line of text that
+// would else break just before its end.
+void Widen(QMessageBox& box) {
   const QFontMetrics font = box.fontMetrics();
-  const int width = font.horizontalAdvance(box.windowTitle()) + 12 * font.height();
+  const int title = font.horizontalAdvance(box.windowTitle()) + 12 * font.height();
+  const int text = font.size(0, box.text()).width() + 8 * font.height();
+  const int width = qMax(title, qMin(text, 48 * font.height()));
   auto* grid = static_cast<QGridLayout*>(box.layout());
   grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
@@ -64,7 +67,7 @@ MessageAnswer QtDesktop::ShowMessage(const Message& message) {
                   ButtonsOf(message.buttons), QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
   for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
-  WidenForTitle(box);
+  Widen(box);
   return AnswerOf(box.exec(), message.buttons);
 }
 

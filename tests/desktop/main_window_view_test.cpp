@@ -309,7 +309,7 @@ void MainWindowViewTest::textsStandOutFromTheirGround() {
       {"field", Look::kFieldText, Look::kField},
       {"hint in a field", Look::kPlaceholder, Look::kField},
       {"disabled field", Look::kDisabledFieldText, Look::kDisabledField},
-      {"button", Look::kSelectionText, Look::kButton},
+      {"button", Look::kButtonText, Look::kButton},
       {"disabled button", Look::kDisabledText, Look::kDisabledButton},
       {"selection", Look::kSelectionText, Look::kSelection},
       {"tool tip", Look::kToolTipText, Look::kToolTip},
