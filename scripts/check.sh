@@ -1,0 +1,21 @@
+#!/bin/bash
+# Checks the form of the C++ sources with clang-format, then their sense with clang-tidy.
+# usage: scripts/check.sh [--format]     --format: clang-format only
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+if (($# > 1)) || [[ ${1:-} != @(|--format) ]]; then
+  echo "usage: scripts/check.sh [--format]" >&2
+  exit 2
+fi
+
+scripts/packages.sh check
+git ls-files -z '*.h' '*.cpp' | xargs -0r clang-format --dry-run -Werror
+[[ ${1:-} == --format ]] && exit
+
+# clang-tidy reads how each source is compiled, and Qt's generated headers, from the release build.
+./test.sh --build-only
+# Every source below the root but those that Qt's tools generate in build/. Warnings of the
+# compiler's own are GCC's business: clang's -Wconversion has another idea of the signs.
+run-clang-tidy -quiet -p build/release -j "$(nproc)" -extra-arg=-Wno-everything \
+  "^$PWD/(?!build/)"
