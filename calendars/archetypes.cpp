@@ -168,12 +168,12 @@ std::string_view ARCMonthName(std::int32_t month) {
 }
 
 std::string ARCDateString(const ARCDate& record, std::int32_t style) {
-  const std::string numbers = std::to_string(record.year) + "-" + TwoDigits(record.month) + "-" +
+  std::string numbers = std::to_string(record.year) + "-" + TwoDigits(record.month) + "-" +
                               TwoDigits(record.day) + " ARC";
   const std::string month(ARCMonthName(record.month));
   const std::string year = SignedNumberText(record.year);
-  const std::string words = month + SignedNumberText(record.day) + ", " + year;
-  const std::string day_words = std::string(ARCDayName(record.day)) + ", " + words;
+  std::string words = month + SignedNumberText(record.day) + ", " + year;
+  std::string day_words = std::string(ARCDayName(record.day)) + ", " + words;
   switch (style) {
     case 1:
       return numbers;

@@ -66,12 +66,12 @@ QPalette OptionPalette() {
 
 }  // namespace
 
-void ApplyLook(QApplication& application) {
-  application.setStyle(new Style);
+void ApplyLook() {
+  QApplication::setStyle(new Style);
   const QPalette palette = DarkPalette();
-  application.setPalette(palette);
-  application.setPalette(OptionPalette(), "QRadioButton");
-  application.setPalette(OptionPalette(), "QCheckBox");
+  QApplication::setPalette(palette);
+  QApplication::setPalette(OptionPalette(), "QRadioButton");
+  QApplication::setPalette(OptionPalette(), "QCheckBox");
   QToolTip::setPalette(palette);
 }
 

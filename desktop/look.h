@@ -45,7 +45,7 @@ struct Look {
 };
 
 // Gives the program its style and palette, the same on every desktop.
-void ApplyLook(QApplication& application);
+void ApplyLook();
 
 // The palette of the light panels and what they hold.
 QPalette LightPalette();

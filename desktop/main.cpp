@@ -29,7 +29,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("tarnwick");
   QApplication::setQuitOnLastWindowClosed(false);  // the main window's form ends the program
-  tarnwick::ApplyLook(application);
+  tarnwick::ApplyLook();
 
   tarnwick::HandlerGate gate(EndWithFault);
   tarnwick::QtDesktop desktop(gate);

@@ -6,7 +6,7 @@
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  tarnwick::ApplyLook(application);
+  tarnwick::ApplyLook();
   int failures = 0;
   for (const auto suite :
        {tarnwick::RunBinderTests, tarnwick::RunBinderFormTests, tarnwick::RunBinderTextTests,

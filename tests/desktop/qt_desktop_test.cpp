@@ -97,7 +97,7 @@ void QtDesktopTest::clockReadsLocalTime() {
   QVERIFY(read.isValid());
   const QDateTime now = QDateTime::currentDateTime();
   QVERIFY(std::abs(read.secsTo(now)) <= 2);
-  QDateTime gmt = read.addSecs(-60 * clock.offset_minutes);
+  QDateTime gmt = read.addSecs(qint64{-60} * clock.offset_minutes);
   gmt.setTimeSpec(Qt::UTC);
   QVERIFY(std::abs(gmt.secsTo(QDateTime::currentDateTimeUtc())) <= 2);
 }
