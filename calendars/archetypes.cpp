@@ -169,7 +169,7 @@ std::string_view ARCMonthName(std::int32_t month) {
 
 std::string ARCDateString(const ARCDate& record, std::int32_t style) {
   std::string numbers = std::to_string(record.year) + "-" + TwoDigits(record.month) + "-" +
-                              TwoDigits(record.day) + " ARC";
+                        TwoDigits(record.day) + " ARC";
   const std::string month(ARCMonthName(record.month));
   const std::string year = SignedNumberText(record.year);
   std::string words = month + SignedNumberText(record.day) + ", " + year;

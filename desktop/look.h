@@ -4,7 +4,6 @@
 #include <QColor>
 #include <QPalette>
 
-class QApplication;
 class QWidget;
 
 namespace tarnwick {

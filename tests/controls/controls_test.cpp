@@ -13,7 +13,8 @@ namespace {
 
 // A window with one control of each kind that has a value, counting what its handlers see.
 struct TestForm : Form {
-  explicit TestForm(Screen& screen, std::string name = "frmTest") : Form(screen, std::move(name), "Test") {
+  explicit TestForm(Screen& screen, std::string name = "frmTest")
+      : Form(screen, std::move(name), "Test") {
     check.on_click = [this] { ++clicks; };
     first.on_click = second.on_click = list.on_click = [this] { ++clicks; };
     for (const char* item : {"a", "b", "c"}) list.AddItem(item);
