@@ -1,6 +1,7 @@
 #include "app/main_window.h"
 
 #include "app/time_zone.h"
+#include "moon/syzyg.h"
 
 namespace tarnwick {
 namespace {
@@ -80,6 +81,7 @@ void frmMain::Form_Load() {
 
 // Sets the choices of a first start; each runs its handler, which sets the colours.
 void frmMain::Initialise() {
+  InitLunations();
   dblMoment = PresentMoment();
   FillTimeZones();
   ClearValueLabels();

@@ -106,6 +106,8 @@ class frmMain final : public Form {
   void DisplayTime();
   // Returns the moment in the current calendar, in short form.
   std::string DisplayAllDates();
+  void DisplayDeltaT();
+  // Time, all dates and delta T; returns what DisplayAllDates does.
   std::string DisplayMoment();
   void MarkCurrentCalendar();
   void CopyDateToEntryBox();

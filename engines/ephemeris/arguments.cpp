@@ -1,0 +1,87 @@
+#include "engines/ephemeris/arguments.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace tarnwick {
+namespace {
+
+constexpr double kJ2000 = 2451545.0;
+constexpr double kDaysPerCentury = 36525.0;
+constexpr double kSpanBegin = 550000.0;
+constexpr double kSpanEnd = 3914990.0;
+constexpr double kRadiansPerDegree = std::numbers::pi / 180;
+constexpr double kRadiansPerArcsecond = kRadiansPerDegree / 3600;
+
+using Polynomial = std::array<double, 9>;
+
+constexpr Polynomial kArguments[] = {
+#include "engines/ephemeris/arguments.inc"
+};
+constexpr std::size_t kSunLongitude = 13;
+constexpr std::size_t kEccentricity = 14;
+constexpr std::size_t kP = 15;
+constexpr std::size_t kQ = 16;
+static_assert(std::size(kArguments) == kQ + 1);
+
+// A polynomial's value and its rate a century.
+MovingAngle Evaluate(const Polynomial& c, double t) {
+  double value = 0;
+  double rate = 0;
+  for (std::size_t i = c.size(); i-- > 0;) {
+    rate = rate * t + value;
+    value = value * t + c[i];
+  }
+  return {value, rate};
+}
+
+double Centuries(double ajd_tt) { return (ajd_tt - kJ2000) / kDaysPerCentury; }
+
+// Degrees and degrees a century; along the tangent outside the span.
+MovingAngle Continue(const Polynomial& c, double ajd_tt) {
+  const double held = HeldCenturies(ajd_tt);
+  MovingAngle angle = Evaluate(c, held);
+  angle.value += angle.rate * (Centuries(ajd_tt) - held);
+  return angle;
+}
+
+double ReducedRadians(double degrees) {
+  return (degrees - 360 * std::floor(degrees / 360)) * kRadiansPerDegree;
+}
+
+MovingAngle AngleAt(std::size_t argument, double ajd_tt) {
+  const MovingAngle degrees = Continue(kArguments[argument], ajd_tt);
+  return {ReducedRadians(degrees.value), degrees.rate * kRadiansPerDegree / kDaysPerCentury};
+}
+
+}  // namespace
+
+double HeldCenturies(double ajd_tt) { return Centuries(std::clamp(ajd_tt, kSpanBegin, kSpanEnd)); }
+
+Arguments ArgumentsAt(double ajd_tt) {
+  Arguments arguments;
+  for (std::size_t i = 0; i < kAngles; ++i) arguments.angles[i] = AngleAt(i, ajd_tt);
+  arguments.sun_longitude = AngleAt(kSunLongitude, ajd_tt);
+  const double held = HeldCenturies(ajd_tt);
+  arguments.eccentricity = Evaluate(kArguments[kEccentricity], held).value;
+  arguments.p = Evaluate(kArguments[kP], held).value * kRadiansPerArcsecond;
+  arguments.q = Evaluate(kArguments[kQ], held).value * kRadiansPerArcsecond;
+  arguments.x = held / 50;
+  return arguments;
+}
+
+// Newton's method on a function that is nearly a straight line: it converges at once.
+double MeanElongationInstant(double turns) {
+  const Polynomial& c = kArguments[kD];
+  double ajd_tt = kJ2000 + (360 * turns - c[0]) / c[1] * kDaysPerCentury;
+  for (int i = 0; i < 3; ++i) {
+    const MovingAngle degrees = Continue(c, ajd_tt);
+    ajd_tt += (360 * turns - degrees.value) / degrees.rate * kDaysPerCentury;
+  }
+  return ajd_tt;
+}
+
+double MeanArgumentOfLatitude(double ajd_tt) { return AngleAt(kF, ajd_tt).value; }
+
+}  // namespace tarnwick

@@ -1,0 +1,67 @@
+#include "engines/ephemeris/moon_sun_track.h"
+
+#include <cmath>
+#include <cstddef>
+
+namespace tarnwick {
+namespace {
+
+MovingVector Rectangular(const Position& position) {
+  const double sin_l = std::sin(position.longitude.value);
+  const double cos_l = std::cos(position.longitude.value);
+  const double sin_b = std::sin(position.latitude.value);
+  const double cos_b = std::cos(position.latitude.value);
+  const double r = position.distance / kKmPerEarthRadius;
+  const Vector3 outward{cos_b * cos_l, cos_b * sin_l, sin_b};
+  const Vector3 east{-sin_l, cos_l, 0};
+  const Vector3 north{-sin_b * cos_l, -sin_b * sin_l, cos_b};
+  return {r * outward, position.distance_rate / kKmPerEarthRadius * outward +
+                           r * cos_b * position.longitude.rate * east +
+                           r * position.latitude.rate * north};
+}
+
+}  // namespace
+
+MoonAndSunVectors MoonAndSunVectorsAt(double ajd_tt) {
+  const MoonAndSun positions = PositionsAt(ajd_tt);
+  return {Rectangular(positions.moon), Rectangular(positions.sun)};
+}
+
+MoonSunTrack::MoonSunTrack(double syzygy, const MoonAndSunVectors& middle) {
+  const MoonAndSunVectors before = MoonAndSunVectorsAt(syzygy - kReach);
+  const MoonAndSunVectors after = MoonAndSunVectorsAt(syzygy + kReach);
+  moon_ = Interpolate(before.moon, middle.moon, after.moon);
+  sun_ = Interpolate(before.sun, middle.sun, after.sun);
+}
+
+// In u = offset / kReach the outer instants are -1 and 1. Half the sum of the outer places gives
+// the even powers, half their difference the odd ones; the velocities likewise.
+MoonSunTrack::Coefficients MoonSunTrack::Interpolate(const MovingVector& before,
+                                                     const MovingVector& middle,
+                                                     const MovingVector& after) {
+  const Vector3 even = 0.5 * (after.value + before.value) - middle.value;
+  const Vector3 even_slope = 0.5 * kReach * (after.rate - before.rate);
+  const Vector3 c1 = kReach * middle.rate;
+  const Vector3 odd = 0.5 * (after.value - before.value) - c1;
+  const Vector3 odd_slope = 0.5 * kReach * (after.rate + before.rate) - c1;
+  const Vector3 c4 = 0.5 * even_slope - even;
+  const Vector3 c5 = 0.5 * (odd_slope - 3 * odd);
+  return {middle.value, c1, even - c4, odd - c5, c4, c5};
+}
+
+MovingVector MoonSunTrack::Evaluate(const Coefficients& coefficients, double offset) {
+  const double u = offset / kReach;
+  Vector3 value;
+  Vector3 slope;
+  for (std::size_t i = coefficients.size(); i-- > 0;) {
+    slope = u * slope + value;
+    value = u * value + coefficients[i];
+  }
+  return {value, 1 / kReach * slope};
+}
+
+MoonAndSunVectors MoonSunTrack::At(double offset) const {
+  return {Evaluate(moon_, offset), Evaluate(sun_, offset)};
+}
+
+}  // namespace tarnwick

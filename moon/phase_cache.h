@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstdint>
+
+#include "engines/phase_engine.h"
+
+namespace tarnwick {
+
+// A principal phase as the phase engine has found it.
+struct PhaseEvent {
+  double tt = 0;            // its instant, AJD, Terrestrial Time
+  double ut = 0;            // and in Universal Time
+  EclipseRecord eclipse{};  // the eclipse at it
+};
+
+// The event of a lunation and phase, from a bounded store of those asked for last. It is what the
+// engine answers, whether it was stored or not. The reference holds until the next call.
+const PhaseEvent& FindPhaseEvent(std::int32_t lunation, std::int16_t phase);
+
+// Forgets everything stored.
+void ClearPhaseCache();
+
+}  // namespace tarnwick

@@ -1,0 +1,191 @@
+#include "engines/phase_engine.h"
+
+#include <cmath>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <numbers>
+#include <vector>
+
+#include "engines/ephemeris/positions.h"
+#include "engines/ephemeris/saros.h"
+#include "tests/error_statistics.h"
+#include "tests/reference_data.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr double kDegree = std::numbers::pi / 180;
+constexpr double kArcsecond = kDegree / 3600;
+constexpr double kSecond = 1.0 / 86400;
+
+double Turned(double radians) { return std::remainder(radians, 2 * std::numbers::pi); }
+
+// check_values.csv: ten epochs (AJD, TT), degrees and km. The rows marked "series" are the full
+// tables, those marked "de431" the ephemeris that they were fitted to; ours are a shorter cut of
+// the tables, whose largest errors against DE431 over 1.2 million epochs are the bounds here.
+TEST(Positions, AgreeWithTheFullSeriesAndWithTheEphemeris) {
+  ErrorStatistics elongation;
+  ErrorStatistics latitude;
+  ErrorStatistics distance;
+  for (const ReferenceRow& row : ReadReferenceData("check_values.csv")) {
+    SCOPED_TRACE(row.at("source") + " " + row.at("jd_tt"));
+    const auto value = [&](const char* column) { return std::stod(row.at(column)); };
+    const auto [moon, sun] = PositionsAt(value("jd_tt"));
+    const double moon_error = Turned(moon.longitude.value - value("moon_lon_deg") * kDegree);
+    const double sun_error = Turned(sun.longitude.value - value("sun_lon_deg") * kDegree);
+    elongation.Add((moon_error - sun_error) / kArcsecond);
+    latitude.Add((moon.latitude.value - value("moon_lat_deg") * kDegree) / kArcsecond);
+    distance.Add(moon.distance - value("moon_km"));
+    EXPECT_NEAR(sun_error / kArcsecond, 0, 0.22);
+    EXPECT_NEAR(sun.latitude.value / kArcsecond, value("sun_lat_deg") * 3600, 0.15);
+    EXPECT_NEAR(sun.distance / kKmPerAu, value("sun_au"), 4e-6);
+  }
+  elongation.Print("elongation", "arcseconds");
+  latitude.Print("latitude of the Moon", "arcseconds");
+  distance.Print("distance of the Moon", "km");
+  EXPECT_EQ(elongation.Count(), 20U);
+  EXPECT_LT(elongation.Largest(), 0.58);
+  EXPECT_LT(latitude.Largest(), 0.56);
+  EXPECT_LT(distance.Largest(), 1.17);
+}
+
+TEST(Positions, RatesAreTheSlopesOfTheValues) {
+  constexpr double kStep = 0.001;
+  for (double t = 552283.0; t < 3912515.0; t += 33360.7) {
+    SCOPED_TRACE(t);
+    const auto [moon, sun] = PositionsAt(t);
+    const auto [moon_before, sun_before] = PositionsAt(t - kStep);
+    const auto [moon_after, sun_after] = PositionsAt(t + kStep);
+    const auto slope = [](double after, double before) { return (after - before) / (2 * kStep); };
+    const auto turn = [](const Position& after, const Position& before) {
+      return Turned(after.longitude.value - before.longitude.value) / (2 * kStep);
+    };
+    EXPECT_NEAR(turn(moon_after, moon_before), moon.longitude.rate, 3e-7);
+    EXPECT_NEAR(turn(sun_after, sun_before), sun.longitude.rate, 3e-7);
+    EXPECT_NEAR(slope(moon_after.latitude.value, moon_before.latitude.value), moon.latitude.rate,
+                3e-7);
+    EXPECT_NEAR(slope(moon_after.distance, moon_before.distance), moon.distance_rate, 0.1);
+    EXPECT_NEAR(slope(sun_after.distance, sun_before.distance), sun.distance_rate, 5);
+  }
+}
+
+// phases.csv: AJD in TT, given to 1e-7 day, from JPL DE431.
+TEST(Syzyg, IsWithinASecondOfTheEphemerisOver9200Years) {
+  ErrorStatistics errors;
+  EclipseRecord record;
+  const char* const columns[] = {"new", "first_quarter", "full", "last_quarter"};
+  for (const ReferenceRow& row : ReadReferenceData("phases.csv")) {
+    const std::int32_t lunation = std::stoi(row.at("lunation"));
+    for (std::int32_t phase = 0; phase < 4; ++phase) {
+      const double instant = syzyg(lunation, phase, record);
+      errors.Add((instant - std::stod(row.at(columns[phase]))) / kSecond);
+    }
+  }
+  errors.Print("phase instants", "seconds");
+  EXPECT_EQ(errors.Count(), 2000U);
+  EXPECT_LT(errors.Largest(), 1.05);
+  EXPECT_LT(errors.Rms(), 0.2);
+  EXPECT_LT(std::fabs(errors.Mean()), 0.1);
+}
+
+TEST(Syzyg, PhasesFollowOneAnotherAWeekApartFarBeyondTheRange) {
+  EclipseRecord record;
+  for (const std::int32_t first : {-400000, -64400, -64316, -1, 0, 16226, 49472, 49600, 400000}) {
+    for (std::int32_t n = first; n < first + 20; ++n) {
+      for (std::int32_t phase = 0; phase < 4; ++phase) {
+        SCOPED_TRACE(testing::Message() << n << " " << phase);
+        const double length = syzyg(n, phase + 1, record) - syzyg(n, phase, record);
+        EXPECT_GT(length, 6.4);
+        EXPECT_LT(length, 8.6);
+      }
+      EXPECT_EQ(syzyg(n, 4, record), syzyg(n + 1, 0, record));
+    }
+  }
+}
+
+TEST(Syzyg, AnswersAnyLunation) {
+  EclipseRecord record;
+  for (const std::int32_t n : {INT32_MIN, -100'000'000, 100'000'000, INT32_MAX}) {
+    for (std::int32_t phase = 0; phase < 4; ++phase) {
+      EXPECT_TRUE(std::isfinite(syzyg(n, phase, record))) << n;
+      EXPECT_TRUE(std::isfinite(record.greatest));
+    }
+  }
+}
+
+TEST(Syzyg, FillsTheRecordAndLeavesTheRestOfItZero) {
+  EclipseRecord record;
+  std::memset(&record, 0x55, sizeof record);
+  syzyg(300, 0, record);  // the new moon of 2024-04-08
+  EXPECT_EQ(record.lunation, 300);
+  EXPECT_EQ(record.type, 3);
+  EXPECT_EQ(record.saros, 139);
+  EXPECT_NEAR(record.gamma, 0.3431, 0.0002);
+  EXPECT_EQ(record.penumbral_magnitude, 0);
+  EXPECT_EQ(record.total_minutes, 0);
+
+  for (const auto& [n, phase] : {std::pair(301, 0), std::pair(300, 1), std::pair(300, 3)}) {
+    std::memset(&record, 0x55, sizeof record);
+    syzyg(n, phase, record);
+    EclipseRecord none{};
+    none.lunation = n;
+    EXPECT_EQ(std::memcmp(&record, &none, sizeof record), 0) << n << " " << phase;
+  }
+}
+
+struct DeltaTValue {
+  double year;
+  double seconds;    // of the model's published tables or formulas at the year's middle
+  double tolerance;  // seconds
+};
+
+TEST(DeltaT, FollowsObservationsAndTheLongTermParabola) {
+  const DeltaTValue values[] = {
+      {-2000.5, 20518.40 + 32.5 * (38.25 * 38.25 - 25.45 * 25.45), 0.01},
+      {-720.5, 20518.40, 0.01},
+      {-0.5, 10550, 30},
+      {999.5, 1650, 200},
+      {1799.5, 18.4, 0.5},
+      {1899.5, -1.9, 1},
+      {1999.5, 63.83, 0.05},
+      {2014.5, 67.64, 0.1},
+      {2827, -320 + 32.5 * 10.025 * 10.025, 0.01},
+      {5999.5, -320 + 32.5 * 41.75 * 41.75, 0.01},
+  };
+  for (const DeltaTValue& value : values) {
+    EXPECT_NEAR(deltat(value.year, kDeltaTModel) * 60, value.seconds, value.tolerance)
+        << value.year;
+  }
+}
+
+TEST(DeltaT, IsSmoothWhereItsPiecesMeet) {
+  constexpr double kStep = 0.01;
+  const auto seconds = [](double year) { return deltat(year - 0.5, kDeltaTModel) * 60; };
+  for (const double year : {-720.0, 2027.0, 2827.0}) {
+    const double before = (seconds(year) - seconds(year - kStep)) / kStep;
+    const double after = (seconds(year + kStep) - seconds(year)) / kStep;
+    EXPECT_NEAR(before, after, 0.01) << year;
+  }
+}
+
+TEST(Saros, NumbersThePublishedSeries) {
+  // 1999-08-11, 2017-08-21 (a saros later), 2024-04-08; lunar 2018-01-31, 2022-11-08.
+  EXPECT_EQ(SolarSaros(-5), 145);
+  EXPECT_EQ(SolarSaros(218), 145);
+  EXPECT_EQ(SolarSaros(300), 139);
+  EXPECT_EQ(LunarSaros(223), 124);
+  EXPECT_EQ(LunarSaros(282), 136);
+}
+
+TEST(Longitudes, AreThoseOfThePositions) {
+  double latitude = 0;
+  double distance = 0;
+  const auto [moon, sun] = PositionsAt(2451600.25);
+  EXPECT_EQ(moonpos(55.25, latitude, distance), moon.longitude.value);
+  EXPECT_EQ(latitude, moon.latitude.value);
+  EXPECT_EQ(sun_app(2451600.25, distance), sun.longitude.value);
+  EXPECT_NEAR(distance, 1, 0.02);
+}
+
+}  // namespace
+}  // namespace tarnwick

@@ -1,0 +1,126 @@
+#include "moon/syzyg.h"
+
+#include <cmath>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <limits>
+#include <vector>
+
+#include "calendars/checked_arithmetic.h"
+#include "moon/phase_cache.h"
+
+namespace tarnwick {
+namespace {
+
+struct Lunations : testing::Test {
+  Lunations() {
+    ClearPhaseCache();
+    InitLunations();
+  }
+  bool exact = false;
+};
+
+TEST_F(Lunations, CoverTheAcceptedRange) {
+  EXPECT_NEAR(LunationBase, 2451550.1 + 0.159, 0.01);  // 2000 January 6, 18:14 UT
+  EXPECT_EQ(LunationOf(552283.0), -64316);
+  EXPECT_EQ(LunationOf(3912515.0), 49472);
+}
+
+// Every phase instant belongs to the phase and lunation that it begins, and the moment just before
+// it to those before; 16227 is a lunation whose new moon falls into one year in Terrestrial Time
+// and into the next in Universal Time, where delta T is another.
+TEST_F(Lunations, BeginExactlyAtTheirNewMoons) {
+  for (std::int32_t n = -64316; n <= 49472; n += n == 16224 ? 1 : 97) {
+    if (n > 16224 && n < 16224 + 97) n = n < 16228 ? n : 16321;
+    SCOPED_TRACE(n);
+    for (std::int16_t phase = 0; phase < 4; ++phase) {
+      const double instant = PhaseTime(n, phase);
+      EXPECT_EQ(LunationOf(instant), n);
+      EXPECT_EQ(GetPhase(n, instant, exact), phase);
+      EXPECT_TRUE(exact);
+      EXPECT_EQ(GetPhase(n, instant + 0.00006, exact), phase);
+      EXPECT_FALSE(exact);
+    }
+    const double before = std::nextafter(PhaseTime(n, 0), 0);
+    EXPECT_EQ(LunationOf(before), n - 1);
+    EXPECT_EQ(GetPhase(n - 1, before, exact), 3);
+    EXPECT_FALSE(exact);
+  }
+}
+
+TEST_F(Lunations, GetPhaseTellsALunationThatDoesNotFit) {
+  const double moment = PhaseTime(100, 2);
+  EXPECT_EQ(GetPhase(99, moment, exact), -1);
+  EXPECT_EQ(GetPhase(101, moment, exact), -2);
+  EXPECT_EQ(PhaseAt(100, Syzygy(100, 2), exact), 2);
+  EXPECT_TRUE(exact);
+}
+
+TEST_F(Lunations, AnInstantIsTheSameNumberWhoeverAsks) {
+  std::vector<double> forward;
+  for (std::int32_t n = 0; n < 600; ++n) forward.push_back(PhaseTime(n, 2));
+  for (std::int32_t n = 600; n-- > 0;) {
+    EXPECT_EQ(PhaseTime(n, 2), forward[static_cast<std::size_t>(n)]);
+  }
+  for (const std::int32_t n : {7, 255, 256, 512}) {
+    ClearPhaseCache();
+    EclipseRecord cached;
+    EclipseRecord uncached;
+    const double alone = syzyg(n, 2, uncached);
+    EXPECT_EQ(Syzygy(n, 2), alone);
+    EXPECT_EQ(Syzygy(n, 2, cached), alone);
+    EXPECT_EQ(std::memcmp(&cached, &uncached, sizeof cached), 0);
+    EXPECT_EQ(PhaseTime(n, 2), forward[static_cast<std::size_t>(n)]);
+  }
+}
+
+TEST_F(Lunations, EclipseDataIsOfTheLastQuestion) {
+  PhaseTime(300, 0);
+  EXPECT_EQ(EclipseData.lunation, 300);
+  EXPECT_EQ(EclipseData.type, 3);
+  PhaseTime(300, 1);
+  EXPECT_EQ(EclipseData.type, 0);
+  PhaseTime(300, 0);
+  EXPECT_EQ(EclipseData.type, 3);
+}
+
+TEST_F(Lunations, EndFarBeyondTheRangeAndRefuseWhatDoesNotFit) {
+  for (const double moment : {-9.5e6, -1e5, 4.5e6, 1.3e7}) {
+    const std::int32_t n = LunationOf(moment);
+    EXPECT_LE(PhaseTime(n, 0), moment);
+    EXPECT_GT(PhaseTime(n + 1, 0), moment);
+    EXPECT_GE(GetPhase(n, moment, exact), 0);
+  }
+  const double infinity = std::numeric_limits<double>::infinity();
+  for (const double moment : {1e12, -1e12, infinity, std::nan("")}) {
+    EXPECT_THROW(LunationOf(moment), RuntimeError) << moment;
+  }
+  EXPECT_THROW(PhaseTime(INT32_MAX, 0), RuntimeError);
+  EXPECT_THROW(GetPhase(INT32_MAX, 0, exact), RuntimeError);
+}
+
+TEST_F(Lunations, DeltaTIsConstantWithinAYear) {
+  const double first_day = 2451544.5;  // 2000-01-01
+  EXPECT_EQ(DeltaT(first_day + 0.6), DeltaT(first_day + 365));
+  EXPECT_NE(DeltaT(first_day + 0.6), DeltaT(first_day + 367));
+  EXPECT_EQ(DeltaT(first_day + 0.6), DeltaTForYear(2000));
+}
+
+TEST_F(Lunations, PositionsAreGivenFrom1600To2099) {
+  double latitude = 0;
+  EXPECT_EQ(MoonPosition(2305447.4, latitude), kBeforePositions);
+  EXPECT_GE(MoonPosition(2305447.5, latitude), 0);
+  EXPECT_GE(MoonPosition(2488069.4, latitude), 0);
+  EXPECT_EQ(MoonPosition(2488069.5, latitude), kAfterPositions);
+}
+
+TEST_F(Lunations, EclipseTypesHaveNamesFrom1To10) {
+  EXPECT_EQ(EclipseTypeText(0), "");
+  EXPECT_EQ(EclipseTypeText(6), "Central annular-total solar eclipse");
+  EXPECT_EQ(EclipseTypeText(10), "Total lunar eclipse");
+  EXPECT_EQ(EclipseTypeText(11), "");
+  EXPECT_EQ(EclipseTypeText(-1), "");
+}
+
+}  // namespace
+}  // namespace tarnwick
