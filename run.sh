@@ -12,7 +12,7 @@ scripts/packages.sh "${groups[@]}"
 
 # Whoever only wants the program needs neither GoogleTest nor Google Benchmark.
 cmake --preset release -DTARNWICK_TESTS=OFF -DTARNWICK_BENCHMARKS=OFF
-cmake --build --preset release --target tarnwick tarnwick_driver
+cmake --build --preset release --target tarnwick tarnwick_driver tarnwick_tables
 
 program=build/release/bin/tarnwick
 if has_display; then

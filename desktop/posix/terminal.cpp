@@ -1,0 +1,9 @@
+#include "desktop/terminal.h"
+
+#include <unistd.h>
+
+namespace tarnwick {
+
+bool ErrorsGoToTerminal() { return isatty(STDERR_FILENO) != 0; }
+
+}  // namespace tarnwick

@@ -1,0 +1,216 @@
+#include "tools/tables/tables.h"
+
+#include <array>
+#include <charconv>
+#include <cstdint>
+#include <ostream>
+#include <string>
+
+#include "app/calendar_table.h"
+#include "app/date_texts.h"
+#include "calendars/date_processing.h"
+#include "calendars/text.h"
+#include "moon/phase_cache.h"
+#include "moon/syzyg.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::int32_t kFirstYear = -3200;
+constexpr std::int32_t kLastYear = 6001;
+
+constexpr std::string_view kUsage =
+    "usage: tarnwick_tables phases|eclipses|dates FROM TO\n"
+    "Prints every principal phase, eclipse or day from 1 January of the CE year FROM up to but\n"
+    "not including that of TO, as CSV. Years -3200 to 6001.\n";
+
+// What is to be printed: from `begin` (inclusive) to `end`, AJD in Universal Time.
+struct Period {
+  double begin;
+  double end;
+};
+
+// Where a table goes, and how far it has come.
+class Printer {
+ public:
+  Printer(const Period& period, std::ostream& out, std::ostream* progress)
+      : period_(period), out_(out), progress_(progress) {}
+
+  // Prints a row that belongs to a moment; false when the output takes no more.
+  bool Print(double moment, const std::string& row) {
+    ShowProgress(moment);
+    out_ << row << '\n';
+    return out_.good();
+  }
+
+ private:
+  void ShowProgress(double moment) {
+    if (progress_ == nullptr) return;
+    const int percent =
+        static_cast<int>(100 * (moment - period_.begin) / (period_.end - period_.begin));
+    if (percent == percent_) return;
+    percent_ = percent;
+    *progress_ << '\r' << percent << " %" << std::flush;
+  }
+
+  Period period_;
+  std::ostream& out_;
+  std::ostream* progress_;
+  int percent_ = -1;
+};
+
+double NewYear(std::int32_t year) {
+  DateRecord date;
+  date.calendar = 'G';
+  date.year = year;
+  date.month = 1;
+  date.day = 1;
+  return CJDToAJD(euro_date_to_jdn(date), 0);
+}
+
+std::string Join(std::span<const std::string> cells) {
+  std::string row;
+  for (const std::string& cell : cells) {
+    if (!row.empty()) row += ',';
+    row += cell;
+  }
+  return row;
+}
+
+std::string Instant(double ajd) { return FormatFixed(ajd, 7, false); }
+
+// Empty for what a kind of eclipse does not have.
+std::string Optional(double value, int decimals) {
+  return value == 0 ? "" : FormatFixed(value, decimals, false);
+}
+
+// Calls visit(lunation, phase, event) for the phases of the lunations that touch the period, in
+// order, until it returns false.
+template <class Visit>
+bool VisitPhases(const Period& period, std::int16_t step, const Visit& visit) {
+  const std::int32_t last = LunationOf(period.end) + 1;
+  for (std::int32_t lunation = LunationOf(period.begin) - 1; lunation <= last; ++lunation) {
+    for (std::int16_t phase = 0; phase < 4; phase = static_cast<std::int16_t>(phase + step)) {
+      if (!visit(lunation, phase, FindPhaseEvent(lunation, phase))) return false;
+    }
+  }
+  return true;
+}
+
+bool Contains(const Period& period, double moment) {
+  return moment >= period.begin && moment < period.end;
+}
+
+bool PrintPhases(const Period& period, Printer& printer) {
+  const std::string header = "lunation,phase,tt,ut";
+  if (!printer.Print(period.begin, header)) return false;
+  return VisitPhases(period, 1, [&](std::int32_t lunation, std::int16_t phase, const auto& event) {
+    if (!Contains(period, event.ut)) return true;
+    const std::array cells{std::to_string(lunation), std::to_string(phase), Instant(event.tt),
+                           Instant(event.ut)};
+    return printer.Print(event.ut, Join(cells));
+  });
+}
+
+std::string EclipseRow(std::int32_t lunation, std::int16_t phase, const EclipseRecord& eclipse,
+                       double ut) {
+  const std::array cells{std::to_string(lunation),
+                         std::to_string(phase),
+                         std::to_string(eclipse.type),
+                         std::to_string(eclipse.saros),
+                         Instant(eclipse.greatest),
+                         Instant(ut),
+                         FormatFixed(eclipse.gamma, 5, false),
+                         FormatFixed(eclipse.magnitude, 5, false),
+                         Optional(eclipse.penumbral_magnitude, 5),
+                         Optional(eclipse.penumbral_minutes, 3),
+                         Optional(eclipse.umbral_minutes, 3),
+                         Optional(eclipse.total_minutes, 3)};
+  return Join(cells);
+}
+
+bool PrintEclipses(const Period& period, Printer& printer) {
+  const std::string header =
+      "lunation,phase,type,saros,tt,ut,gamma,magnitude,penumbral_magnitude,penumbral,umbral,total";
+  if (!printer.Print(period.begin, header)) return false;
+  return VisitPhases(period, 2, [&](std::int32_t lunation, std::int16_t phase, const auto& event) {
+    const EclipseRecord& eclipse = event.eclipse;
+    if (eclipse.type == 0) return true;
+    const double ut = eclipse.greatest - DeltaT(eclipse.greatest) / 1440;
+    if (!Contains(period, ut)) return true;
+    return printer.Print(ut, EclipseRow(lunation, phase, eclipse, ut));
+  });
+}
+
+constexpr std::array kDateColumns{kCE, kJC, kARC, kKSG};
+
+// The numeric text of a day without the abbreviation behind it.
+std::string DateCell(Calendar calendar, double noon) {
+  const std::string text = DateTextsOf(calendar, noon, 0).short_form;
+  return text.substr(0, text.find(' '));
+}
+
+bool PrintDates(const Period& period, Printer& printer) {
+  std::string header = "day_number,weekday";
+  for (const Calendar calendar : kDateColumns)
+    header += "," + std::string(AbbreviationOf(calendar));
+  if (!printer.Print(period.begin, header)) return false;
+  for (double noon = period.begin + 0.5; noon < period.end; ++noon) {
+    const std::int32_t day_number = SplitCJD(AJDToCJD(noon, 0)).day_number;
+    std::string row =
+        std::to_string(day_number) + "," + std::to_string(euro_day_of_week(day_number));
+    for (const Calendar calendar : kDateColumns) row += "," + DateCell(calendar, noon);
+    if (!printer.Print(noon, row)) return false;
+  }
+  return true;
+}
+
+struct Command {
+  std::string_view name;
+  bool (*print)(const Period& period, Printer& printer);
+};
+constexpr Command kCommands[] = {
+    {"phases", PrintPhases}, {"eclipses", PrintEclipses}, {"dates", PrintDates}};
+
+const Command* FindCommand(std::string_view name) {
+  for (const Command& command : kCommands) {
+    if (command.name == name) return &command;
+  }
+  return nullptr;
+}
+
+// False for a text that is not a whole number.
+bool ParseYear(std::string_view text, std::int32_t& year) {
+  const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), year);
+  return status == std::errc() && end == text.data() + text.size();
+}
+
+int Refuse(std::ostream& err, std::string_view why) {
+  err << "tarnwick_tables: " << why << '\n' << kUsage;
+  return kBadArguments;
+}
+
+}  // namespace
+
+int RunTables(std::span<const std::string_view> arguments, std::ostream& out, std::ostream& err,
+              bool shows_progress) {
+  if (arguments.size() != 3) return Refuse(err, "a command and two years are needed");
+  const Command* command = FindCommand(arguments[0]);
+  if (command == nullptr) return Refuse(err, "unknown command " + std::string(arguments[0]));
+  std::int32_t from = 0;
+  std::int32_t to = 0;
+  if (!ParseYear(arguments[1], from) || !ParseYear(arguments[2], to)) {
+    return Refuse(err, "a year is a whole number");
+  }
+  if (from < kFirstYear || to > kLastYear) return Refuse(err, "years run from -3200 to 6001");
+  if (from >= to) return Refuse(err, "FROM must be before TO");
+
+  InitLunations();
+  const Period period{NewYear(from), NewYear(to)};
+  Printer printer(period, out, shows_progress ? &err : nullptr);
+  const bool done = command->print(period, printer) && out.flush().good();
+  if (shows_progress) err << "\r     \r";
+  return done ? kTablesDone : kOutputClosed;
+}
+
+}  // namespace tarnwick
