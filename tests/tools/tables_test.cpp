@@ -28,8 +28,8 @@ Rows Table(const std::vector<std::string_view>& arguments) {
   return rows;
 }
 
-// An almanac's count: 2024 had 13 new moons, 13 last quarters and 12 of the others; 8 April saw a total solar
-// eclipse, 2 October an annular one, 25 March and 18 September lunar ones.
+// An almanac's count: 2024 had 13 new moons, 13 last quarters and 12 of the others; 8 April saw a
+// total solar eclipse, 2 October an annular one, 25 March and 18 September lunar ones.
 TEST(Tables, HoldThePhasesAndEclipsesOfAYear) {
   std::map<std::string, int> count;
   double last = 0;
