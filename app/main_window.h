@@ -57,6 +57,7 @@ class frmMain final : public Form {
   DateLabel lblAstronomicalJulianDate{*this, "lblAstronomicalJulianDate"};
 
   // The Moon.
+  Picture picMoon{*this, "picMoon"};
   DateLabel lblPhaseOfMoon{*this, "lblPhaseOfMoon"};
   DateLabel lblAgeOfMoon{*this, "lblAgeOfMoon"};
   DateLabel lblDeltaT{*this, "lblDeltaT"};

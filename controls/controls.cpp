@@ -42,6 +42,12 @@ bool Picture::Click() {
   return true;
 }
 
+void Picture::SetPicture(std::filesystem::path file, Retouch retouch) {
+  file_ = std::move(file);
+  retouch_ = std::move(retouch);
+  Notify(Property::kPicture);
+}
+
 bool CheckBox::Click() {
   SetValue(!value_);
   return true;

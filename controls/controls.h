@@ -1,7 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <filesystem>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -165,12 +168,26 @@ class ComboBox : public Control {
   int list_index_ = -1;
 };
 
+// Shows the picture of a file, perhaps retouched.
 class Picture : public Control {
  public:
+  // Changes pixels, 0xffRRGGBB, row by row from the top, `width` a row. It is called by whoever
+  // shows the picture, at the size at which it is shown.
+  using Retouch = std::function<void(std::span<std::uint32_t> pixels, int width)>;
+
   using Control::Control;
   bool Click() override;
 
+  const std::filesystem::path& File() const { return file_; }
+  const Retouch& RetouchOf() const { return retouch_; }
+  // An empty path shows nothing.
+  void SetPicture(std::filesystem::path file, Retouch retouch = {});
+
   Handler on_click;
+
+ private:
+  std::filesystem::path file_;
+  Retouch retouch_;
 };
 
 // Ticks every Interval milliseconds while enabled. It lies dormant until it is started.

@@ -17,6 +17,7 @@ enum class Property {
   kItems,
   kListIndex,
   kMinimised,
+  kPicture,
   kSelection,
   kText,
   kToolTipText,
