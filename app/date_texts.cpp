@@ -4,7 +4,10 @@
 #include "calendars/archetypes.h"
 #include "calendars/date_processing.h"
 #include "calendars/goddess.h"
+#include "calendars/lunar_week.h"
+#include "calendars/solilunar.h"
 #include "calendars/text.h"
+#include "calendars/triday.h"
 
 namespace tarnwick {
 namespace {
@@ -29,11 +32,33 @@ DateTexts ARCTexts(std::int32_t day_number) {
   return {ARCDateString(date, 1), ARCDateString(date, 2), ARCDateString(date, 4)};
 }
 
+DateTexts SDTexts(std::int32_t day_number) {
+  SDDate date;
+  date.jdn = day_number;
+  JDNToSDDate(date);
+  return {SDDateString(date, 1), SDDateString(date, 2), SDDateString(date, 4)};
+}
+
+DateTexts LLTTexts(std::int32_t day_number) {
+  LLTDate date;
+  date.jdn = day_number;
+  JDNToLLT(date);
+  return {LLTDateString(date, 1), LLTDateString(date, 2), LLTDateString(date, 3)};
+}
+
 DateTexts KSGTexts(std::int32_t day_number) {
   KSGDate date;
   date.jdn = day_number;
   JDNToKSGDate(date);
   return {KSGDateString(date, 1, true), KSGDateString(date, 2, true), KSGDateString(date, 3, true)};
+}
+
+DateTexts OLWTexts(std::int32_t day_number) {
+  OLWDate date;
+  date.jdn = day_number;
+  JDNToOLWDate(date);
+  const std::string short_form = OLWDateString(date, 1);
+  return {short_form, short_form + " (" + OLWDateString(date, 2) + ")", ""};
 }
 
 DateTexts DayCountTexts(double days, const std::string& abbreviation) {
@@ -53,8 +78,14 @@ DateTexts DateTextsOf(std::int16_t calendar, double ajd, int offset_minutes) {
       return EuroTexts(day_number, 'J', "JC");
     case kARC:
       return ARCTexts(day_number);
+    case kSD:
+      return SDTexts(day_number);
+    case kLLT:
+      return LLTTexts(day_number);
     case kKSG:
       return KSGTexts(day_number);
+    case kOLW:
+      return OLWTexts(SplitCJD(cjd - kOLWDayShift).day_number);
     case kCJD:
       return DayCountTexts(cjd, "CJD");
     case kAJD:

@@ -1,25 +1,10 @@
 // The current moment in every calendar, and the labels that copy a date back to the entry box.
-#include <cmath>
-
 #include "app/date_texts.h"
 #include "app/main_window.h"
 #include "calendars/date_processing.h"
 #include "calendars/text.h"
-#include "moon/syzyg.h"
 
 namespace tarnwick {
-namespace {
-
-constexpr double kOLWDayShift = 0.25;  // an OLW day begins at 6 o'clock
-constexpr double kMinutesPerDay = 1440;
-
-std::string DeltaTText(double minutes) {
-  if (minutes > kMinutesPerDay) return "More than 24 hours";
-  return DurationText(static_cast<std::int32_t>(std::nearbyint(minutes)), true);
-}
-
-}  // namespace
-
 double frmMain::AJDToCJD(double ajd) const { return tarnwick::AJDToCJD(ajd, ReadingOffset()); }
 
 // The time of day of the current moment, as its current calendar counts the day.
@@ -52,11 +37,10 @@ std::string frmMain::DisplayAllDates() {
   return summary;
 }
 
-void frmMain::DisplayDeltaT() { lblDeltaT[1].SetCaption(DeltaTText(DeltaT(dblMoment))); }
-
 std::string frmMain::DisplayMoment() {
   DisplayTime();
   std::string summary = DisplayAllDates();
+  DisplayMoonData();
   DisplayDeltaT();
   return summary;
 }

@@ -9,7 +9,10 @@
 #include "calendars/checked_arithmetic.h"
 #include "calendars/date_processing.h"
 #include "calendars/goddess.h"
+#include "calendars/lunar_week.h"
+#include "calendars/solilunar.h"
 #include "calendars/text.h"
+#include "calendars/triday.h"
 
 namespace tarnwick {
 namespace {
@@ -74,10 +77,40 @@ DayResult ParseARCDay(std::string_view date) {
   return {kEntryOk, arc.jdn};
 }
 
+// For a calendar whose own module reads its texts.
+template <typename Record>
+DayResult ParseOwnDay(std::string_view date, bool (*parse)(std::string_view, Record&),
+                      bool (*to_jdn)(Record&), std::int16_t failure) {
+  Record record;
+  if (!parse(date, record) || !to_jdn(record)) return FailedDay(failure);
+  return {kEntryOk, record.jdn};
+}
+
+DayResult ParseSDDay(std::string_view date) {
+  return ParseOwnDay(date, ParseSDDate, SDDateToJDN, kInvalidSD);
+}
+DayResult ParseLLTDay(std::string_view date) {
+  return ParseOwnDay(date, ParseLLTDate, LLTToJDN, kInvalidLLT);
+}
 DayResult ParseKSGDay(std::string_view date) {
-  KSGDate ksg;
-  if (!ParseKSGDate(date, ksg) || !KSGDateToJDN(ksg)) return FailedDay(kInvalidKSG);
-  return {kEntryOk, ksg.jdn};
+  return ParseOwnDay(date, ParseKSGDate, KSGDateToJDN, kInvalidKSG);
+}
+
+DayResult ParseOLWDay(std::string_view date) {
+  OLWDate olw;
+  const std::int16_t status = ParseOLWDate(date, olw);
+  switch (status) {
+    case kOLWValid:
+      return {kEntryOk, olw.jdn};
+    case kOLWBadMonth:
+      return FailedDay(kInvalidOLWMonth);
+    case kOLWBadWeek:
+      return FailedDay(kInvalidOLWWeek);
+    case kOLWBadDay:
+      return FailedDay(kInvalidOLWDay);
+    default:
+      return FailedDay(kInvalidOLW);
+  }
 }
 
 // How each calendar with a day number reads its date texts.
@@ -90,9 +123,9 @@ struct DayParser {
 // In the order in which a text is searched for their abbreviations.
 constexpr std::array kDayParsers{
     DayParser{kCE, kInvalidCE, ParseCEDay},    DayParser{kJC, kInvalidJC, ParseJCDay},
-    DayParser{kARC, kInvalidARC, ParseARCDay}, DayParser{kSD, kInvalidSD, nullptr},
-    DayParser{kLLT, kInvalidLLT, nullptr},     DayParser{kKSG, kInvalidKSG, ParseKSGDay},
-    DayParser{kOLW, kInvalidOLW, nullptr},
+    DayParser{kARC, kInvalidARC, ParseARCDay}, DayParser{kSD, kInvalidSD, ParseSDDay},
+    DayParser{kLLT, kInvalidLLT, ParseLLTDay}, DayParser{kKSG, kInvalidKSG, ParseKSGDay},
+    DayParser{kOLW, kInvalidOLW, ParseOLWDay},
 };
 
 const DayParser* FindDayParser(std::string_view text) {
@@ -169,7 +202,6 @@ Entry ParseDayCount(std::string_view text, const EntryContext& context) {
 }
 
 DayResult ParseDay(const DayParser& parser, std::string_view date) {
-  if (parser.parse == nullptr) return FailedDay(parser.failure);
   try {
     return parser.parse(date);
   } catch (const RuntimeError&) {  // a number too large for the calendar's arithmetic
@@ -189,7 +221,8 @@ Entry ParseDateAndTime(const std::string& text, const EntryContext& context) {
   if (day.code != kEntryOk) return Failed(day.code);
   Entry entry;
   entry.calendar = parser->calendar;
-  entry.ajd = CJDToAJD(day.day_number + parts.fraction, context.offset_minutes);
+  const double shift = parser->calendar == kOLW ? kOLWDayShift : 0;
+  entry.ajd = CJDToAJD(day.day_number + (parts.fraction + shift), context.offset_minutes);
   return entry;
 }
 

@@ -98,9 +98,12 @@ void frmMain::FillTimeZones() {
 
 void frmMain::ClearValueLabels() {
   for (DateLabel* label : date_labels_) (*label)[1].SetCaption("");
-  for (DateLabel* label : {&lblTime, &lblPhaseOfMoon, &lblAgeOfMoon, &lblDeltaT}) {
+  lblTime[1].SetCaption("");
+  for (DateLabel* label : {&lblPhaseOfMoon, &lblAgeOfMoon, &lblDeltaT}) {
     (*label)[1].SetCaption("");
+    (*label)[1].SetForeColor(kResultColor);
   }
+  picMoon.SetPicture({});
 }
 
 void frmMain::EnableDisableFunctions(bool enable) {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <string>
 
 #include "app/calendar_table.h"
@@ -17,6 +18,7 @@ inline constexpr double kUpperLimit = 3912515.0;  // AJD, noon of 6000-01-01 CE,
 
 inline constexpr Color kSelectedColor{255, 255, 255};
 inline constexpr Color kUnselectedColor{200, 200, 200};
+inline constexpr Color kResultColor{0, 0, 128};  // navy: the Moon and results
 
 // The main window. It holds the one current moment and shows it in every calendar.
 class frmMain final : public Form {
@@ -107,8 +109,13 @@ class frmMain final : public Form {
   void DisplayTime();
   // Returns the moment in the current calendar, in short form.
   std::string DisplayAllDates();
+  void DisplayMoonData();
+  void ShowPhaseOfMoon(double fraction, bool waxing);
+  void ShowMoonPicture(double fraction, bool waxing);
+  void ReportMissingPicture(const std::filesystem::path& file);
+  void ReportPhaseError(std::int16_t code, const std::string& routine);
   void DisplayDeltaT();
-  // Time, all dates and delta T; returns what DisplayAllDates does.
+  // Time, all dates, the Moon and delta T; returns what DisplayAllDates does.
   std::string DisplayMoment();
   void MarkCurrentCalendar();
   void CopyDateToEntryBox();
@@ -151,6 +158,7 @@ class frmMain final : public Form {
   bool blnClockRunning = false;      // the moment is the present one and follows the clock
   bool blnRestoring = false;         // the saved state is being restored
   bool blnRestoringHistory = false;  // an entry of the history is being recalled
+  bool blnPictureReported = false;   // that a picture of the Moon is missing
   std::string strCopiedEntry;        // what was last copied to the entry box
 };
 

@@ -7,6 +7,8 @@
 
 #include "calendars/archetypes.h"
 #include "calendars/goddess.h"
+#include "calendars/solilunar.h"
+#include "calendars/triday.h"
 #include "engines/date_engine.h"
 
 namespace tarnwick {
@@ -55,6 +57,10 @@ BENCHMARK_CAPTURE(FromDayNumber, JC, kJulianDate, jdn_to_euro_date);
 BENCHMARK_CAPTURE(ToDayNumber, JC, kJulianDate, jdn_to_euro_date, euro_date_to_jdn);
 BENCHMARK_CAPTURE(FromDayNumber, ARC, ARCDate{}, JDNToARCDate);
 BENCHMARK_CAPTURE(ToDayNumber, ARC, ARCDate{}, JDNToARCDate, ARCDateToJDN);
+BENCHMARK_CAPTURE(FromDayNumber, SD, SDDate{}, JDNToSDDate);
+BENCHMARK_CAPTURE(ToDayNumber, SD, SDDate{}, JDNToSDDate, SDDateToJDN);
+BENCHMARK_CAPTURE(FromDayNumber, LLT, LLTDate{}, JDNToLLT);
+BENCHMARK_CAPTURE(ToDayNumber, LLT, LLTDate{}, JDNToLLT, LLTToJDN);
 BENCHMARK_CAPTURE(FromDayNumber, KSG, KSGDate{}, JDNToKSGDate);
 BENCHMARK_CAPTURE(ToDayNumber, KSG, KSGDate{}, JDNToKSGDate, KSGDateToJDN);
 

@@ -14,7 +14,7 @@ constexpr std::int32_t kLastLunation = 49472;
 
 void MoonAndSunWithRates(benchmark::State& state) {
   double ajd = 552283.0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(PositionsAt(ajd));
     ajd = ajd < 3900000 ? ajd + 168.7 : 552283.0;
   }
@@ -26,7 +26,7 @@ void UncachedPhase(benchmark::State& state) {
   const auto phase = static_cast<std::int32_t>(state.range(0));
   EclipseRecord record;
   std::int32_t lunation = kFirstLunation;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(syzyg(lunation, phase, record));
     lunation = lunation < kLastLunation - 7 ? lunation + 7 : kFirstLunation;
   }
@@ -35,7 +35,7 @@ BENCHMARK(UncachedPhase)->DenseRange(0, 3);
 
 void CachedPhase(benchmark::State& state) {
   std::int32_t lunation = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(PhaseTime(lunation, 1));
     lunation = (lunation + 1) % 200;
   }
@@ -44,7 +44,7 @@ BENCHMARK(CachedPhase);
 
 void AllPhases(benchmark::State& state) {
   std::int64_t count = 0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     for (std::int32_t n = kFirstLunation; n <= kLastLunation; ++n) {
       for (std::int16_t phase = 0; phase < 4; ++phase, ++count) {
         benchmark::DoNotOptimize(PhaseTime(n, phase));
@@ -59,7 +59,7 @@ BENCHMARK(AllPhases)->Unit(benchmark::kSecond)->Iterations(1);
 void AllEclipses(benchmark::State& state) {
   std::int64_t count = 0;
   EclipseRecord record;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     for (std::int32_t n = kFirstLunation; n <= kLastLunation; ++n) {
       for (const std::int32_t phase : {0, 2}) {
         syzyg(n, phase, record);

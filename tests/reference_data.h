@@ -3,7 +3,6 @@
 
 #include <fstream>
 #include <map>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -13,10 +12,19 @@ namespace tarnwick {
 // One row of a table: the cells by the names of their columns.
 using ReferenceRow = std::map<std::string, std::string>;
 
+// The cells of a line; one in quotation marks may hold commas.
 inline std::vector<std::string> SplitCells(const std::string& line) {
-  std::vector<std::string> cells;
-  std::istringstream stream(line + ",");  // so that an empty last cell counts
-  for (std::string cell; std::getline(stream, cell, ',');) cells.push_back(cell);
+  std::vector<std::string> cells(1);
+  bool quoted = false;
+  for (const char c : line) {
+    if (c == '"') {
+      quoted = !quoted;
+    } else if (c == ',' && !quoted) {
+      cells.emplace_back();
+    } else {
+      cells.back() += c;
+    }
+  }
   return cells;
 }
 

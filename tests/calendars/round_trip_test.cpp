@@ -9,6 +9,8 @@
 #include "calendars/archetypes.h"
 #include "calendars/date_processing.h"
 #include "calendars/goddess.h"
+#include "calendars/solilunar.h"
+#include "calendars/triday.h"
 #include "tests/reference_data.h"
 
 namespace tarnwick {
@@ -18,9 +20,9 @@ constexpr std::int32_t kFirstDay = 552283;  // -3201-12-31 CE, where Greenwich n
 constexpr std::int32_t kLastDay = 3912515;  // 6000-01-01 CE
 constexpr std::int32_t kFarBeyond = 3'000'000;
 
-// The fields of a date from the greatest to the least: cycle (0 if there are none), year, month,
-// day.
-using Fields = std::array<std::int32_t, 4>;
+// The fields of a date from the greatest to the least: cycle (0 if there are none), year, month and
+// day, or triday and its day; 0 in the place that is left.
+using Fields = std::array<std::int32_t, 5>;
 
 struct Calendar {
   std::string name;  // as in the reference table
@@ -61,73 +63,107 @@ Calendar EuroCalendar(const std::string& name) {
           }};
 }
 
-ARCDate ARCDateOf(std::int32_t day_number) {
-  ARCDate record;
+// For the calendars with a module of their own.
+template <auto to_date, typename Record>
+Record DateOf(std::int32_t day_number) {
+  Record record;
   record.jdn = day_number;
-  JDNToARCDate(record);
+  to_date(record);
   return record;
 }
+
+template <auto to_jdn, typename Record>
+std::int32_t DayNumberOf(Record record) {
+  to_jdn(record);
+  return record.jdn;
+}
+
+template <auto parse, auto to_jdn, typename Record>
+std::optional<std::int32_t> Parse(const std::string& text) {
+  Record record;
+  if (!parse(text, record) || !to_jdn(record)) return std::nullopt;
+  return record.jdn;
+}
+
+// The text without the abbreviation behind it.
+std::string Numbers(const std::string& text) { return text.substr(0, text.find(' ')); }
+
+bool ParseARCDate(const std::string& text, ARCDate& record) {
+  DateRecord parsed;
+  parsed.calendar = 'R';
+  if (ParseDateString(text, parsed) != kDateParsed) return false;
+  record = {parsed.year, parsed.month, parsed.day};
+  return true;
+}
+
+constexpr auto ARCDateOf = DateOf<JDNToARCDate, ARCDate>;
+constexpr auto SDDateOf = DateOf<JDNToSDDate, SDDate>;
+constexpr auto LLTDateOf = DateOf<JDNToLLT, LLTDate>;
+constexpr auto KSGDateOf = DateOf<JDNToKSGDate, KSGDate>;
 
 Calendar ARCCalendar() {
   return {"ARC",
           [](std::int32_t day_number) {
-            const ARCDate record = ARCDateOf(day_number);
-            return Fields{0, record.year, record.month, record.day};
+            const ARCDate date = ARCDateOf(day_number);
+            return Fields{0, date.year, date.month, date.day};
           },
           [](const Fields& fields) {
-            ARCDate record{fields[1], fields[2], fields[3]};
-            ARCDateToJDN(record);
-            return record.jdn;
+            return DayNumberOf<ARCDateToJDN>(ARCDate{fields[1], fields[2], fields[3]});
           },
-          [](std::int32_t day_number) {
-            const std::string text = ARCDateString(ARCDateOf(day_number), 1);
-            return text.substr(0, text.find(" ARC"));
-          },
-          [](const std::string& text) -> std::optional<std::int32_t> {
-            DateRecord parsed;
-            parsed.calendar = 'R';
-            if (ParseDateString(text, parsed) != kDateParsed) return std::nullopt;
-            ARCDate record{parsed.year, parsed.month, parsed.day};
-            if (!ARCDateToJDN(record)) return std::nullopt;
-            return record.jdn;
-          }};
+          [](std::int32_t day_number) { return Numbers(ARCDateString(ARCDateOf(day_number), 1)); },
+          Parse<ParseARCDate, ARCDateToJDN, ARCDate>};
 }
 
-KSGDate KSGDateOf(std::int32_t day_number) {
-  KSGDate record;
-  record.jdn = day_number;
-  JDNToKSGDate(record);
-  return record;
+Calendar SDCalendar() {
+  return {"SD",
+          [](std::int32_t day_number) {
+            const SDDate date = SDDateOf(day_number);
+            return Fields{date.cycle, date.year, date.month, date.day};
+          },
+          [](const Fields& fields) {
+            return DayNumberOf<SDDateToJDN>(SDDate{fields[0], fields[1], fields[2], fields[3]});
+          },
+          [](std::int32_t day_number) { return Numbers(SDDateString(SDDateOf(day_number), 1)); },
+          Parse<ParseSDDate, SDDateToJDN, SDDate>};
+}
+
+Calendar LLTCalendar() {
+  return {"LLT",
+          [](std::int32_t day_number) {
+            const LLTDate date = LLTDateOf(day_number);
+            return Fields{date.cycle, date.year, date.month, date.triday, date.day};
+          },
+          [](const Fields& fields) {
+            return DayNumberOf<LLTToJDN>(
+                LLTDate{fields[0], fields[1], fields[2], fields[3], fields[4]});
+          },
+          [](std::int32_t day_number) { return Numbers(LLTDateString(LLTDateOf(day_number), 1)); },
+          Parse<ParseLLTDate, LLTToJDN, LLTDate>};
 }
 
 Calendar KSGCalendar() {
   return {"KSG",
           [](std::int32_t day_number) {
-            const KSGDate record = KSGDateOf(day_number);
-            return Fields{record.cycle, record.year, record.month, record.day};
+            const KSGDate date = KSGDateOf(day_number);
+            return Fields{date.cycle, date.year, date.month, date.day};
           },
           [](const Fields& fields) {
-            KSGDate record{fields[0], static_cast<std::int16_t>(fields[1]),
-                           static_cast<std::int16_t>(fields[2]),
-                           static_cast<std::int16_t>(fields[3])};
-            KSGDateToJDN(record);
-            return record.jdn;
+            return DayNumberOf<KSGDateToJDN>(KSGDate{
+                fields[0], static_cast<std::int16_t>(fields[1]),
+                static_cast<std::int16_t>(fields[2]), static_cast<std::int16_t>(fields[3])});
           },
           [](std::int32_t day_number) { return KSGDateString(KSGDateOf(day_number), 1, false); },
-          [](const std::string& text) -> std::optional<std::int32_t> {
-            KSGDate record;
-            if (!ParseKSGDate(text, record) || !KSGDateToJDN(record)) return std::nullopt;
-            return record.jdn;
-          }};
+          Parse<ParseKSGDate, KSGDateToJDN, KSGDate>};
 }
 
 // Whether one field goes up by one, all greater ones stay and all lesser ones begin again at 1.
+// A place that the calendar leaves stays 0.
 bool Follows(const Fields& before, const Fields& after) {
   std::size_t place = 0;
-  while (place < 3 && before[place] == after[place]) ++place;
+  while (place + 1 < after.size() && before[place] == after[place]) ++place;
   if (after[place] != before[place] + 1) return false;
   for (++place; place < after.size(); ++place) {
-    if (after[place] != 1) return false;
+    if (after[place] != (before[place] == 0 ? 0 : 1)) return false;
   }
   return true;
 }
@@ -171,7 +207,7 @@ TEST_P(EveryCalendar, KeepsTheFirstAndTheLastDayNumberOf32Bits) {
 
 INSTANTIATE_TEST_SUITE_P(Calendars, EveryCalendar,
                          testing::Values(EuroCalendar<'G'>("CE"), EuroCalendar<'J'>("JC"),
-                                         ARCCalendar(), KSGCalendar()),
+                                         ARCCalendar(), SDCalendar(), LLTCalendar(), KSGCalendar()),
                          [](const auto& calendar) { return calendar.param.name; });
 
 TEST(Weekdays, RunOnThroughTheRangeAndBeyond) {

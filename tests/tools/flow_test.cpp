@@ -55,7 +55,7 @@ TEST_P(FlowTest, AnswersAsWritten) {
   ASSERT_FALSE(flow.answers.empty());
   std::istringstream input(flow.commands);
   std::ostringstream output;
-  Driver(input, output).Run();
+  Driver(input, output, TEST_PROGRAM_FOLDER).Run();
 
   std::istringstream answers(output.str());
   std::string answer;
@@ -74,7 +74,7 @@ TEST(Driver, ExitStatusTellsOfErrors) {
        {std::pair("start\nget lblTime(1)\n", 0), std::pair("start\nget nothing\nfocus\n", 1)}) {
     std::istringstream input(commands);
     std::ostringstream output;
-    EXPECT_EQ(Driver(input, output).Run(), status) << commands;
+    EXPECT_EQ(Driver(input, output, TEST_PROGRAM_FOLDER).Run(), status) << commands;
   }
 }
 

@@ -115,8 +115,10 @@ const Driver::Command Driver::kCommands[] = {
     {"during", &Driver::During},     {"clipboard", &Driver::Clipboard},
 };
 
-Driver::Driver(std::istream& input, std::ostream& output)
-    : input_(input), output_(output), desktop_([this](YieldMode mode) { OnYield(mode); }) {}
+Driver::Driver(std::istream& input, std::ostream& output, std::filesystem::path program_folder)
+    : input_(input),
+      output_(output),
+      desktop_([this](YieldMode mode) { OnYield(mode); }, std::move(program_folder)) {}
 
 int Driver::Run() {
   try {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <istream>
 #include <memory>
 #include <optional>
@@ -18,7 +19,8 @@ namespace tarnwick {
 // that cannot be carried out prints "error: ..." and changes nothing.
 class Driver {
  public:
-  Driver(std::istream& input, std::ostream& output);
+  // `program_folder` is where the program's files lie.
+  Driver(std::istream& input, std::ostream& output, std::filesystem::path program_folder);
 
   // Carries out commands until "quit" or the end of the input. Returns 0, or 1 if any was in error.
   int Run();

@@ -17,7 +17,9 @@ class DriverDesktop final : public Desktop {
   // Runs at every yield of the program.
   using YieldHook = std::function<void(YieldMode)>;
 
-  explicit DriverDesktop(YieldHook on_yield) : on_yield_(std::move(on_yield)) {}
+  // `program_folder` is where the program's pictures lie, in its subfolder "assets".
+  DriverDesktop(YieldHook on_yield, std::filesystem::path program_folder)
+      : on_yield_(std::move(on_yield)), program_folder_(std::move(program_folder)) {}
 
   void SetClock(ClockReading clock) { clock_ = std::move(clock); }
   void SetStateFile(std::filesystem::path path) { state_file_ = std::move(path); }
@@ -37,13 +39,14 @@ class DriverDesktop final : public Desktop {
   std::optional<std::filesystem::path> AskSavePath(const std::string& title,
                                                    const std::string& suggestion) override;
   std::filesystem::path UserDataFolder() const override { return {}; }
-  std::filesystem::path ProgramFolder() const override { return {}; }
+  std::filesystem::path ProgramFolder() const override { return program_folder_; }
   void OpenWebPage(const std::string& /*address*/) override {}
   void Yield(YieldMode mode) override { on_yield_(mode); }
   void EndProgram() override { ended_ = true; }
 
  private:
   YieldHook on_yield_;
+  std::filesystem::path program_folder_;
   ClockReading clock_{"2024-03-05", "12:00:00", 0};
   std::deque<MessageAnswer> answers_;
   std::deque<std::optional<std::filesystem::path>> save_paths_;

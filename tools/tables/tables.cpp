@@ -142,7 +142,7 @@ bool PrintEclipses(const Period& period, Printer& printer) {
   });
 }
 
-constexpr std::array kDateColumns{kCE, kJC, kARC, kKSG};
+constexpr std::array kDateColumns{kCE, kJC, kARC, kSD, kLLT, kKSG, kOLW};
 
 // The numeric text of a day without the abbreviation behind it.
 std::string DateCell(Calendar calendar, double noon) {
@@ -150,13 +150,17 @@ std::string DateCell(Calendar calendar, double noon) {
   return text.substr(0, text.find(' '));
 }
 
+// The civil day at Greenwich that contains a moment.
+std::int32_t DayNumber(double ajd) { return SplitCJD(AJDToCJD(ajd, 0)).day_number; }
+
 bool PrintDates(const Period& period, Printer& printer) {
   std::string header = "day_number,weekday";
   for (const Calendar calendar : kDateColumns)
     header += "," + std::string(AbbreviationOf(calendar));
   if (!printer.Print(period.begin, header)) return false;
-  for (double noon = period.begin + 0.5; noon < period.end; ++noon) {
-    const std::int32_t day_number = SplitCJD(AJDToCJD(noon, 0)).day_number;
+  const std::int32_t last = DayNumber(period.end) - 1;
+  for (std::int32_t day_number = DayNumber(period.begin); day_number <= last; ++day_number) {
+    const double noon = day_number;
     std::string row =
         std::to_string(day_number) + "," + std::to_string(euro_day_of_week(day_number));
     for (const Calendar calendar : kDateColumns) row += "," + DateCell(calendar, noon);

@@ -1,0 +1,85 @@
+#include "moon/moon_data.h"
+
+#include <cmath>
+#include <numbers>
+#include <string_view>
+
+#include "engines/phase_engine.h"
+#include "moon/syzyg.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::int64_t kMinutesPerHour = 60;
+constexpr std::int64_t kMinutesPerDay = 1440;
+
+bool IsWaxing(std::int16_t phase) { return phase <= 1; }
+
+bool HasPositions(double ajd) {
+  double latitude = 0;
+  const double longitude = MoonPosition(ajd, latitude);
+  return longitude != kBeforePositions && longitude != kAfterPositions;
+}
+
+double IlluminatedFraction(double elongation) { return (1 - std::cos(elongation)) / 2; }
+
+std::string Counted(std::int64_t number, std::string_view unit) {
+  std::string text = std::to_string(number) + " " + std::string(unit);
+  if (number != 1) text += 's';
+  return text;
+}
+
+std::string_view PhaseName(double percent) {
+  if (percent < 1) return "Dark moon";
+  if (percent < 45) return "Crescent moon";
+  if (percent < 55) return "Half moon";
+  if (percent < 99) return "Gibbous moon";
+  return "Full moon";
+}
+
+}  // namespace
+
+double FractionFromPositions(double ajd) {
+  double ignored = 0;
+  return IlluminatedFraction(MoonPosition(ajd, ignored) - sun_app(ajd, ignored));
+}
+
+// As if the elongation grew evenly from phase to phase.
+double FractionFromPhases(double ajd, std::int32_t lunation, std::int16_t phase) {
+  const double begin = PhaseTime(lunation, phase);
+  const double end = phase < 3 ? PhaseTime(lunation, static_cast<std::int16_t>(phase + 1))
+                               : PhaseTime(lunation + 1, 0);
+  const double quarters = phase + (ajd - begin) / (end - begin);
+  return IlluminatedFraction(quarters * std::numbers::pi / 2);
+}
+
+MoonData MoonDataAt(double ajd) {
+  MoonData data;
+  data.lunation = LunationOf(ajd);
+  const double new_moon = PhaseTime(data.lunation, 0);
+  data.age = ajd - new_moon;
+  data.length = PhaseTime(data.lunation + 1, 0) - new_moon;
+  bool exact = false;
+  data.phase = GetPhase(data.lunation, ajd, exact);
+  if (data.phase < 0) return data;
+  data.waxing = IsWaxing(data.phase);
+  data.fraction = HasPositions(ajd) ? FractionFromPositions(ajd)
+                                    : FractionFromPhases(ajd, data.lunation, data.phase);
+  return data;
+}
+
+std::string AgeText(double age) {
+  const auto minutes = static_cast<std::int64_t>(std::floor(age * kMinutesPerDay));
+  return Counted(minutes / kMinutesPerDay, "day") + ", " +
+         Counted(minutes % kMinutesPerDay / kMinutesPerHour, "hr") + ", " +
+         Counted(minutes % kMinutesPerHour, "min");
+}
+
+std::string PhaseOfMoonText(double fraction, bool waxing) {
+  const double percent = 100 * fraction;
+  std::string text(PhaseName(percent));
+  if (percent >= 0.05 && percent <= 99.95) text += waxing ? " (waxing)" : " (waning)";
+  return text;
+}
+
+}  // namespace tarnwick

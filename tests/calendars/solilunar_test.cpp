@@ -1,0 +1,194 @@
+#include "calendars/solilunar.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "calendars/checked_arithmetic.h"
+
+namespace tarnwick {
+namespace {
+
+using testing::AnyOf;
+using testing::FieldsAre;
+
+constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
+constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t kEpoch = 1721495;
+constexpr std::int32_t kEraCycles = 114;  // 6840 years
+constexpr std::int32_t kEraDays = 2498258;
+
+// Checks one year that begins on a day number, month by month; returns when the next one begins.
+std::int32_t CheckYear(std::int32_t cycle, std::int32_t year, std::int32_t day_number) {
+  const std::int16_t months = SDMonthsInYear(year, cycle);
+  for (std::int32_t month = 1; month <= months; ++month) {
+    SDDate first{cycle, year, month, 1};
+    EXPECT_TRUE(SDDateToJDN(first));
+    EXPECT_THAT(first, FieldsAre(cycle, year, month, 1, 1, months, 0, day_number));
+    std::int16_t extra = 0;
+    const std::int16_t length = SDMonthLength(first, extra);
+    EXPECT_EQ(extra, months);
+    const int alternating = month % 2 == 0 ? 29 : 30;
+    EXPECT_THAT(length, AnyOf(alternating, month == months ? 59 - alternating : alternating));
+    day_number += length;
+
+    SDDate last{0, 0, 0, 0, 66, 0, 77, day_number - 1};
+    EXPECT_EQ(JDNToSDDate(last), length);
+    EXPECT_THAT(last, FieldsAre(cycle, year, month, length, 66, months, 77, day_number - 1));
+  }
+  return day_number;
+}
+
+// Conversions use divisions in closed form; here they meet the lengths of months one by one, over
+// the 6840 years before and those after the epoch.
+TEST(Solilunar, ConvertsAsTheLengthsOfMonthsAddUp) {
+  for (const std::int32_t first_cycle : {-kEraCycles, 0}) {
+    const std::int32_t era_start = first_cycle == 0 ? kEpoch : kEpoch - kEraDays;
+    std::int32_t day_number = era_start;
+    int long_years = 0;
+    for (std::int32_t cycle = first_cycle; cycle < first_cycle + kEraCycles; ++cycle) {
+      for (std::int32_t year = 1; year <= 60; ++year) {
+        long_years += IsLongSDYear(year, cycle) ? 1 : 0;
+        day_number = CheckYear(cycle, year, day_number);
+        ASSERT_FALSE(HasFailure()) << cycle << "-" << year;
+      }
+    }
+    EXPECT_EQ(long_years, 2519);
+    EXPECT_EQ(day_number - era_start, kEraDays);
+  }
+}
+
+// The year 33-46 has months up to 12/29, 33-47 up to 13/30, 33-48 up to 12/30, 33-58 up to 13/29.
+TEST(Solilunar, AcceptsOnlyDatesThatExist) {
+  const SDDate existing[] = {{33, 46, 12, 29}, {33, 47, 13, 30},  {33, 48, 12, 30},
+                             {33, 58, 13, 29}, {-97900, 1, 1, 1}, {97900, 1, 1, 1}};
+  for (SDDate date : existing) {
+    EXPECT_TRUE(SDDateToJDN(date)) << SDDateString(date, 1);
+    EXPECT_EQ(date.valid, 1);
+  }
+  const SDDate missing[] = {{33, 46, 13, 1},    {33, 46, 12, 30},
+                            {33, 47, 12, 30},   {33, 47, 14, 1},
+                            {33, 48, 12, 31},   {33, 58, 13, 30},
+                            {33, 46, 1, 31},    {33, 0, 1, 1},
+                            {33, 61, 1, 1},     {33, 46, 0, 1},
+                            {33, 46, 1, 0},     {33, 46, -1, -1},
+                            {-98100, 1, 1, 1},  {98100, 1, 1, 1},
+                            {kLowest, 1, 1, 1}, {kHighest, kHighest, kHighest, kHighest}};
+  for (SDDate date : missing) {
+    SCOPED_TRACE(SDDateString(date, 1));
+    date.valid = 1;
+    date.jdn = 77;
+    EXPECT_FALSE(SDDateToJDN(date));
+    EXPECT_EQ(date.valid, 0);
+    EXPECT_EQ(date.jdn, 0);
+    EXPECT_EQ(date.extra, SDMonthsInYear(date.year, date.cycle));
+  }
+  std::int16_t months = 0;
+  EXPECT_EQ(SDMonthLength({33, 46, 13, 1}, months), 0);
+  EXPECT_EQ(SDMonthLength({33, 46, 0, 1}, months), 0);
+}
+
+TEST(Solilunar, ThrowsWhereNumbersEnd) {
+  for (const auto step : {StepSDYear, StepSDMonth}) {
+    SDDate last{kHighest, 60, 13, 1};
+    EXPECT_THROW(step(last, true), RuntimeError);
+    SDDate first{kLowest, 1, 1, 1};
+    EXPECT_THROW(step(first, false), RuntimeError);
+  }
+  SDDate far_month{1, 1, kLowest, 1};
+  EXPECT_THROW(StepSDMonth(far_month, false), RuntimeError);
+  std::int16_t months = 0;
+  EXPECT_THROW(SDMonthLength({kHighest / 60 + 1, 1, 1, 1}, months), RuntimeError);
+  EXPECT_THROW(SDMonthLength({kHighest / 60, 60, 1, 1}, months), RuntimeError);
+}
+
+struct Step {
+  SDDate from;
+  bool forward;
+  std::string to;
+};
+
+void CheckSteps(const std::vector<Step>& steps, void (*step_date)(SDDate&, bool)) {
+  for (const Step& step : steps) {
+    SCOPED_TRACE(SDDateString(step.from, 1) + (step.forward ? " on" : " back"));
+    SDDate date = step.from;
+    step_date(date, step.forward);
+    EXPECT_EQ(SDDateString(date, 1), step.to);
+  }
+}
+
+TEST(Solilunar, Steps) {
+  CheckSteps({{{-1, 60, 5, 30}, true, "0-01-05-30 SD"},
+              {{0, 1, 5, 30}, false, "-1-60-05-30 SD"},
+              {{33, 47, 13, 29}, true, "33-48-12-29 SD"},
+              {{33, 47, 13, 30}, true, "33-48-12-30 SD"},
+              {{33, 47, 13, 30}, false, "33-46-12-29 SD"},
+              {{33, 48, 12, 30}, false, "33-47-12-29 SD"}},
+             StepSDYear);
+  CheckSteps({{{33, 46, 1, 30}, true, "33-46-02-29 SD"},
+              {{33, 46, 3, 30}, false, "33-46-02-29 SD"},
+              {{33, 46, 12, 29}, true, "33-47-01-29 SD"},
+              {{33, 47, 12, 29}, true, "33-47-13-29 SD"},
+              {{33, 47, 13, 30}, true, "33-48-01-30 SD"},
+              {{33, 48, 1, 30}, false, "33-47-13-30 SD"},
+              {{33, 47, 1, 30}, false, "33-46-12-29 SD"},
+              {{1, 60, 13, 1}, true, "2-01-01-01 SD"},
+              {{0, 1, 1, 30}, false, "-1-60-12-29 SD"}},
+             StepSDMonth);
+}
+
+TEST(Solilunar, ReadsTexts) {
+  using std::string_view_literals::operator""sv;
+  SDDate date;
+  ASSERT_TRUE(ParseSDDate("-54-39-10-23", date));
+  EXPECT_THAT(date, FieldsAre(-54, 39, 10, 23, 1, 12, 0, 552283));
+  ASSERT_TRUE(ParseSDDate("0-1-0001-01", date));
+  EXPECT_THAT(date, FieldsAre(0, 1, 1, 1, 1, 13, 0, kEpoch));
+
+  for (const std::string_view text : {""sv,
+                                      "-"sv,
+                                      "46-1-1"sv,
+                                      "-46-1-1"sv,
+                                      "33-46-1-1-1"sv,
+                                      "--33-46-1-1"sv,
+                                      "33--46-1-1"sv,
+                                      "33-46-1-1-"sv,
+                                      "33-46-1-1.5"sv,
+                                      " 33-46-1-1"sv,
+                                      "+33-46-1-1"sv,
+                                      "33-46-13-1"sv,
+                                      "33-46-2-30"sv,
+                                      "33-61-1-1"sv,
+                                      "33-0-1-1"sv,
+                                      "33-46-0-1"sv,
+                                      "33-46-1-0"sv,
+                                      "9999999999-1-1-1"sv,
+                                      "33-2147483648-1-1"sv,
+                                      "2147483647-1-1-1"sv,
+                                      "33-46-1-1\0"sv}) {
+    EXPECT_FALSE(ParseSDDate(text, date)) << text;
+  }
+  EXPECT_EQ(date.jdn, kEpoch) << "a failure must leave the record";
+}
+
+TEST(Solilunar, WritesItsStyles) {
+  const SDDate date{3, 7, 2, 5};
+  EXPECT_EQ(SDDateString(date, 1), "3-07-02-05 SD");
+  EXPECT_EQ(SDDateString(date, 2), "3-07-02-05 SD (Bruno 5, 3-7)");
+  EXPECT_EQ(SDDateString(date, 3), "5 Bruno in the year 7, cycle 3");
+  for (const std::int32_t style : {-1, 0, 4, 5}) {
+    EXPECT_EQ(SDDateString(date, style), "The 5th day of Bruno in the year 7, cycle 3") << style;
+  }
+  EXPECT_EQ(SDDateString({0, 60, 13, 12}, 3), "12 Meton in the year 60");
+  EXPECT_EQ(SDDateString({0, 60, 13, 12}, 4), "The 12th day of Meton in the year 60");
+  EXPECT_EQ(SDDateString({-2, 1, 1, 22}, 2), "-2-01-01-22 SD (Aristarchus 22, -2-1)");
+  EXPECT_EQ(SDDateString({-2, 1, 1, 22}, 4), "The 22nd day of Aristarchus in the year 1, cycle -2");
+  EXPECT_EQ(SDMonthName(0), "");
+  EXPECT_EQ(SDMonthName(14), "");
+}
+
+}  // namespace
+}  // namespace tarnwick

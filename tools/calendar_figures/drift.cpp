@@ -1,0 +1,158 @@
+#include "tools/calendar_figures/drift.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <limits>
+
+#include "calendars/archetypes.h"
+#include "calendars/goddess.h"
+#include "calendars/lunar_week.h"
+#include "calendars/solilunar.h"
+#include "calendars/triday.h"
+#include "moon/syzyg.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::int32_t kFirstDay = 552284;  // -3200-01-01 CE
+constexpr std::int32_t kLastDay = 3912515;
+constexpr std::int32_t kFirstYear = -3200;
+constexpr double kDaysPerYear = 365.2425;
+constexpr std::int32_t kShortestMonth = 27;  // whole days that surely are not another first
+
+// Month and day of month of a day number.
+struct MonthDay {
+  std::int32_t month = 0;
+  std::int32_t day = 0;
+};
+
+MonthDay ARCDay(std::int32_t day_number) {
+  ARCDate date;
+  date.jdn = day_number;
+  JDNToARCDate(date);
+  return {date.month, date.day};
+}
+
+MonthDay SDDay(std::int32_t day_number) {
+  SDDate date;
+  date.jdn = day_number;
+  JDNToSDDate(date);
+  return {date.month, date.day};
+}
+
+MonthDay LLTDay(std::int32_t day_number) {
+  LLTDate date;
+  date.jdn = day_number;
+  JDNToLLT(date);
+  return {date.month, 3 * (date.triday - 1) + date.day};
+}
+
+MonthDay KSGDay(std::int32_t day_number) {
+  KSGDate date;
+  date.jdn = day_number;
+  JDNToKSGDate(date);
+  return {date.month, date.day};
+}
+
+MonthDay OLWDay(std::int32_t day_number) {
+  OLWDate date;
+  date.jdn = day_number;
+  JDNToOLWDate(date);
+  const bool first = date.week == 1 && date.day == 1;
+  return {date.month, first ? 1 : 2};
+}
+
+struct Reckoning {
+  const char* calendar;
+  MonthDay (*month_day)(std::int32_t day_number);
+};
+constexpr Reckoning kLunar[] = {
+    {"ARC", ARCDay}, {"SD", SDDay}, {"LLT", LLTDay}, {"KSG", KSGDay}, {"OLW", OLWDay}};
+constexpr Reckoning kSolar[] = {{"ARC", ARCDay}, {"SD", SDDay}, {"OLW", OLWDay}};
+
+std::int32_t GregorianYear(std::int32_t day_number) {
+  return kFirstYear +
+         static_cast<std::int32_t>(std::floor((day_number - kFirstDay) / kDaysPerYear));
+}
+
+double FromNewMoon(std::int32_t day_number) {
+  double instant = 0;
+  std::int32_t lunation = 0;
+  NearestNewMoon(day_number, instant, lunation);
+  return day_number - instant;
+}
+
+double FromEquinox(std::int32_t day_number) {
+  const std::int32_t year = GregorianYear(day_number);
+  double nearest = std::numeric_limits<double>::infinity();
+  for (std::int32_t y = year - 1; y <= year + 1; ++y) {
+    const double distance = day_number - OLWYearReference(y);
+    if (std::fabs(distance) < std::fabs(nearest)) nearest = distance;
+  }
+  return nearest;
+}
+
+// Sums of the distances within one span of years.
+struct Collector {
+  int count = 0;
+  double sum = 0;
+  double squares = 0;
+  double least = std::numeric_limits<double>::infinity();
+  double largest = -std::numeric_limits<double>::infinity();
+
+  void Add(double distance) {
+    ++count;
+    sum += distance;
+    squares += distance * distance;
+    least = std::min(least, distance);
+    largest = std::max(largest, distance);
+  }
+  DriftPoint Point(double year) const {
+    const double mean = sum / count;
+    return {year, mean, least, largest, std::sqrt(std::max(0.0, squares / count - mean * mean))};
+  }
+};
+
+using Distance = double (*)(std::int32_t day_number);
+
+Drift DriftOf(const Reckoning& reckoning, bool years, Distance distance) {
+  std::vector<Collector> spans(
+      static_cast<std::size_t>((GregorianYear(kLastDay) - kFirstYear) / kYearsPerPoint + 1));
+  for (std::int32_t day = kFirstDay; day <= kLastDay; ++day) {
+    const auto [month, day_of_month] = reckoning.month_day(day);
+    if (day_of_month != 1) continue;
+    if (!years || month == 1) {
+      spans[static_cast<std::size_t>((GregorianYear(day) - kFirstYear) / kYearsPerPoint)].Add(
+          distance(day));
+    }
+    day += kShortestMonth;
+  }
+  Drift drift{reckoning.calendar, {}};
+  double year = kFirstYear + kYearsPerPoint / 2.0;
+  for (const Collector& span : spans) {
+    if (span.count > 1) drift.points.push_back(span.Point(year));
+    year += kYearsPerPoint;
+  }
+  return drift;
+}
+
+}  // namespace
+
+std::vector<Drift> MonthDrifts() {
+  std::vector<Drift> drifts;
+  for (const Reckoning& reckoning : kLunar) {
+    drifts.push_back(DriftOf(reckoning, false, FromNewMoon));
+  }
+  return drifts;
+}
+
+std::vector<Drift> YearDrifts() {
+  std::vector<Drift> drifts;
+  for (const Reckoning& reckoning : kSolar) {
+    drifts.push_back(DriftOf(reckoning, true, FromEquinox));
+  }
+  return drifts;
+}
+
+}  // namespace tarnwick
