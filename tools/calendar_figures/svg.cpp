@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <set>
 #include <sstream>
 
 namespace tarnwick {
@@ -43,7 +44,7 @@ Panel MakePanel(const Drift& drift, double top) {
 void DrawGrid(std::ostream& svg, const Panel& panel) {
   svg << "<rect x='" << kLeft << "' y='" << panel.top << "' width='" << kPanelWidth << "' height='"
       << kPanelHeight << "' fill='#fbfcfe' stroke='#8899aa'/>\n";
-  for (const double days : {panel.least, 0.0, panel.largest}) {
+  for (const double days : std::set{panel.least, 0.0, panel.largest}) {
     svg << "<text x='" << kLeft - 8 << "' y='" << panel.Y(days) + 4 << "' text-anchor='end'>"
         << days << "</text>\n";
   }
