@@ -16,6 +16,7 @@
 #include "desktop/look.h"
 #include "desktop/mirror.h"
 #include "desktop/panel.h"
+#include "desktop/picture_view.h"
 
 namespace tarnwick {
 
@@ -164,6 +165,12 @@ void Binder::Bind(Picture& picture, QWidget& area) {
     }
     return false;
   });
+}
+
+void Binder::Bind(Picture& picture, PictureView& view) {
+  Bind(picture, static_cast<QWidget&>(view));
+  Mirror(picture, Property::kPicture, view,
+         [&] { view.SetPicture(picture.File(), picture.RetouchOf()); });
 }
 
 void Binder::Bind(Timer& timer, QTimer& clock) {

@@ -23,6 +23,7 @@ namespace tarnwick {
 
 class LinkLabel;
 class Panel;
+class PictureView;
 
 // What a window adds to the caption of a control.
 struct Wording {
@@ -51,6 +52,7 @@ class Binder {
   void Bind(OptionButton& option, QRadioButton& radio);
   void Bind(ComboBox& list, QComboBox& combo);
   void Bind(Picture& picture, QWidget& area);
+  void Bind(Picture& picture, PictureView& view);
   void Bind(Timer& timer, QTimer& clock);
   void Bind(TextBox& box, QLineEdit& edit);
   void Bind(TextBox& box, QPlainTextEdit& edit);

@@ -33,6 +33,7 @@ constexpr Wording kWordings[] = {
     {"lblOstrelLWCDate(1)", 0, "Ostrel Lunar Week Calendar date"},
     {"lblChronologicalJulianDate(1)", 0, "Chronological Julian date"},
     {"lblAstronomicalJulianDate(1)", 0, "Astronomical Julian date"},
+    {"picMoon", 0, "The Moon at the moment"},
     {"lblPhaseOfMoon(1)", 0, "Phase of the Moon"},
     {"lblAgeOfMoon(1)", 0, "Age of the Moon"},
     {"lblDeltaT(1)", 0, "Delta T"},

@@ -6,10 +6,13 @@
 #include "desktop/look.h"
 #include "desktop/main_window_view.h"
 #include "desktop/panel.h"
+#include "desktop/picture_view.h"
 
 namespace tarnwick {
 namespace {
 
+// As high as the dates beside it, with the texts.
+constexpr int kPictureLines = 9;
 constexpr char kLongestAge[] = "[-64316] 29 days, 23 hrs, 59 mins (100.0%)";
 
 }  // namespace
@@ -17,12 +20,13 @@ constexpr char kLongestAge[] = "[-64316] 29 days, 23 hrs, 59 mins (100.0%)";
 QWidget* MainWindowView::MakeMoonPanel() {
   auto* panel = new Panel(Panel::Ground::kLight, this);
   panel->SetTitle("Moon");
+  auto* picture = new PictureView(kPictureLines, panel);
+  binder_.Bind(form_.picMoon, *picture);
+  panel->Content().addWidget(picture, 1);
+
   auto* rows = new QGridLayout;
   rows->setHorizontalSpacing(2 * Spacing(*panel));
-  // The padding of the dates beside them, so that the rows stand on one line.
-  const int padding = panel->fontMetrics().height() / 6;
-  rows->setContentsMargins(0, padding, 0, padding);
-  rows->setVerticalSpacing(2 * padding);
+  rows->setVerticalSpacing(Spacing(*panel) / 2);
   rows->setColumnStretch(1, 1);
   rows->setColumnMinimumWidth(1, panel->fontMetrics().horizontalAdvance(kLongestAge));
   AddMoonRow(form_.lblPhaseOfMoon, *rows, panel);

@@ -31,7 +31,9 @@ class NotingDesktop final : public Desktop {
     return std::nullopt;
   }
   std::filesystem::path UserDataFolder() const override { return {}; }
-  std::filesystem::path ProgramFolder() const override { return {}; }
+  std::filesystem::path ProgramFolder() const override {
+    return QCoreApplication::applicationDirPath().toStdString();
+  }
   void OpenWebPage(const std::string& /*address*/) override {}
   void Yield(YieldMode /*mode*/) override {}
   void EndProgram() override { gate_.Shut(); }
@@ -109,6 +111,7 @@ class MainWindowViewTest : public QObject {
   void timeSystemsStayApartFromTheDirection();
   void checkMarkAppearsBesideNow();
   void currentCalendarIsWhite();
+  void moonIsShownAtItsPhase();
   void closeBoxEndsTheProgram();
   void noTextIsClipped_data();
   void noTextIsClipped();
@@ -245,6 +248,26 @@ void MainWindowViewTest::currentCalendarIsWhite() {
   QTest::mouseClick(&main.Find<QWidget>(main.form.lblKSGDate[0]), Qt::LeftButton);
   QCOMPARE(color(main.form.lblCommonEraDate), QColor(200, 200, 200));
   QCOMPARE(color(main.form.lblKSGDate), QColor(255, 255, 255));
+}
+
+void MainWindowViewTest::moonIsShownAtItsPhase() {
+  MainWindow main;
+  auto& picture = main.Find<QWidget>(main.form.picMoon);
+  const auto brightness = [&](double across) {
+    const QImage shown = picture.grab().toImage();
+    const double x = shown.width() / 2.0 + across * shown.height() / 2.0;
+    return qGray(shown.pixel(static_cast<int>(x), shown.height() / 2));
+  };
+  const QSize before = main.view.size();
+  main.form.txbDate.SetText("2024-01-21 CE 12:00");  // 82.8 %, waxing: the edge at 0.63 of the left
+  main.form.cmdCompute.Click();
+  QVERIFY(brightness(0.8) > 80);
+  QVERIFY(brightness(-0.5) > 60);
+  QVERIFY(brightness(-0.8) < 60);
+  main.form.txbDate.SetText("2024-01-11 CE 12:00");
+  main.form.cmdCompute.Click();
+  QVERIFY(brightness(0.8) < 60);
+  QCOMPARE(main.view.size(), before);
 }
 
 void MainWindowViewTest::closeBoxEndsTheProgram() {

@@ -9,14 +9,12 @@
 
 namespace {
 
-constexpr int kWidth = 200;
-
 bool WritePicture(const std::string& folder, tarnwick::MoonPhase phase) {
   const std::string file =
       folder + "/" + std::string(tarnwick::MoonPictureFile(phase.fraction, phase.waxing));
-  const std::vector<std::uint32_t> pixels = tarnwick::DrawMoon(kWidth, phase);
-  const QImage image(reinterpret_cast<const uchar*>(pixels.data()), kWidth, kWidth,
-                     QImage::Format_RGB32);
+  const std::vector<std::uint32_t> pixels = tarnwick::DrawMoon(tarnwick::kMoonPictureWidth, phase);
+  const QImage image(reinterpret_cast<const uchar*>(pixels.data()), tarnwick::kMoonPictureWidth,
+                     tarnwick::kMoonPictureWidth, QImage::Format_RGB32);
   if (image.convertToFormat(QImage::Format_RGB888).save(QString::fromStdString(file))) return true;
   std::cerr << "tarnwick_moon_pictures: cannot write " << file << '\n';
   return false;

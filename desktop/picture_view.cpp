@@ -1,0 +1,64 @@
+#include "desktop/picture_view.h"
+
+#include <QFileInfo>
+#include <QPainter>
+#include <utility>
+
+namespace tarnwick {
+namespace {
+
+void RoundCorners(QImage& image) {
+  QImage rounded(image.size(), QImage::Format_ARGB32_Premultiplied);
+  rounded.fill(Qt::transparent);
+  QPainter painter(&rounded);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(image);
+  const double radius = image.height() / 32.0;
+  painter.drawRoundedRect(QRectF(image.rect()), radius, radius);
+  painter.end();
+  image = rounded;
+}
+
+}  // namespace
+
+PictureView::PictureView(int lines, QWidget* parent) : QWidget(parent), lines_(lines) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setMaximumHeight(3 * sizeHint().height());
+}
+
+QSize PictureView::sizeHint() const { return QSize(lines_, lines_) * fontMetrics().height(); }
+
+void PictureView::SetPicture(const std::filesystem::path& file, Retouch retouch) {
+  if (file != file_) source_ = file.empty() ? QImage() : QImage(QFileInfo(file).filePath());
+  file_ = file;
+  retouch_ = std::move(retouch);
+  shown_ = QImage();
+  update();
+}
+
+QImage PictureView::Rendered(QSize pixels) const {
+  QImage image = source_.convertToFormat(QImage::Format_RGB32)
+                     .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  if (retouch_) {
+    const auto count = static_cast<std::size_t>(image.width()) * image.height();
+    retouch_({reinterpret_cast<std::uint32_t*>(image.bits()), count}, image.width());
+  }
+  RoundCorners(image);
+  return image;
+}
+
+void PictureView::paintEvent(QPaintEvent* /*event*/) {
+  if (source_.isNull()) return;
+  const double ratio = devicePixelRatioF();
+  const QSize room = (QSizeF(size()) * ratio).toSize();
+  const QSize pixels = source_.size().scaled(room, Qt::KeepAspectRatio);
+  if (pixels.isEmpty()) return;
+  if (shown_.size() != pixels) shown_ = Rendered(pixels);
+  shown_.setDevicePixelRatio(ratio);
+  // A whole pixel of the screen, since between two of them the picture would blur.
+  const QSize margin = (room - pixels) / 2;
+  QPainter(this).drawImage(QPointF(margin.width(), margin.height()) / ratio, shown_);
+}
+
+}  // namespace tarnwick

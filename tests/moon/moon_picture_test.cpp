@@ -1,0 +1,135 @@
+#include "moon/moon_picture.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace tarnwick {
+namespace {
+
+constexpr std::uint32_t kWhite = 0xffffffff;
+constexpr unsigned kLit =
+    0x50;  // in red: the ground at the terminator is brighter, the night darker
+
+// A white full Moon that fills its square to the corners.
+std::vector<std::uint32_t> WhiteMoon(int width) {
+  return std::vector<std::uint32_t>(static_cast<std::size_t>(width) * width, kWhite);
+}
+
+MoonPhase PhaseOfBase(double fraction, bool waxing) {
+  const std::string file(MoonPictureFile(fraction, waxing));
+  return {file == "darkmoon.bmp" ? 0 : file == "fullmoon.bmp" ? 1 : 0.5, waxing};
+}
+
+// What a phase looks like, drawn as the program draws it.
+std::vector<std::uint32_t> Draw(int width, double fraction, bool waxing) {
+  std::vector<std::uint32_t> pixels = WhiteMoon(width);
+  Relight(pixels, width, {1, waxing}, PhaseOfBase(fraction, waxing));
+  DrawTerminator(pixels, width, fraction, waxing);
+  return pixels;
+}
+
+struct Count {
+  double disc = 0;
+  double lit = 0;
+  double lit_right = 0;
+};
+
+Count CountPixels(const std::vector<std::uint32_t>& pixels, int width) {
+  Count count;
+  for (int i = 0; i < width * width; ++i) {
+    const double x = i % width + 0.5 - width / 2.0;
+    const double y = i / width + 0.5 - width / 2.0;
+    if (std::hypot(x, y) > kMoonDiscRadius * width) continue;
+    const bool lit = ((pixels[static_cast<std::size_t>(i)] >> 16U) & 0xffU) >= kLit;
+    ++count.disc;
+    count.lit += lit;
+    count.lit_right += lit && x > 0;
+  }
+  return count;
+}
+
+TEST(MoonPicture, FileFollowsThePhase) {
+  struct {
+    double fraction;
+    const char* waxing;
+    const char* waning;
+    bool own;
+  } const rows[] = {
+      {0, "darkmoon.bmp", "darkmoon.bmp", true},
+      {0.0099, "darkmoon.bmp", "darkmoon.bmp", true},
+      {0.01, "1stquarter.bmp", "lastquarter.bmp", false},
+      {0.49, "1stquarter.bmp", "lastquarter.bmp", false},
+      {0.4901, "1stquarter.bmp", "lastquarter.bmp", true},
+      {0.5, "1stquarter.bmp", "lastquarter.bmp", true},
+      {0.5099, "1stquarter.bmp", "lastquarter.bmp", true},
+      {0.51, "fullmoon.bmp", "fullmoon.bmp", false},
+      {0.99, "fullmoon.bmp", "fullmoon.bmp", false},
+      {0.9901, "fullmoon.bmp", "fullmoon.bmp", true},
+      {1, "fullmoon.bmp", "fullmoon.bmp", true},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.fraction);
+    EXPECT_EQ(MoonPictureFile(row.fraction, true), row.waxing);
+    EXPECT_EQ(MoonPictureFile(row.fraction, false), row.waning);
+    EXPECT_EQ(HasOwnPicture(row.fraction, true), row.own);
+    EXPECT_EQ(HasOwnPicture(row.fraction, false), row.own);
+  }
+}
+
+TEST(MoonPicture, LitShareIsTheFractionOnTheRightSide) {
+  constexpr int kWidth = 200;
+  for (const double fraction : {0.0, 0.012, 0.1, 0.25, 0.4, 0.485, 0.5, 0.52, 0.75, 0.98, 1.0}) {
+    for (const bool waxing : {true, false}) {
+      SCOPED_TRACE(std::to_string(fraction) + (waxing ? " waxing" : " waning"));
+      const Count count = CountPixels(Draw(kWidth, fraction, waxing), kWidth);
+      EXPECT_NEAR(count.lit / count.disc, fraction, 0.01);
+      const double lit_side = waxing ? count.lit_right : count.lit - count.lit_right;
+      EXPECT_NEAR(lit_side / count.disc, std::min(fraction, 0.5), 0.01);
+    }
+  }
+}
+
+// The terminator of a crescent is the half-ellipse that bulges towards the lit limb.
+TEST(MoonPicture, TerminatorIsAHalfEllipse) {
+  constexpr int kWidth = 400;
+  constexpr double kFraction = 0.2;
+  const std::vector<std::uint32_t> pixels = Draw(kWidth, kFraction, true);
+  const double radius = kMoonDiscRadius * kWidth;
+  for (const int row : {60, 120, 200, 300}) {
+    SCOPED_TRACE(row);
+    const auto begin = pixels.begin() + row * kWidth + kWidth / 2;
+    const auto lit = std::find_if(begin, begin + kWidth / 2, [](std::uint32_t pixel) {
+      return ((pixel >> 16U) & 0xffU) >= kLit;
+    });
+    const double y = row + 0.5 - kWidth / 2.0;
+    const double edge = (1 - 2 * kFraction) * std::sqrt(radius * radius - y * y);
+    EXPECT_NEAR(static_cast<double>(lit - begin), edge, 1.5);
+  }
+}
+
+TEST(MoonPicture, SkyStays) {
+  constexpr int kWidth = 100;
+  const std::vector<std::uint32_t> pixels = Draw(kWidth, 0.6, true);
+  for (const std::size_t corner : {0, kWidth - 1, kWidth * (kWidth - 1), kWidth * kWidth - 1}) {
+    EXPECT_EQ(pixels[corner], kWhite);
+  }
+  std::vector<std::uint32_t> sky(kWidth * kWidth, kMoonSky);
+  DrawTerminator(sky, kWidth, 0.6, true);
+  EXPECT_EQ(std::count(sky.begin(), sky.end(), kMoonSky), kWidth * kWidth);
+}
+
+TEST(MoonPicture, AnySizeIsDrawn) {
+  for (int width = 0; width <= 5; ++width) {
+    for (const double fraction : {0.0, 0.3, 0.5, 0.7, 1.0}) {
+      std::vector<std::uint32_t> pixels = WhiteMoon(width);
+      DrawTerminator(pixels, width, fraction, true);
+      for (const std::uint32_t pixel : pixels) EXPECT_EQ(pixel >> 24U, 0xffU);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tarnwick
