@@ -9,6 +9,7 @@
 #include <QSignalBlocker>
 #include <QTimer>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/characters.h"
 #include "desktop/event_hook.h"
@@ -169,8 +170,15 @@ void Binder::Bind(Picture& picture, QWidget& area) {
 
 void Binder::Bind(Picture& picture, PictureView& view) {
   Bind(picture, static_cast<QWidget&>(view));
-  Mirror(picture, Property::kPicture, view,
-         [&] { view.SetPicture(picture.File(), picture.RetouchOf()); });
+  Mirror(picture, Property::kPicture, view, [&picture, &view, &gate = gate_] {
+    PictureView::Retouch retouch;
+    if (picture.RetouchOf()) {
+      retouch = [of = picture.RetouchOf(), &gate](std::span<std::uint32_t> pixels, int width) {
+        gate.Run([&] { of(pixels, width); });
+      };
+    }
+    view.SetPicture(picture.File(), std::move(retouch));
+  });
 }
 
 void Binder::Bind(Timer& timer, QTimer& clock) {

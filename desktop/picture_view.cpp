@@ -24,7 +24,7 @@ void RoundCorners(QImage& image) {
 
 PictureView::PictureView(int lines, QWidget* parent) : QWidget(parent), lines_(lines) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  setMaximumHeight(3 * sizeHint().height());
+  setMaximumHeight(3 * lines_ * fontMetrics().height());
 }
 
 QSize PictureView::sizeHint() const { return QSize(lines_, lines_) * fontMetrics().height(); }

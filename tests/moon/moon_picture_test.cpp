@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -40,8 +41,10 @@ struct Count {
 Count CountPixels(const std::vector<std::uint32_t>& pixels, int width) {
   Count count;
   for (int i = 0; i < width * width; ++i) {
-    const double x = i % width + 0.5 - width / 2.0;
-    const double y = i / width + 0.5 - width / 2.0;
+    const int row = i / width;
+    const int column = i % width;
+    const double x = column + 0.5 - width / 2.0;
+    const double y = row + 0.5 - width / 2.0;
     if (std::hypot(x, y) > kMoonDiscRadius * width) continue;
     const bool lit = ((pixels[static_cast<std::size_t>(i)] >> 16U) & 0xffU) >= kLit;
     ++count.disc;
@@ -100,7 +103,7 @@ TEST(MoonPicture, TerminatorIsAHalfEllipse) {
   const double radius = kMoonDiscRadius * kWidth;
   for (const int row : {60, 120, 200, 300}) {
     SCOPED_TRACE(row);
-    const auto begin = pixels.begin() + row * kWidth + kWidth / 2;
+    const auto begin = pixels.begin() + std::ptrdiff_t{row} * kWidth + kWidth / 2;
     const auto lit = std::find_if(begin, begin + kWidth / 2, [](std::uint32_t pixel) {
       return ((pixel >> 16U) & 0xffU) >= kLit;
     });
@@ -112,13 +115,14 @@ TEST(MoonPicture, TerminatorIsAHalfEllipse) {
 
 TEST(MoonPicture, SkyStays) {
   constexpr int kWidth = 100;
+  constexpr int kPixels = kWidth * kWidth;
   const std::vector<std::uint32_t> pixels = Draw(kWidth, 0.6, true);
-  for (const std::size_t corner : {0, kWidth - 1, kWidth * (kWidth - 1), kWidth * kWidth - 1}) {
+  for (const std::size_t corner : {0, kWidth - 1, kPixels - kWidth, kPixels - 1}) {
     EXPECT_EQ(pixels[corner], kWhite);
   }
-  std::vector<std::uint32_t> sky(kWidth * kWidth, kMoonSky);
+  std::vector<std::uint32_t> sky(kPixels, kMoonSky);
   DrawTerminator(sky, kWidth, 0.6, true);
-  EXPECT_EQ(std::count(sky.begin(), sky.end(), kMoonSky), kWidth * kWidth);
+  EXPECT_EQ(std::count(sky.begin(), sky.end(), kMoonSky), kPixels);
 }
 
 TEST(MoonPicture, AnySizeIsDrawn) {

@@ -46,16 +46,24 @@ Vector SunAt(MoonPhase phase) {
   return {phase.waxing ? sine : -sine, 0, cosine};
 }
 
+// A point in the plane of the picture, in radii to the right and up from the middle of the disc.
+Shades SampleAt(double x, double y, Vector sun) {
+  const double beyond = 1 - x * x - y * y;
+  return beyond < 0 ? Sky() : ColorAt({x, y, std::sqrt(beyond)}, sun);
+}
+
 // The mean of the samples of a pixel.
 std::uint32_t PixelAt(int width, int column, int row, Vector sun) {
   const double radius = kMoonDiscRadius * width;
   Shades sum{};
-  for (int i = 0; i < kSamples * kSamples; ++i) {
-    const double x = (column + (i % kSamples + 0.5) / kSamples - width / 2.0) / radius;
-    const double y = (width / 2.0 - row - (i / kSamples + 0.5) / kSamples) / radius;
-    const double beyond = 1 - x * x - y * y;
-    const Shades sample = beyond < 0 ? Sky() : ColorAt({x, y, std::sqrt(beyond)}, sun);
-    for (std::size_t c = 0; c < sum.size(); ++c) sum[c] += sample[c];
+  const auto offset = [&](int pixel, int sample) {
+    return (pixel + (sample + 0.5) / kSamples - width / 2.0) / radius;
+  };
+  for (int j = 0; j < kSamples; ++j) {
+    for (int i = 0; i < kSamples; ++i) {
+      const Shades sample = SampleAt(offset(column, i), -offset(row, j), sun);
+      for (std::size_t c = 0; c < sum.size(); ++c) sum[c] += sample[c];
+    }
   }
   std::uint32_t pixel = 0xff000000U;
   for (unsigned c = 0; c < sum.size(); ++c) {
