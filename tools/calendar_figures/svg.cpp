@@ -66,7 +66,7 @@ void DrawDrift(std::ostream& svg, const Panel& panel, const char* colour) {
 }
 
 void DrawYears(std::ostream& svg, const Panel& last) {
-  for (double year = -3000; year <= kLastYear; year += 1000) {
+  for (int year = -3000; year <= 6000; year += 1000) {
     svg << "<text x='" << last.X(year) << "' y='" << last.top + kPanelHeight + 18
         << "' text-anchor='middle'>" << year << "</text>\n";
   }
