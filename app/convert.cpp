@@ -1,4 +1,6 @@
 // Entry of a moment: the date box, the days to add or subtract, Compute and Clear.
+#include <cmath>
+
 #include "app/entry_parser.h"
 #include "app/main_window.h"
 #include "calendars/text.h"
@@ -19,6 +21,7 @@ void frmMain::cmdCompute_Click() {
     ReportDateEntryError(kNoDateGiven);
     return;
   }
+  lngEclipseLunation = kNoEclipse;
   txbPlusMinus.SetText(std::string(Trim(txbPlusMinus.Text())));
   const std::string days(StripLeading(txbPlusMinus.Text(), "0"));
 
@@ -37,10 +40,20 @@ void frmMain::cmdCompute_Click() {
   if (!days.empty()) ajd += optPlus.Value() ? DayCountValue(days) : -DayCountValue(days);
   if (DateOutOfRange(ajd)) return;
 
+  ClearEclipse();
   StopClock();
   dblMoment = ajd;
-  DisplayMoment();
+  const std::string summary = DisplayMoment();
   CopyDateToEntryBox();
+  AddLogEntry(AddHistoryEntry(summary, 0), ConvertOperation(days), "");
+}
+
+// "Convert date minus 1.5 days" for what stands in the box of days.
+std::string frmMain::ConvertOperation(const std::string& days) const {
+  if (days.empty()) return "Convert date";
+  const bool one = std::fabs(DayCountValue(days)) == 1;
+  return std::string("Convert date") + (optPlus.Value() ? " plus " : " minus ") +
+         RemoveChars(days, "+,") + (one ? " day" : " days");
 }
 
 void frmMain::cmdClearDate_Click() {

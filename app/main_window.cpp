@@ -2,6 +2,7 @@
 
 #include "app/time_zone.h"
 #include "moon/syzyg.h"
+#include "navigation/step.h"
 
 namespace tarnwick {
 namespace {
@@ -33,6 +34,8 @@ void frmMain::NameLabels() {
   lblPhaseOfMoon[0].SetCaption("Phase");
   lblAgeOfMoon[0].SetCaption("Age");
   lblDeltaT[0].SetCaption("Delta T");
+  optMoveDirection[0].SetCaption("forward");
+  optMoveDirection[1].SetCaption("back");
 }
 
 void frmMain::ConnectHandlers() {
@@ -49,6 +52,20 @@ void frmMain::ConnectHandlers() {
   optLocal.on_click = [this] { optLocal_Click(); };
   cboTimeZone.on_click = [this] { cboTimeZone_Click(); };
   Clock.on_timer = [this] { Clock_Timer(); };
+  cmdMove.on_click = [this] { cmdMove_Click(); };
+  cmdStop.on_click = [this] { cmdStop_Click(); };
+  cmdPauseResume.on_click = [this] { cmdPauseResume_Click(); };
+  cboMoveStep.on_click = [this] { cboMoveStep_Click(); };
+  cboRefreshPeriod.on_click = [this] { cboRefreshPeriod_Click(); };
+  chkRepeatedly.on_click = [this] { chkRepeatedly_Click(); };
+  optMoveDirection[0].on_click = [this] { optMoveDirection_Click(0); };
+  optMoveDirection[1].on_click = [this] { optMoveDirection_Click(1); };
+  cmdSearch.on_click = [this] { cmdSearch_Click(); };
+  cboTarget.on_click = [this] { cboTarget_Click(); };
+  optNext.on_click = [this] { optNext_Click(); };
+  optPrevious.on_click = [this] { optPrevious_Click(); };
+  cboHistory.on_click = [this] { cboHistory_Click(); };
+  cmdReset.on_click = [this] { cmdReset_Click(); };
 
   const auto connect = [this](DateLabel& label, void (frmMain::*handler)(int)) {
     label[0].on_click = [this, handler] { (this->*handler)(0); };
@@ -73,7 +90,7 @@ void frmMain::Form_Load() {
   MarkCurrentCalendar();
   EnableDisableFunctions(true);
   cmdQuit.SetEnabled(true);
-  DisplayMoment();
+  AddLogEntry(AddHistoryEntry(DisplayMoment(), 0), "Restore saved state on startup", "");
   MarkCurrentCalendar();
   Show();
   SetTheFocus();
@@ -83,17 +100,30 @@ void frmMain::Form_Load() {
 void frmMain::Initialise() {
   InitLunations();
   dblMoment = PresentMoment();
-  FillTimeZones();
+  FillLists();
   ClearValueLabels();
   intStoredOffset = TimeZoneOffsetMinutes();
   picCheck.SetVisible(false);
+  fraStopPauseResume.SetVisible(false);
+  lblSearching.SetVisible(false);
   optLocal.SetValue(true);
+  optMoveDirection[0].SetValue(true);
+  optNext.SetValue(true);
   optPlus.SetValue(true);
+  chkRepeatedly_Click();
 }
 
-void frmMain::FillTimeZones() {
+void frmMain::FillLists() {
+  blnRestoring = true;  // there is no moment on display yet that a zone could move
   for (int i = 0; i < kTimeZoneCount; ++i) cboTimeZone.AddItem(TimeZoneText(i));
   cboTimeZone.SetListIndex(kGmtTimeZone);
+  blnRestoring = false;
+  for (int i = 0; i < kStepCount; ++i) cboMoveStep.AddItem(std::string(StepText(i)));
+  cboMoveStep.SetListIndex(kOneDayStep);
+  for (const TargetRow& row : kTargets) cboTarget.AddItem(std::string(row.text), row.phase);
+  cboTarget.SetListIndex(kTotalSolarTarget);
+  for (const char* const seconds : {"0.2", "0.5", "1", "2", "5"}) cboRefreshPeriod.AddItem(seconds);
+  cboRefreshPeriod.SetListIndex(kOneSecondPeriod);
 }
 
 void frmMain::ClearValueLabels() {
@@ -104,14 +134,16 @@ void frmMain::ClearValueLabels() {
     (*label)[1].SetForeColor(kResultColor);
   }
   picMoon.SetPicture({});
+  lblActualEclipseData.SetCaption("");
+  lblActualEclipseData.SetForeColor(kResultColor);
 }
 
 void frmMain::EnableDisableFunctions(bool enable) {
-  for (Control* control :
-       std::initializer_list<Control*>{&cmdCompute, &cmdClearDate, &txbDate, &txbPlusMinus}) {
+  for (Control* control : std::initializer_list<Control*>{
+           &cmdMove, &cmdCompute, &cmdClearDate, &cmdReset, &cmdSearch, &txbDate, &txbPlusMinus}) {
     control->SetEnabled(enable);
   }
-  cmdQuit.SetFocus();
+  FocusOnMove();
 }
 
 void frmMain::SetTheFocus() {
@@ -126,6 +158,13 @@ void frmMain::SetTheFocus() {
 
 void frmMain::Form_Unload(bool& /*cancel*/) { cmdQuit_Click(); }
 
-void frmMain::cmdQuit_Click() { desktop_.EndProgram(); }
+// A running move or search sees the flags at its next pass and ends.
+void frmMain::cmdQuit_Click() {
+  blnEnding = true;
+  blnRepeating = false;
+  blnPaused = false;
+  blnSearching = false;
+  desktop_.EndProgram();
+}
 
 }  // namespace tarnwick

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "app/calendar_table.h"
@@ -10,6 +11,7 @@
 #include "controls/controls.h"
 #include "controls/desktop.h"
 #include "controls/form.h"
+#include "navigation/target.h"
 
 namespace tarnwick {
 
@@ -19,6 +21,9 @@ inline constexpr double kUpperLimit = 3912515.0;  // AJD, noon of 6000-01-01 CE,
 inline constexpr Color kSelectedColor{255, 255, 255};
 inline constexpr Color kUnselectedColor{200, 200, 200};
 inline constexpr Color kResultColor{0, 0, 128};  // navy: the Moon and results
+
+inline constexpr int kOneSecondPeriod = 2;             // its place in the list of refresh periods
+inline constexpr std::int32_t kNoEclipse = -10000000;  // no lunation has that number
 
 // The main window. It holds the one current moment and shows it in every calendar.
 class frmMain final : public Form {
@@ -64,11 +69,43 @@ class frmMain final : public Form {
   DateLabel lblAgeOfMoon{*this, "lblAgeOfMoon"};
   DateLabel lblDeltaT{*this, "lblDeltaT"};
 
+  // Move.
+  Frame fraMove{*this, "fraMove", "Move"};
+  Frame fraMoveStep{fraMove, "fraMoveStep", "Step"};
+  ComboBox cboMoveStep{fraMoveStep, "cboMoveStep"};
+  Frame fraMoveDirection{fraMove, "fraMoveDirection", "Direction"};
+  OptionGroup grpMoveDirection;
+  ControlArray<OptionButton, 2> optMoveDirection{fraMoveDirection, "optMoveDirection",
+                                                 grpMoveDirection};  // 0 forward, 1 back
+  CheckBox chkRepeatedly{fraMove, "chkRepeatedly", "repeatedly"};
+  Button cmdMove{fraMove, "cmdMove", "Move"};
+  Frame fraStopPauseResume{*this, "fraStopPauseResume"};  // shown during a repeated move
+  Button cmdStop{fraStopPauseResume, "cmdStop", "Stop"};
+  Button cmdPauseResume{fraStopPauseResume, "cmdPauseResume", "Pause"};
+  Label lblRefreshPeriod{*this, "lblRefreshPeriod", "seconds a step"};
+  ComboBox cboRefreshPeriod{*this, "cboRefreshPeriod"};
+
+  // Search.
+  Frame fraSearch{*this, "fraSearch", "Search"};
+  ComboBox cboTarget{fraSearch, "cboTarget"};
+  OptionGroup grpNextPrevious;
+  OptionButton optNext{fraSearch, "optNext", grpNextPrevious, "next"};
+  OptionButton optPrevious{fraSearch, "optPrevious", grpNextPrevious, "previous"};
+  Button cmdSearch{fraSearch, "cmdSearch", "Search"};
+  Label lblSearching{*this, "lblSearching", "Searching ..."};  // shown during a long search
+  Label lblActualEclipseData{*this, "lblActualEclipseData"};   // the eclipse on display
+
+  // History.
+  Frame fraHistory{*this, "fraHistory", "History"};
+  ComboBox cboHistory{fraHistory, "cboHistory"};
+  Button cmdReset{*this, "cmdReset", "Reset"};
+
   Button cmdQuit{*this, "cmdQuit", "Quit"};
   Timer Clock{*this, "Clock"};
 
   void Form_Load() override;
   void Form_Unload(bool& cancel) override;
+  void Form_KeyPress(int& key) override;
 
   // The label array of a calendar of the calendar table.
   DateLabel& DateLabelOf(std::int16_t calendar) {
@@ -80,7 +117,7 @@ class frmMain final : public Form {
   void Initialise();
   void NameLabels();
   void ConnectHandlers();
-  void FillTimeZones();
+  void FillLists();
   void ClearValueLabels();
 
   void EnableDisableFunctions(bool enable);
@@ -89,6 +126,7 @@ class frmMain final : public Form {
 
   // Entry (convert.cpp).
   void cmdCompute_Click();
+  std::string ConvertOperation(const std::string& days) const;
   void cmdClearDate_Click();
   void txbDate_KeyPress(int& key);
   void txbPlusMinus_KeyPress(int& key);
@@ -145,8 +183,60 @@ class frmMain final : public Form {
   void cboTimeZone_Click();
   void cmdNow_Click();
   void StopClock();
-  void ShowPresentMoment();
+  std::string ShowPresentMoment();
   void Clock_Timer();
+
+  // Moves (navigation/move.cpp).
+  void cmdMove_Click();
+  void cmdStop_Click();
+  void cmdPauseResume_Click();
+  void cboMoveStep_Click();
+  void cboRefreshPeriod_Click();
+  void chkRepeatedly_Click();
+  void optMoveDirection_Click(int index);
+  void EnableDisableCommands(bool enable);
+  void FocusOnMove();
+  void SetClockToRefreshPeriod();
+  void BeginRepeatedMove();
+  void EndMove();
+  std::string RunMove();
+  std::string MakeStep();
+  // Whether the moment has left the accepted range, after telling the user.
+  bool RangeExceeded();
+  std::string MoveOperation() const;
+  // Makes a moment typed into the date box the current one; false if it is refused, which the user
+  // has been told.
+  bool TakeUpTypedMoment(bool within_range);
+
+  // Searches (navigation/search.cpp).
+  void cmdSearch_Click();
+  void cboTarget_Click();
+  void optNext_Click();
+  void optPrevious_Click();
+  struct SearchResult;
+  void RunSearch(int target, const std::string& shown_eclipse);
+  std::optional<SearchResult> SearchPhase(int target, const PhaseNumber& at);
+  std::optional<SearchResult> SearchEclipse(int target, const PhaseNumber& at);
+  std::optional<SearchResult> SearchSameSaros(const std::string& shown_eclipse);
+  std::optional<SearchResult> SearchCoincidence();
+  bool KeepSearching();
+  std::string SearchOperation(int target) const;
+  // The lunation and phase of the current moment; nothing, after telling the user, if the phase
+  // engine's answers do not fit together.
+  std::optional<PhaseNumber> PhaseOfMoment(const std::string& routine);
+  void ClearEclipse();
+  std::string DescribeEclipse(const EclipseRecord& record);
+
+  // History and reset (navigation/history.cpp).
+  std::string AddHistoryEntry(const std::string& date, std::int16_t eclipse_type);
+  std::string HistoryText(const std::string& date) const;
+  void cboHistory_Click();
+  void RecallHistory();
+  std::string DescribeRecalledEclipse(const PhaseNumber& at, int eclipse_type);
+  void cmdReset_Click();
+  // Keeps a result until it is wanted in the log.
+  void AddLogEntry(const std::string& result, const std::string& operation,
+                   const std::string& extra);
 
   Desktop& desktop_;
   std::array<DateLabel*, kCalendarCount> date_labels_;
@@ -158,8 +248,19 @@ class frmMain final : public Form {
   bool blnClockRunning = false;      // the moment is the present one and follows the clock
   bool blnRestoring = false;         // the saved state is being restored
   bool blnRestoringHistory = false;  // an entry of the history is being recalled
-  bool blnPictureReported = false;   // that a picture of the Moon is missing
-  std::string strCopiedEntry;        // what was last copied to the entry box
+  bool blnRepeating = false;         // a repeated move is in progress
+  bool blnPaused = false;            // and paused
+  bool blnStepDue = false;           // the next step is to be made now
+  bool blnSearching = false;         // a search is in progress
+  bool blnEnding = false;            // the program ends: moves and searches stop
+  bool blnAtPhase = false;           // the moment is the instant of its phase
+  bool blnAddingHistory = false;     // an entry is being added to the history
+  std::int32_t lngEclipseLunation = kNoEclipse;  // of the eclipse on display
+  std::int16_t intEclipsePhase = 0;              // and its phase index, 0 or 2
+  std::int16_t intHistoryIndex = -1;             // of the entry last added or selected
+  std::array<std::string, 3> strPendingResult;   // result, operation, extra for the log
+  bool blnPictureReported = false;               // that a picture of the Moon is missing
+  std::string strCopiedEntry;                    // what was last copied to the entry box
 };
 
 // Sets two option buttons or labels apart: the chosen one white, the other grey.

@@ -59,22 +59,32 @@ void frmMain::optLocal_Click() {
 // Keeps the local date and time on display, so that the moment itself moves.
 void frmMain::cboTimeZone_Click() {
   if (cboTimeZone.ListIndex() < 0 || blnRestoring) return;
+  lblActualEclipseData.SetCaption("");
   const std::int16_t offset = TimeZoneOffsetMinutes();
   dblMoment += static_cast<double>(intStoredOffset - offset) / kMinutesPerDay;
   intStoredOffset = offset;
-  DisplayMoment();
+  const std::string summary = DisplayMoment();
   RenewCopiedDate();
+  if (!blnRestoringHistory) {
+    const std::string entry = AddHistoryEntry(summary, 0);
+    if (!entry.empty()) AddLogEntry(entry, "Timezone changed.", "");
+  }
   SetTheFocus();
 }
 
 void frmMain::cmdNow_Click() {
   txbDate.SetText("");
   txbPlusMinus.SetText("");
+  ClearEclipse();
+  if (blnRepeating) cmdStop_Click();
   blnClockRunning = true;
   picCheck.SetVisible(true);
   Clock.SetInterval(intClockSeconds * 1000);
   Clock.SetEnabled(true);
-  ShowPresentMoment();
+  const std::string entry = AddHistoryEntry(ShowPresentMoment(), 0);
+  if (!entry.empty()) AddLogEntry(entry, "Now", "");
+  // An eclipse to take the series of is no longer on display.
+  if (cboTarget.ListIndex() == kSameSarosTarget) cboTarget.SetListIndex(kAnyEclipseTarget);
   EnableDisableFunctions(true);
   SetTheFocus();
 }
@@ -85,13 +95,17 @@ void frmMain::StopClock() {
   Clock.SetEnabled(false);
 }
 
-void frmMain::ShowPresentMoment() {
+std::string frmMain::ShowPresentMoment() {
   dblMoment = PresentMoment();
-  DisplayMoment();
+  return DisplayMoment();
 }
 
 void frmMain::Clock_Timer() {
-  if (blnClockRunning) ShowPresentMoment();
+  if (blnClockRunning) {
+    ShowPresentMoment();
+  } else if (blnRepeating) {
+    blnStepDue = true;
+  }
 }
 
 }  // namespace tarnwick

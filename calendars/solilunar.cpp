@@ -29,11 +29,6 @@ void MoveMonth(SDDate& record, bool forward) {
   }
 }
 
-void LowerDay(SDDate& record) {
-  std::int16_t months = 0;
-  record.day = std::min<std::int32_t>(record.day, SDMonthLength(record, months));
-}
-
 std::string NumericText(const SDDate& record) {
   return std::to_string(record.cycle) + "-" + TwoDigits(record.year) + "-" +
          TwoDigits(record.month) + "-" + TwoDigits(record.day) + " SD";
@@ -81,15 +76,20 @@ std::int16_t SDMonthLength(const SDDate& record, std::int16_t& extra) {
   return CheckedNarrow<std::int16_t>(length);
 }
 
+void ClampSDDate(SDDate& record) {
+  std::int16_t months = 0;
+  record.month = std::min<std::int32_t>(record.month, SDMonthsInYear(record.year, record.cycle));
+  record.day = std::min<std::int32_t>(record.day, SDMonthLength(record, months));
+}
+
 void StepSDYear(SDDate& record, bool forward) {
   MoveYear(record, forward);
-  record.month = std::min<std::int32_t>(record.month, SDMonthsInYear(record.year, record.cycle));
-  LowerDay(record);
+  ClampSDDate(record);
 }
 
 void StepSDMonth(SDDate& record, bool forward) {
   MoveMonth(record, forward);
-  LowerDay(record);
+  ClampSDDate(record);
 }
 
 std::string SDDateString(const SDDate& record, std::int32_t style) {

@@ -39,9 +39,11 @@ std::int16_t SDMonthsInYear(std::int32_t year, std::int32_t cycle);
 // number of months of its year.
 std::int16_t SDMonthLength(const SDDate& record, std::int16_t& extra);
 
-// One year or month on, or back; the other fields stay as they were. Years wrap between 60 and 1
-// with the cycle, months between the last of their year and 1 with the year. A month 13 or a day
-// that is not there becomes the last month or day.
+// Where the year or the month has fewer months or days than the date names, sets the last one.
+void ClampSDDate(SDDate& record);
+
+// One year or month on, or back, ending with ClampSDDate; jdn stays as it was. Years wrap between
+// 60 and 1 with the cycle, months between the last of their year and 1 with the year.
 void StepSDYear(SDDate& record, bool forward);
 void StepSDMonth(SDDate& record, bool forward);
 

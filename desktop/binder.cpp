@@ -20,6 +20,16 @@
 #include "desktop/picture_view.h"
 
 namespace tarnwick {
+namespace {
+
+// A line end that ends the caption begins no line.
+QString ShownCaption(const Label& label) {
+  QString shown = ToShownLines(label.Caption());
+  if (shown.endsWith('\n')) shown.chop(1);
+  return shown;
+}
+
+}  // namespace
 
 QWidget* Binder::WidgetOf(const Control& control) const {
   const auto found = widgets_.find(&control);
@@ -98,7 +108,7 @@ void Binder::Bind(Label& label, QLabel& text) {
   BindForeColor(label, text);
   const char mnemonic = WordingOf(label).mnemonic;
   Mirror(label, Property::kCaption, text, [this, &label, &text, mnemonic] {
-    const QString caption = ToQt(label.Caption());
+    const QString caption = ShownCaption(label);
     // A label takes "&" for a mnemonic only if it has a buddy.
     text.setText(text.buddy() != nullptr ? WithMnemonic(caption, mnemonic) : caption);
     text.setAccessibleName(SpokenName(label));
@@ -182,6 +192,7 @@ void Binder::Bind(Picture& picture, PictureView& view) {
 }
 
 void Binder::Bind(Timer& timer, QTimer& clock) {
+  clock.setTimerType(Qt::PreciseTimer);  // a coarse one strays by a twentieth
   const auto show = [&] {
     if (timer.Enabled() && timer.Interval() > 0) {
       clock.start(timer.Interval());

@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "desktop/check_mark.h"
@@ -17,15 +16,6 @@ namespace {
 
 constexpr int kVisibleZones = 17;
 constexpr char kLongestDayCount[] = "+9,999,999";
-
-// Option buttons that exclude each other need a parent of their own.
-QWidget* MakeOptionGroup(QWidget* panel) {
-  auto* group = new QWidget(panel);
-  auto* row = new QHBoxLayout(group);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(2 * Spacing(*panel));
-  return group;
-}
 
 QLineEdit* MakeLineEdit(QWidget* panel) {
   auto* edit = new QLineEdit(panel);
@@ -61,7 +51,7 @@ QHBoxLayout* MainWindowView::MakeEntryRow(QWidget* panel) {
   row->addWidget(date, 1);
   row->addSpacing(space);
 
-  QWidget* direction = MakeOptionGroup(panel);
+  QWidget* direction = MakeArea(2 * space, panel);
   AddOption(form_.optPlus, direction);
   AddOption(form_.optMinus, direction);
   row->addWidget(direction);
@@ -96,7 +86,7 @@ QHBoxLayout* MainWindowView::MakeCommandRow(QWidget* panel) {
   binder_.Bind(form_.lblTimeSystem, *caption);
   SetTextColor(*caption, Look::kCaption);
   row->addWidget(caption);
-  QWidget* system = MakeOptionGroup(panel);
+  QWidget* system = MakeArea(2 * space, panel);
   AddOption(form_.optGreenwich, system);
   AddOption(form_.optLocal, system);
   row->addWidget(system);
@@ -117,12 +107,6 @@ void MainWindowView::AddTimeZone(QHBoxLayout& row, QWidget* panel) {
   zone->setMaxVisibleItems(kVisibleZones);
   binder_.Bind(form_.cboTimeZone, *zone);
   row.addWidget(zone);
-}
-
-void MainWindowView::AddOption(OptionButton& option, QWidget* group) {
-  auto* radio = new QRadioButton(group);
-  group->layout()->addWidget(radio);
-  binder_.Bind(option, *radio);
 }
 
 }  // namespace tarnwick

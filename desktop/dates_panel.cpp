@@ -23,7 +23,8 @@ QWidget* MainWindowView::MakeDatesPanel() {
   rows->setVerticalSpacing(0);  // the padding of the labels is enough
   rows->setColumnStretch(1, 1);
   // Room for any date, so that the window need not grow with the text.
-  rows->setColumnMinimumWidth(1, panel->fontMetrics().horizontalAdvance(kLongestDate));
+  rows->setColumnMinimumWidth(
+      1, panel->fontMetrics().horizontalAdvance(kLongestDate) + 2 * Spacing(*panel));
   // In the order of the display: the day counts last.
   for (frmMain::DateLabel* label :
        {&form_.lblTime, &form_.lblCommonEraDate, &form_.lblJulianCalendarDate,

@@ -1,6 +1,7 @@
 #include "desktop/look.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFontMetrics>
 #include <QProxyStyle>
 #include <QToolTip>
@@ -91,6 +92,19 @@ void SetTextColor(QWidget& widget, const QColor& color) {
     palette.setColor(QPalette::Inactive, QPalette::WindowText, color);
   }
   widget.setPalette(palette);
+}
+
+void ReserveWidth(QComboBox& list, const QString& longest) {
+  const QFontMetrics font = list.fontMetrics();
+  const int unit = font.horizontalAdvance('X');  // in which a list measures its length
+  list.setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  list.setMinimumContentsLength((font.horizontalAdvance(longest) + unit - 1) / unit);
+}
+
+void KeepRoomWhenHidden(QWidget& widget) {
+  QSizePolicy policy = widget.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget.setSizePolicy(policy);
 }
 
 }  // namespace tarnwick

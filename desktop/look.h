@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QPalette>
 
+class QComboBox;
 class QWidget;
 
 namespace tarnwick {
@@ -55,5 +56,11 @@ int Spacing(const QWidget& widget);
 // Gives the widget's texts one colour, whatever panel they stand on; an invalid one takes that
 // back.
 void SetTextColor(QWidget& widget, const QColor& color);
+
+// Makes a list wide enough for a text, whatever it holds.
+void ReserveWidth(QComboBox& list, const QString& longest);
+
+// Leaves the room of a hidden widget empty, so that nothing moves when it appears.
+void KeepRoomWhenHidden(QWidget& widget);
 
 }  // namespace tarnwick

@@ -2,9 +2,11 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QVBoxLayout>
 
 #include "desktop/look.h"
+#include "desktop/panel.h"
 
 namespace tarnwick {
 namespace {
@@ -37,6 +39,23 @@ constexpr Wording kWordings[] = {
     {"lblPhaseOfMoon(1)", 0, "Phase of the Moon"},
     {"lblAgeOfMoon(1)", 0, "Age of the Moon"},
     {"lblDeltaT(1)", 0, "Delta T"},
+    {"cboMoveStep", 0, "Step"},
+    {"optMoveDirection(0)", 'f', ""},
+    {"optMoveDirection(1)", 'b', ""},
+    {"chkRepeatedly", 'y', ""},
+    {"cmdMove", 'v', ""},
+    {"fraStopPauseResume", 0, "Repeated move"},
+    {"cmdStop", 't', ""},
+    {"cmdPauseResume", 'u', ""},
+    {"lblRefreshPeriod", 'e', ""},
+    {"cboRefreshPeriod", 0, "Seconds a step"},
+    {"cboTarget", 0, "Target of the search"},
+    {"optNext", 'x', ""},
+    {"optPrevious", 'i', ""},
+    {"cmdSearch", 'S', ""},
+    {"lblActualEclipseData", 0, "Eclipse"},
+    {"cboHistory", 0, "History"},
+    {"cmdReset", 'R', ""},
     {"cmdQuit", 'Q', ""},
 };
 
@@ -56,19 +75,37 @@ MainWindowView::MainWindowView(frmMain& form, HandlerGate& gate)
   moment->addWidget(MakeMoonPanel(), 2);
   sections->addLayout(moment, 1);
 
-  sections->addWidget(MakeBottomRow());
+  auto* navigation = new QHBoxLayout;
+  navigation->setSpacing(space);
+  navigation->addWidget(MakeMovePanel(), 1);
+  navigation->addWidget(MakeSearchPanel(), 1);
+  navigation->addWidget(MakeResultPanel(), 1);
+  sections->addLayout(navigation);
+
+  auto* closing = new QHBoxLayout;
+  closing->setSpacing(space);
+  closing->addWidget(MakeHistoryPanel(), 1);
+  closing->addWidget(MakeButtons(), 1, Qt::AlignBottom);
+  sections->addLayout(closing);
+
   binder_.Bind(form_.Clock, clock_);
   resize(sizeHint());
   binder_.Bind(form_, *this);
 }
 
-QWidget* MainWindowView::MakeBottomRow() {
-  auto* area = new QWidget(this);
-  auto* row = new QHBoxLayout(area);
-  row->setContentsMargins(0, 0, 0, 0);
+QWidget* MainWindowView::MakeButtons() {
+  QWidget* area = MakeArea(Spacing(*this), this);
+  auto* row = static_cast<QHBoxLayout*>(area->layout());
+  row->addWidget(MakeButton(form_.cmdReset, area));
   row->addStretch();
   row->addWidget(MakeButton(form_.cmdQuit, area));
   return area;
+}
+
+void MainWindowView::AddOption(OptionButton& option, QWidget* group) {
+  auto* radio = new QRadioButton(group);
+  group->layout()->addWidget(radio);
+  binder_.Bind(option, *radio);
 }
 
 QPushButton* MainWindowView::MakeButton(Button& button, QWidget* parent) {

@@ -21,21 +21,35 @@ class MainWindowView final : public QWidget {
   QWidget* WidgetOf(const Control& control) const { return binder_.WidgetOf(control); }
 
  private:
-  QWidget* MakeBottomRow();
+  QWidget* MakeButtons();
+
+  // What the panels are made of.
+  void AddOption(OptionButton& option, QWidget* group);
+  QPushButton* MakeButton(Button& button, QWidget* parent);
 
   // Entry and time system (convert_panel.cpp).
   QWidget* MakeConvertPanel();
   QHBoxLayout* MakeEntryRow(QWidget* panel);
   QHBoxLayout* MakeCommandRow(QWidget* panel);
   void AddTimeZone(QHBoxLayout& row, QWidget* panel);
-  void AddOption(OptionButton& option, QWidget* group);
-  QPushButton* MakeButton(Button& button, QWidget* parent);
 
   // One moment in every calendar (dates_panel.cpp) and the Moon (moon_panel.cpp).
   QWidget* MakeDatesPanel();
   void AddDate(frmMain::DateLabel& label, QGridLayout& rows, QWidget* panel);
   QWidget* MakeMoonPanel();
   void AddMoonRow(frmMain::DateLabel& label, QGridLayout& rows, QWidget* panel);
+
+  // Moves (move_panel.cpp), searches (search_panel.cpp, result_panel.cpp) and the history
+  // (history_panel.cpp).
+  QWidget* MakeMovePanel();
+  QWidget* MakeMoveFrame(QWidget* panel);
+  QWidget* MakeStepList(QWidget* frame);
+  QHBoxLayout* MakePeriodRow(QWidget* panel);
+  QWidget* MakeSteering(QWidget* panel);
+  QWidget* MakeSearchPanel();
+  QWidget* MakeSearchFrame(QWidget* panel);
+  QWidget* MakeResultPanel();
+  QWidget* MakeHistoryPanel();
 
   frmMain& form_;
   Binder binder_;

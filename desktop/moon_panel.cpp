@@ -28,7 +28,8 @@ QWidget* MainWindowView::MakeMoonPanel() {
   rows->setHorizontalSpacing(2 * Spacing(*panel));
   rows->setVerticalSpacing(Spacing(*panel) / 2);
   rows->setColumnStretch(1, 1);
-  rows->setColumnMinimumWidth(1, panel->fontMetrics().horizontalAdvance(kLongestAge));
+  rows->setColumnMinimumWidth(
+      1, panel->fontMetrics().horizontalAdvance(kLongestAge) + Spacing(*panel));
   AddMoonRow(form_.lblPhaseOfMoon, *rows, panel);
   AddMoonRow(form_.lblAgeOfMoon, *rows, panel);
   AddMoonRow(form_.lblDeltaT, *rows, panel);

@@ -1,5 +1,6 @@
 #include "desktop/panel.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -36,6 +37,14 @@ void Panel::paintEvent(QPaintEvent* /*event*/) {
   painter.setBrush(light ? Look::kLightPanel : Look::kPanel);
   const double radius = fontMetrics().height() / 3.0;
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+}
+
+QWidget* MakeArea(int spacing, QWidget* parent) {
+  auto* area = new QWidget(parent);
+  auto* row = new QHBoxLayout(area);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(spacing);
+  return area;
 }
 
 }  // namespace tarnwick

@@ -27,4 +27,7 @@ class Panel : public QWidget {
   QVBoxLayout* content_;
 };
 
+// A row of widgets that are disabled and hidden together; option buttons in it exclude each other.
+QWidget* MakeArea(int spacing, QWidget* parent);
+
 }  // namespace tarnwick

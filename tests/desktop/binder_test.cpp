@@ -30,7 +30,7 @@ class BinderTest : public QObject {
   void listFollowsItsItems();
   void listReportsEveryChoice();
   void listSelectedByCodeRunsItsHandlerOnce();
-  void labelIsColouredOnlyIfItsControlIs();
+  void labelShowsItsCaptionAndColour();
   void clickableLabelAnswersMouseAndKeys();
   void frameDisablesAndHidesWhatItHolds();
   void pictureIsClicked();
@@ -175,13 +175,15 @@ void BinderTest::listSelectedByCodeRunsItsHandlerOnce() {
   QCOMPARE(combo.currentIndex(), 2);
 }
 
-void BinderTest::labelIsColouredOnlyIfItsControlIs() {
+void BinderTest::labelShowsItsCaptionAndColour() {
   BoundWindow bound;
   Label label(bound.form, "lblPhase", "Full & round");
   auto& text = bound.Add<QLabel>(label);
   const QColor ground = bound.window.palette().color(QPalette::WindowText);
   QCOMPARE(text.text(), "Full & round");
   QCOMPARE(text.palette().color(QPalette::WindowText), ground);
+  label.SetCaption("two\r\nlines\r\n");
+  QCOMPARE(text.text(), "two\nlines");
   label.SetForeColor({0, 0, 128});
   QCOMPARE(text.palette().color(QPalette::WindowText), QColor(0, 0, 128));
   label.SetForeColor({});
@@ -286,6 +288,7 @@ void BinderTest::timerTicksOnlyWhileEnabled() {
   bound.binder.Bind(timer, clock);
   timer.SetEnabled(true);
   QVERIFY(!clock.isActive());  // no interval yet
+  QCOMPARE(clock.timerType(), Qt::PreciseTimer);
   timer.SetInterval(1);
   QTRY_VERIFY(ticks >= 2);
   timer.SetEnabled(false);

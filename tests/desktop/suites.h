@@ -9,6 +9,7 @@ int RunBinderTests(int argc, char** argv);
 int RunBinderFormTests(int argc, char** argv);
 int RunBinderTextTests(int argc, char** argv);
 int RunMainWindowViewTests(int argc, char** argv);
+int RunNavigationViewTests(int argc, char** argv);
 int RunPictureViewTests(int argc, char** argv);
 int RunQtDesktopTests(int argc, char** argv);
 

@@ -1,0 +1,26 @@
+// The steps by which a moment can be moved.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace tarnwick {
+
+inline constexpr int kStepCount = 20;
+inline constexpr int kOneDayStep = 2;
+
+// "1 minute", "1 CE month" ... "1 OLW year".
+std::string_view StepText(int step);
+
+// The calendar that a step makes the current one, -1 if it leaves that as it is.
+std::int16_t StepCalendar(int step);
+
+// The moment (AJD) one step on or back, read and written `offset_minutes` east of Greenwich. Steps
+// of minutes, hours and days are plain; the others change the date and keep the time of day. A date
+// that does not exist is lowered to the nearest before it that does. OLW steps start from the
+// displayed OLW date, `olw_date`, "5011-03-2-4".
+// Throws RuntimeError when a number of the new date does not fit its field.
+double StepMoment(int step, bool forward, double ajd, int offset_minutes,
+                  std::string_view olw_date);
+
+}  // namespace tarnwick

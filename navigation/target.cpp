@@ -1,0 +1,160 @@
+#include "navigation/target.h"
+
+#include <cstddef>
+#include <initializer_list>
+
+#include "calendars/archetypes.h"
+#include "calendars/checked_arithmetic.h"
+#include "calendars/goddess.h"
+#include "calendars/solilunar.h"
+#include "calendars/triday.h"
+#include "moon/syzyg.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::int16_t kNewMoon = 0;
+constexpr std::int16_t kFullMoon = 2;
+constexpr std::int16_t kLastQuarter = 3;
+
+// A set of eclipse types, a bit each.
+using EclipseTypes = std::uint32_t;
+
+constexpr EclipseTypes TypeSet(std::initializer_list<int> types) {
+  EclipseTypes set = 0;
+  for (const int type : types) set |= EclipseTypes{1} << type;
+  return set;
+}
+
+constexpr EclipseTypes kSolarTypes = TypeSet({1, 2, 3, 4, 5, 6, 7});
+constexpr EclipseTypes kLunarTypes = TypeSet({8, 9, 10});
+
+// What the targets from kAnyEclipseTarget on accept. Annular-total eclipses are both.
+constexpr std::array<EclipseTypes, 7> kAcceptedTypes{
+    kSolarTypes | kLunarTypes, kLunarTypes,           TypeSet({10}), TypeSet({9, 10}), kSolarTypes,
+    TypeSet({3, 4, 6, 7}),     TypeSet({2, 5, 6, 7}),
+};
+
+EclipseTypes AcceptedTypes(int target) {
+  const int row = target - kAnyEclipseTarget;
+  if (row < 0 || row >= static_cast<int>(kAcceptedTypes.size())) return 0;
+  return kAcceptedTypes[static_cast<std::size_t>(row)];
+}
+
+PhaseNumber FindQuarter(bool forward, PhaseNumber at, bool exact) {
+  if (!forward && !exact) return at;
+  at.phase = static_cast<std::int16_t>(at.phase + (forward ? 1 : -1));
+  if (at.phase > kLastQuarter) return {CheckedAdd(at.lunation, 1), kNewMoon};
+  if (at.phase < kNewMoon) return {CheckedSubtract(at.lunation, 1), kLastQuarter};
+  return at;
+}
+
+// The new or full moon next to one.
+PhaseNumber NeighbourSyzygy(const PhaseNumber& syzygy, bool forward) {
+  if (syzygy.phase == kNewMoon) {
+    return {forward ? syzygy.lunation : CheckedSubtract(syzygy.lunation, 1), kFullMoon};
+  }
+  return {forward ? CheckedAdd(syzygy.lunation, 1) : syzygy.lunation, kNewMoon};
+}
+
+// The first new or full moon that a search comes to: the next, or the last one.
+PhaseNumber FirstSyzygy(const PhaseNumber& at, bool forward) {
+  const PhaseNumber last{at.lunation, at.phase < kFullMoon ? kNewMoon : kFullMoon};
+  return forward ? NeighbourSyzygy(last, true) : last;
+}
+
+// The first of the SD month before, or after, in which a search from a day begins.
+SDDate FirstSDMonth(std::int32_t day_number, bool forward) {
+  SDDate date;
+  date.jdn = day_number;
+  JDNToSDDate(date);
+  const bool at_first = date.day == 1;
+  date.day = 1;
+  if (forward || at_first) StepSDMonth(date, forward);
+  return date;
+}
+
+bool IsFirstOfARCMonth(std::int32_t day_number) {
+  ARCDate date;
+  date.jdn = day_number;
+  JDNToARCDate(date);
+  return date.day == 1;
+}
+
+bool IsFirstOfLLTMonth(std::int32_t day_number) {
+  LLTDate date;
+  date.jdn = day_number;
+  JDNToLLT(date);
+  return date.triday == 1 && date.day == 1;
+}
+
+bool IsFirstOfKSGMonth(std::int32_t day_number) {
+  KSGDate date;
+  date.jdn = day_number;
+  JDNToKSGDate(date);
+  return date.day == 1;
+}
+
+}  // namespace
+
+constexpr std::array<TargetRow, kTargetCount> kTargets{{
+    {"Full moon", kFullMoon},
+    {"Dark moon", kNewMoon},
+    {"Half moon (1st quarter)", 1},
+    {"Half moon (last quarter)", kLastQuarter},
+    {"Quarter"},
+    {""},
+    {"Lunar or solar eclipse"},
+    {"Lunar eclipse"},
+    {"Total lunar eclipse"},
+    {"Total or partial lunar eclipse"},
+    {"Solar eclipse"},
+    {"Total solar eclipse"},
+    {"Annular solar eclipse"},
+    {"Eclipse in same saros series"},
+    {""},
+    {"Coincidence of 1sts of month"},
+}};
+
+PhaseNumber FindPhase(int target, bool forward, const PhaseNumber& at, bool exact) {
+  if (target == kQuarterTarget) return FindQuarter(forward, at, exact);
+  const std::int16_t phase = kTargets[static_cast<std::size_t>(target)].phase;
+  if (forward) return {at.phase >= phase ? CheckedAdd(at.lunation, 1) : at.lunation, phase};
+  const bool before = phase > at.phase || (phase == at.phase && exact);
+  return {before ? CheckedSubtract(at.lunation, 1) : at.lunation, phase};
+}
+
+bool AcceptsEclipse(int target, std::int32_t type) {
+  return type >= 1 && type <= 10 && (AcceptedTypes(target) >> type & 1) != 0;
+}
+
+std::optional<FoundEclipse> FindEclipse(int target, bool forward, const PhaseNumber& at,
+                                        const std::function<bool(const FoundEclipse&)>& wanted,
+                                        const KeepSearching& keep_searching) {
+  const EclipseTypes types = AcceptedTypes(target);
+  FoundEclipse found{FirstSyzygy(at, forward)};
+  for (;; found.at = NeighbourSyzygy(found.at, forward)) {
+    if ((types & (found.at.phase == kNewMoon ? kSolarTypes : kLunarTypes)) == 0) continue;
+    if (!keep_searching()) return std::nullopt;
+    Syzygy(found.at.lunation, found.at.phase, found.record);
+    if (AcceptsEclipse(target, found.record.type) && wanted(found)) return found;
+  }
+}
+
+bool IsCoincidenceOf1sts(std::int32_t day_number) {
+  return IsFirstOfARCMonth(day_number) && IsFirstOfLLTMonth(day_number) &&
+         IsFirstOfKSGMonth(day_number);
+}
+
+std::optional<std::int32_t> FindCoincidence(std::int32_t day_number, bool forward,
+                                            const KeepSearching& keep_searching) {
+  SDDate date = FirstSDMonth(day_number, forward);
+  while (SDDateToJDN(date)) {
+    if (!keep_searching()) return std::nullopt;
+    if (IsCoincidenceOf1sts(date.jdn)) return date.jdn;
+    StepSDMonth(date, forward);
+  }
+  return std::nullopt;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,108 @@
+#include <map>
+
+#include "tests/desktop/shown_main_window.h"
+#include "tests/desktop/suites.h"
+
+namespace tarnwick {
+namespace {
+
+// Where the widgets stand that have a text of their own and are always shown.
+std::map<QString, QRect> Places(const QWidget& window) {
+  std::map<QString, QRect> places;
+  for (const QWidget* widget : TextWidgets(window)) {
+    if (widget->objectName().isEmpty() || widget->objectName().startsWith("lbl")) continue;
+    places[widget->objectName()] = QRect(widget->mapTo(&window, QPoint()), widget->size());
+  }
+  return places;
+}
+
+}  // namespace
+
+class NavigationViewTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void moveIsMadeByKeyboard();
+  void searchShowsTheEclipse();
+  void runningMoveIsSteeredWhileItsFrameIsDisabled();
+  void longestTextsLeaveTheWindowAlone();
+};
+
+void NavigationViewTest::moveIsMadeByKeyboard() {
+  MainWindow main;
+  QVERIFY(QTest::qWaitForWindowActive(&main.view));
+  QTest::keyClick(&main.view, Qt::Key_B, Qt::AltModifier);
+  QTRY_VERIFY(main.Find<QWidget>(main.form.cmdMove).hasFocus());
+  QTest::keyClick(&main.view, Qt::Key_V, Qt::AltModifier);
+  QTRY_COMPARE(main.Find<QComboBox>(main.form.cboHistory).currentText(),
+               "2024-03-04 CE 12:34 (local = GMT)");
+  QCOMPARE(main.Find<QAbstractButton>(main.form.lblCommonEraDate[1]).text(),
+           "2024-03-04 CE (Monday, March 4, 2024)");
+}
+
+void NavigationViewTest::searchShowsTheEclipse() {
+  MainWindow main;
+  QVERIFY(QTest::qWaitForWindowActive(&main.view));
+  auto& targets = main.Find<QComboBox>(main.form.cboTarget);
+  targets.setFocus();
+  for (int i = 0; i < 3; ++i) QTest::keyClick(&targets, Qt::Key_Up);
+  QCOMPARE(targets.currentText(), "Total lunar eclipse");
+  const auto& result = main.Find<QLabel>(main.form.lblActualEclipseData);
+  QVERIFY(result.text().isEmpty());
+  QTest::keyClick(&main.view, Qt::Key_S, Qt::AltModifier);
+  QTRY_VERIFY(!result.text().isEmpty());
+  const QStringList lines = result.text().split('\n');
+  QCOMPARE(lines.size(), 6);
+  QCOMPARE(lines.front(), "Total lunar eclipse");
+  QVERIFY(lines.back().startsWith("Total phase starts "));
+  QVERIFY(lines.back().endsWith("m."));
+  QVERIFY(main.desktop.messages.empty());
+}
+
+void NavigationViewTest::runningMoveIsSteeredWhileItsFrameIsDisabled() {
+  MainWindow main;
+  frmMain& form = main.form;
+  form.fraStopPauseResume.SetVisible(true);
+  form.lblSearching.SetVisible(true);
+  form.fraMove.SetEnabled(false);
+  form.fraSearch.SetEnabled(false);
+  for (const Control* control : std::initializer_list<const Control*>{
+           &form.cboMoveStep, &form.optMoveDirection[0], &form.chkRepeatedly, &form.cmdMove,
+           &form.cboTarget, &form.optNext, &form.cmdSearch}) {
+    QVERIFY2(!main.Find<QWidget>(*control).isEnabled(), control->Name().c_str());
+  }
+  for (const Control* control : std::initializer_list<const Control*>{
+           &form.cmdStop, &form.cmdPauseResume, &form.cboRefreshPeriod, &form.lblRefreshPeriod,
+           &form.lblSearching}) {
+    const auto& widget = main.Find<QWidget>(*control);
+    QVERIFY2(widget.isEnabled() && widget.isVisible(), control->Name().c_str());
+  }
+}
+
+void NavigationViewTest::longestTextsLeaveTheWindowAlone() {
+  MainWindow main;
+  QVERIFY(QTest::qWaitForWindowExposed(&main.view));
+  main.form.fraStopPauseResume.SetVisible(true);
+  QCoreApplication::processEvents();
+  const QSize smallest = main.view.minimumSizeHint();
+  const auto places = Places(main.view);
+  QVERIFY(places.contains("cmdPauseResume") && places.contains("cmdQuit"));
+  main.FillWithLongestTexts();
+  QCOMPARE(main.view.minimumSizeHint(), smallest);
+  QVERIFY(Places(main.view) == places);
+  VerifyNothingIsClipped(main.view);
+
+  main.form.fraStopPauseResume.SetVisible(false);
+  main.form.lblSearching.SetVisible(false);
+  main.form.lblActualEclipseData.SetCaption("");
+  QCoreApplication::processEvents();
+  QCOMPARE(main.view.minimumSizeHint(), smallest);
+  for (const auto& [name, place] : Places(main.view))
+    QVERIFY2(place == places.at(name), qPrintable(name));
+}
+
+int RunNavigationViewTests(int argc, char** argv) { return Run<NavigationViewTest>(argc, argv); }
+
+}  // namespace tarnwick
+
+#include "navigation_view_test.moc"

@@ -1,0 +1,335 @@
+#include "navigation/step.h"
+
+#include <gtest/gtest.h>
+#include <iterator>
+#include <string>
+
+#include "app/calendar_table.h"
+#include "calendars/archetypes.h"
+#include "calendars/checked_arithmetic.h"
+#include "calendars/date_processing.h"
+#include "calendars/goddess.h"
+#include "calendars/lunar_week.h"
+#include "calendars/solilunar.h"
+#include "calendars/triday.h"
+#include "engines/date_engine.h"
+#include "moon/syzyg.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kOffset = 120;         // every date here is read in this zone
+constexpr long kTime = 47229;        // 13:07:09
+constexpr long kBeforeDawn = 11709;  // 03:15:09
+constexpr long kDay = 86400;
+constexpr long kDawn = kDay / 4;
+
+struct Steps : testing::Test {
+  Steps() { InitLunations(); }
+};
+
+std::int32_t ARCDayNumber(const std::string& numbers) {
+  DateRecord fields;
+  fields.calendar = 'R';
+  EXPECT_EQ(ParseDateString(numbers, fields), kDateParsed) << numbers;
+  ARCDate date{fields.year, fields.month, fields.day};
+  EXPECT_TRUE(ARCDateToJDN(date)) << numbers;
+  return date.jdn;
+}
+
+std::int32_t KSGDayNumber(const std::string& numbers) {
+  KSGDate date;
+  EXPECT_TRUE(ParseKSGDate(numbers, date) && KSGDateToJDN(date)) << numbers;
+  return date.jdn;
+}
+
+// For the calendars whose reader finds the day number too; `read` is what it returns then.
+template <typename Date, typename Parse, typename Result>
+std::int32_t ParsedDayNumber(const std::string& numbers, Parse parse, Result read) {
+  Date date;
+  EXPECT_EQ(parse(numbers, date), read) << numbers;
+  return date.jdn;
+}
+
+std::int32_t DayNumberOf(const std::string& numbers, const std::string& calendar) {
+  if (calendar == "ARC") return ARCDayNumber(numbers);
+  if (calendar == "SD") return ParsedDayNumber<SDDate>(numbers, ParseSDDate, true);
+  if (calendar == "LLT") return ParsedDayNumber<LLTDate>(numbers, ParseLLTDate, true);
+  if (calendar == "KSG") return KSGDayNumber(numbers);
+  if (calendar == "OLW") return ParsedDayNumber<OLWDate>(numbers, ParseOLWDate, kOLWValid);
+  return ParsedDayNumber<DateRecord>(numbers, ParseDateString, kDateParsed);
+}
+
+template <typename Date, typename ToDate>
+Date DateOf(std::int32_t day_number, ToDate to_date) {
+  Date date;
+  date.jdn = day_number;
+  to_date(date);
+  return date;
+}
+
+std::string DateTextOf(std::int32_t day, const std::string& calendar) {
+  if (calendar == "ARC") return ARCDateString(DateOf<ARCDate>(day, JDNToARCDate), 1);
+  if (calendar == "SD") return SDDateString(DateOf<SDDate>(day, JDNToSDDate), 1);
+  if (calendar == "LLT") return LLTDateString(DateOf<LLTDate>(day, JDNToLLT), 1);
+  if (calendar == "KSG") return KSGDateString(DateOf<KSGDate>(day, JDNToKSGDate), 1, true);
+  if (calendar == "OLW") return OLWDateString(DateOf<OLWDate>(day, JDNToOLWDate), 1);
+  return DateText(DateOf<DateRecord>(day, jdn_to_euro_date)) + " CE";
+}
+
+// The date text and time, "2024-02-29 CE 13:07:09", of a moment.
+std::string TextOf(double ajd, const std::string& calendar) {
+  const double cjd = AJDToCJD(ajd, kOffset);
+  const double days = calendar == "OLW" ? cjd - 0.25 : cjd;
+  return DateTextOf(SplitCJD(days).day_number, calendar) + " " +
+         TimeOfDayText(SplitCJD(cjd).fraction, true);
+}
+
+double MomentOf(const std::string& numbers, const std::string& calendar, long seconds) {
+  std::int32_t day = DayNumberOf(numbers, calendar);
+  if (calendar == "OLW" && seconds < kDawn) ++day;  // the small hours of the next civil day
+  return CJDToAJD(day + static_cast<double>(seconds) / kDay, kOffset);
+}
+
+int StepNamed(const std::string& text) {
+  int step = 0;
+  while (StepText(step) != text) ++step;
+  return step;
+}
+
+TEST_F(Steps, AreListedInOrder) {
+  struct Row {
+    std::string text;
+    int calendar;
+  };
+  const Row rows[] = {
+      {"1 minute", -1},      {"1 hour", -1},        {"1 day", -1},         {"1 CE month", kCE},
+      {"1 CE year", kCE},    {"1 CE century", kCE}, {"1 ARC month", kARC}, {"1 ARC year", kARC},
+      {"1 SD month", kSD},   {"1 SD year", kSD},    {"1 SD cycle", kSD},   {"1 KSG month", kKSG},
+      {"1 KSG year", kKSG},  {"1 KSG cycle", kKSG}, {"1 LLT month", kLLT}, {"1 LLT year", kLLT},
+      {"1 LLT cycle", kLLT}, {"1 OLW week", kOLW},  {"1 OLW month", kOLW}, {"1 OLW year", kOLW}};
+  ASSERT_EQ(std::size(rows), static_cast<std::size_t>(kStepCount));
+  for (int step = 0; step < kStepCount; ++step) {
+    EXPECT_EQ(StepText(step), rows[step].text);
+    EXPECT_EQ(StepCalendar(step), rows[step].calendar) << rows[step].text;
+  }
+  EXPECT_EQ(StepText(kOneDayStep), "1 day");
+}
+
+struct TimeRow {
+  std::string step;
+  std::string date;
+  long seconds;
+  std::string forward;
+  std::string back;
+};
+
+TEST_F(Steps, OfMinutesHoursAndDays) {
+  const TimeRow rows[] = {
+      {"1 minute", "2024-02-29", kDay - 30, "2024-03-01 CE 00:00:30", "2024-02-29 CE 23:58:30"},
+      {"1 minute", "2023-01-31", 0, "2023-01-31 CE 00:01:00", "2023-01-30 CE 23:59:00"},
+      {"1 minute", "2023-12-31", kDay - 60, "2024-01-01 CE 00:00:00", "2023-12-31 CE 23:58:00"},
+      {"1 hour", "2024-02-29", kDay - 1800, "2024-03-01 CE 00:30:00", "2024-02-29 CE 22:30:00"},
+      {"1 hour", "2023-01-31", kTime, "2023-01-31 CE 14:07:09", "2023-01-31 CE 12:07:09"},
+      {"1 hour", "2023-12-31", 0, "2023-12-31 CE 01:00:00", "2023-12-30 CE 23:00:00"},
+      {"1 day", "2024-02-29", kTime, "2024-03-01 CE 13:07:09", "2024-02-28 CE 13:07:09"},
+      {"1 day", "2023-01-31", kTime, "2023-02-01 CE 13:07:09", "2023-01-30 CE 13:07:09"},
+      {"1 day", "2023-12-31", kTime, "2024-01-01 CE 13:07:09", "2023-12-30 CE 13:07:09"},
+  };
+  for (const TimeRow& row : rows) {
+    SCOPED_TRACE(row.step + " from " + row.date);
+    const double ajd = MomentOf(row.date, "CE", row.seconds);
+    const int step = StepNamed(row.step);
+    EXPECT_EQ(TextOf(StepMoment(step, true, ajd, kOffset, ""), "CE"), row.forward);
+    EXPECT_EQ(TextOf(StepMoment(step, false, ajd, kOffset, ""), "CE"), row.back);
+  }
+}
+
+struct DateRow {
+  std::string step;
+  std::string date;
+  std::string forward;
+  std::string back;
+};
+
+void ExpectSteps(const DateRow& row, const std::string& calendar, long seconds) {
+  SCOPED_TRACE(row.step + " from " + row.date + " at second " + std::to_string(seconds));
+  const int step = StepNamed(row.step);
+  const double ajd = MomentOf(row.date, calendar, seconds);
+  const std::string rest =
+      " " + calendar + " " + TimeOfDayText(static_cast<double>(seconds) / kDay, true);
+  ASSERT_EQ(TextOf(ajd, calendar), row.date + rest);
+  EXPECT_EQ(TextOf(StepMoment(step, true, ajd, kOffset, row.date), calendar), row.forward + rest);
+  EXPECT_EQ(TextOf(StepMoment(step, false, ajd, kOffset, row.date), calendar), row.back + rest);
+}
+
+// In the middle of the day, in its small hours, and at its two ends.
+template <std::size_t count>
+void ExpectSteps(const DateRow (&rows)[count], const std::string& calendar) {
+  for (const DateRow& row : rows) {
+    for (const long seconds : {kTime, kBeforeDawn, 0L, kDawn, kDay - 1}) {
+      ExpectSteps(row, calendar, seconds);
+    }
+  }
+}
+
+TEST_F(Steps, OfTheCommonEra) {
+  const DateRow rows[] = {
+      {"1 CE month", "2024-02-29", "2024-03-29", "2024-01-29"},
+      {"1 CE month", "2024-03-31", "2024-04-30", "2024-02-29"},
+      {"1 CE month", "2023-03-31", "2023-04-30", "2023-02-28"},
+      {"1 CE month", "2023-12-31", "2024-01-31", "2023-11-30"},
+      {"1 CE month", "2024-01-31", "2024-02-29", "2023-12-31"},
+      {"1 CE year", "2024-02-29", "2025-02-28", "2023-02-28"},
+      {"1 CE year", "2023-01-31", "2024-01-31", "2022-01-31"},
+      {"1 CE year", "0-12-31", "1-12-31", "-1-12-31"},
+      {"1 CE century", "2000-02-29", "2100-02-28", "1900-02-28"},
+      {"1 CE century", "2100-01-31", "2200-01-31", "2000-01-31"},
+      {"1 CE century", "1999-12-31", "2099-12-31", "1899-12-31"},
+  };
+  ExpectSteps(rows, "CE");
+}
+
+// Months 13 exist in 4706, 4709, 4711, 4714, 4717 and the step looks for them in the years after
+// these. Month 10 has 30 days in 4709, for the step in 4710.
+TEST_F(Steps, OfTheArchetypesCalendar) {
+  const DateRow rows[] = {
+      {"1 ARC month", "4708-11-30", "4708-12-29", "4708-10-29"},
+      {"1 ARC month", "4709-13-30", "4710-01-30", "4709-12-29"},
+      {"1 ARC month", "4710-12-29", "4711-01-29", "4710-11-29"},
+      {"1 ARC month", "4711-01-30", "4711-02-29", "4710-12-29"},
+      {"1 ARC month", "4709-12-15", "4710-01-15", "4709-11-15"},
+      {"1 ARC month", "4710-11-30", "4710-12-29", "4710-10-29"},
+      {"1 ARC month", "4709-11-30", "4709-12-29", "4709-10-29"},
+      {"1 ARC year", "4708-11-30", "4709-11-30", "4707-11-30"},
+      {"1 ARC year", "4709-13-30", "4711-01-30", "4708-12-29"},
+      {"1 ARC year", "4711-13-30", "4713-01-30", "4710-12-29"},
+      {"1 ARC year", "4709-10-30", "4710-10-29", "4708-10-29"},
+      {"1 ARC year", "4708-12-29", "4709-12-29", "4707-12-29"},
+  };
+  ExpectSteps(rows, "ARC");
+}
+
+// Months and days of the last month: 32-60 12/30, 33-28 13/30, 33-30 13/30, 33-40 12/29, 33-41
+// 13/30, 33-42 12/29, 33-58 13/29, 33-59 12/30, 33-60 13/30, 34-01 12/29, 34-28 12/29, 34-58 12/29,
+// 32-20 13/29, 33-20 13/30, 34-20 12/30, 32-30 12/30, 34-30 13/30, 32-28 13/30, 32-58 13/30.
+TEST_F(Steps, OfTheSolilunarCalendar) {
+  const DateRow rows[] = {
+      {"1 SD month", "33-40-11-30", "33-40-12-29", "33-40-10-29"},
+      {"1 SD month", "33-41-13-30", "33-42-01-30", "33-41-12-29"},
+      {"1 SD month", "33-60-13-30", "34-01-01-30", "33-60-12-29"},
+      {"1 SD month", "33-01-01-30", "33-01-02-29", "32-60-12-30"},
+      {"1 SD year", "33-41-13-30", "33-42-12-29", "33-40-12-29"},
+      {"1 SD year", "33-60-13-30", "34-01-12-29", "33-59-12-30"},
+      {"1 SD year", "33-01-01-30", "33-02-01-30", "32-60-01-30"},
+      {"1 SD cycle", "33-30-13-30", "34-30-13-30", "32-30-12-30"},
+      {"1 SD cycle", "33-28-13-30", "34-28-12-29", "32-28-13-30"},
+      {"1 SD cycle", "33-58-13-29", "34-58-12-29", "32-58-13-29"},
+      {"1 SD cycle", "33-20-13-30", "34-20-12-30", "32-20-13-29"},
+  };
+  ExpectSteps(rows, "SD");
+}
+
+// Month 13 has 29 days in the years divisible by 10 or 235.
+TEST_F(Steps, OfTheGoddessCalendar) {
+  const DateRow rows[] = {
+      {"1 KSG month", "1-105-12-29", "1-105-13-29", "1-105-11-29"},
+      {"1 KSG month", "1-110-13-29", "1-111-01-29", "1-110-12-29"},
+      {"1 KSG month", "1-111-01-30", "1-111-02-29", "1-110-13-29"},
+      {"1 KSG month", "1-470-13-29", "2-1-01-29", "1-470-12-29"},
+      {"1 KSG year", "1-109-13-30", "1-110-13-29", "1-108-13-30"},
+      {"1 KSG year", "1-236-13-30", "1-237-13-30", "1-235-13-29"},
+      {"1 KSG year", "1-470-13-29", "2-1-13-29", "1-469-13-29"},
+      {"1 KSG year", "2-1-05-30", "2-2-05-30", "1-470-05-30"},
+      {"1 KSG cycle", "1-105-13-30", "2-105-13-30", "0-105-13-30"},
+      {"1 KSG cycle", "1-470-13-29", "2-470-13-29", "0-470-13-29"},
+      {"1 KSG cycle", "0-1-01-01", "1-1-01-01", "-1-1-01-01"},
+  };
+  ExpectSteps(rows, "KSG");
+}
+
+// Month 6 has 9 tridays; month 12 has 10 in the years 107 and 384, 9 in the others here.
+TEST_F(Steps, OfTheTridayCalendar) {
+  const DateRow rows[] = {
+      {"1 LLT month", "112-05-10-1", "112-06-09-3", "112-04-10-1"},
+      {"1 LLT month", "112-11-10-1", "112-12-09-3", "112-10-10-1"},
+      {"1 LLT month", "384-12-10-1", "1-001-01-10-1", "384-11-10-1"},
+      {"1 LLT month", "001-01-10-2", "001-02-10-2", "-1-384-12-10-2"},
+      {"1 LLT year", "107-12-10-2", "108-12-09-3", "106-12-09-3"},
+      {"1 LLT year", "384-01-10-3", "1-001-01-10-3", "383-01-10-3"},
+      {"1 LLT year", "001-06-09-3", "002-06-09-3", "-1-384-06-09-3"},
+      {"1 LLT cycle", "107-12-10-3", "1-107-12-10-3", "-1-107-12-10-3"},
+      {"1 LLT cycle", "112-06-09-3", "1-112-06-09-3", "-1-112-06-09-3"},
+      {"1 LLT cycle", "-1-384-12-10-3", "384-12-10-3", "-2-384-12-10-3"},
+  };
+  ExpectSteps(rows, "LLT");
+}
+
+// Month 1 of 5024 begins after the new moon of 2024-03-10. By the almanac its weeks have 6, 9, 7
+// and 7 days, and 8 have week 2 of the next month, of 5023-12, 5023-01 and 5025-01. 5024 has 13
+// months, 5023 and 5025 have 12.
+TEST_F(Steps, OfTheLunarWeekCalendar) {
+  EXPECT_EQ(DayNumberOf("5024-01-2-9", "OLW"), DayNumberOf("2024-03-25", "CE"));
+  const DateRow rows[] = {
+      {"1 OLW week", "5024-01-2-9", "5024-01-3-7", "5024-01-1-6"},
+      {"1 OLW week", "5024-13-4-3", "5025-01-1-3", "5024-13-3-3"},
+      {"1 OLW week", "5023-12-3-5", "5023-12-4-5", "5023-12-2-5"},
+      {"1 OLW week", "5024-01-1-3", "5024-01-2-3", "5023-12-4-3"},
+      {"1 OLW month", "5024-01-2-9", "5024-02-2-8", "5023-12-2-8"},
+      {"1 OLW month", "5024-13-4-3", "5025-01-4-3", "5024-12-4-3"},
+      {"1 OLW month", "5023-12-3-5", "5024-01-3-5", "5023-11-3-5"},
+      {"1 OLW month", "5025-01-1-3", "5025-02-1-3", "5024-13-1-3"},
+      {"1 OLW year", "5024-01-2-9", "5025-01-2-8", "5023-01-2-8"},
+      {"1 OLW year", "5024-13-4-3", "5025-12-4-3", "5023-12-4-3"},
+      {"1 OLW year", "5023-12-3-5", "5024-12-3-5", "5022-12-3-5"},
+  };
+  ExpectSteps(rows, "OLW");
+}
+
+TEST_F(Steps, OfTheLunarWeekCalendarStartFromTheDateShown) {
+  const double ajd = MomentOf("5024-01-2-3", "OLW", kBeforeDawn);
+  const int week = StepNamed("1 OLW week");
+  EXPECT_EQ(TextOf(StepMoment(week, true, ajd, kOffset, "5020-05-1-2"), "OLW"),
+            "5020-05-2-2 OLW 03:15:09");
+  for (const char* no_date : {"", "?", "5024-14-1-1", "5024-01-5-1"}) {
+    EXPECT_EQ(TextOf(StepMoment(week, true, ajd, kOffset, no_date), "OLW"),
+              "5024-01-3-3 OLW 03:15:09")
+        << no_date;
+  }
+}
+
+TEST_F(Steps, OfAnHourAddUpToADay) {
+  double ajd = MomentOf("2024-02-29", "CE", 0);
+  for (int i = 0; i < 24; ++i) ajd = StepMoment(StepNamed("1 hour"), true, ajd, kOffset, "");
+  EXPECT_EQ(TextOf(ajd, "CE"), "2024-03-01 CE 00:00:00");
+  EXPECT_EQ(TextOf(StepMoment(StepNamed("1 CE month"), true, ajd, kOffset, ""), "CE"),
+            "2024-04-01 CE 00:00:00");
+  for (int i = 0; i < 48; ++i) ajd = StepMoment(StepNamed("1 hour"), false, ajd, kOffset, "");
+  EXPECT_EQ(TextOf(ajd, "CE"), "2024-02-28 CE 00:00:00");
+}
+
+// Also some thousand years beyond the limits of the program.
+TEST_F(Steps, MoveInTheirDirectionAndKeepTheTime) {
+  for (double ajd = 552283 - 2e6; ajd < 3912515 + 2e6; ajd += 34567.89) {
+    const double time = SplitCJD(ajd).fraction;
+    for (int step = kOneDayStep; step < kStepCount; ++step) {
+      SCOPED_TRACE(std::string(StepText(step)) + " from " + std::to_string(ajd));
+      const double next = StepMoment(step, true, ajd, kOffset, "");
+      const double previous = StepMoment(step, false, ajd, kOffset, "");
+      EXPECT_GE(next, ajd + 0.9);
+      EXPECT_LE(previous, ajd - 0.9);
+      EXPECT_NEAR(SplitCJD(next).fraction, time, 1.5 / kDay);
+      EXPECT_NEAR(SplitCJD(previous).fraction, time, 1.5 / kDay);
+    }
+  }
+}
+
+TEST_F(Steps, ThrowWhereTheNumbersEnd) {
+  for (const char* step : {"1 CE century", "1 SD cycle", "1 KSG cycle", "1 LLT cycle"}) {
+    EXPECT_THROW(StepMoment(StepNamed(step), true, 2147483000, 0, ""), RuntimeError) << step;
+    EXPECT_THROW(StepMoment(StepNamed(step), false, -2147483000, 0, ""), RuntimeError) << step;
+  }
+}
+
+}  // namespace
+}  // namespace tarnwick
