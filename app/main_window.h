@@ -218,6 +218,7 @@ class frmMain final : public Form {
   std::optional<SearchResult> SearchPhase(int target, const PhaseNumber& at);
   std::optional<SearchResult> SearchEclipse(int target, const PhaseNumber& at);
   std::optional<SearchResult> SearchSameSaros(const std::string& shown_eclipse);
+  std::optional<SearchResult> TakeEclipse(const std::optional<FoundEclipse>& found);
   std::optional<SearchResult> SearchCoincidence();
   bool KeepSearching();
   std::string SearchOperation(int target) const;

@@ -127,15 +127,21 @@ std::optional<frmMain::SearchResult> frmMain::SearchPhase(int target, const Phas
   return SearchResult{event.ut, event.eclipse.type, std::nullopt};
 }
 
+// The eclipse found, from now on the one on display.
+std::optional<frmMain::SearchResult> frmMain::TakeEclipse(
+    const std::optional<FoundEclipse>& found) {
+  if (!found) return std::nullopt;
+  lngEclipseLunation = found->at.lunation;
+  intEclipsePhase = found->at.phase;
+  return SearchResult{GreatestInUniversalTime(found->record), found->record.type, found->record};
+}
+
 std::optional<frmMain::SearchResult> frmMain::SearchEclipse(int target, const PhaseNumber& at) {
   const PhaseNumber shown{lngEclipseLunation, intEclipsePhase};
   const auto found = FindEclipse(
       target, optNext.Value(), at, [&](const FoundEclipse& one) { return one.at != shown; },
       [this] { return KeepSearching(); });
-  if (!found) return std::nullopt;
-  lngEclipseLunation = found->at.lunation;
-  intEclipsePhase = found->at.phase;
-  return SearchResult{GreatestInUniversalTime(found->record), found->record.type, found->record};
+  return TakeEclipse(found);
 }
 
 // The nearest eclipse of the same kind beyond a moment that is a little less than a saros away.
@@ -155,10 +161,7 @@ std::optional<frmMain::SearchResult> frmMain::SearchSameSaros(const std::string&
   };
   const auto found = FindEclipse(lunar ? kLunarEclipseTarget : kSolarEclipseTarget, forward, at,
                                  beyond, [this] { return KeepSearching(); });
-  if (!found) return std::nullopt;
-  lngEclipseLunation = found->at.lunation;
-  intEclipsePhase = found->at.phase;
-  return SearchResult{GreatestInUniversalTime(found->record), found->record.type, found->record};
+  return TakeEclipse(found);
 }
 
 std::optional<frmMain::SearchResult> frmMain::SearchCoincidence() {

@@ -112,12 +112,12 @@ void QtDesktopTest::filePathIsAskedFor() {
   WhenModal<QFileDialog>([&](QFileDialog& dialog) {
     QCOMPARE(dialog.windowTitle(), "Save picture");
     QCOMPARE(QFileInfo(dialog.selectedFiles().value(0)).fileName(), "lunation.png");
-    dialog.selectFile(folder.filePath("moon"));
+    dialog.selectFile(folder.filePath("waxing"));
     QTest::keyClick(&dialog, Qt::Key_Return);
   });
   const auto path = desktop_.AskSavePath("Save picture", "lunation.png");
   QVERIFY(path.has_value());
-  QCOMPARE(QString::fromStdString(path->string()), folder.filePath("moon.png"));
+  QCOMPARE(QString::fromStdString(path->string()), folder.filePath("waxing.png"));
 
   WhenModal<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
   QVERIFY(!desktop_.AskSavePath("Save picture", "lunation.png").has_value());
