@@ -155,7 +155,8 @@ TEST_F(Targets, AcceptTheirEclipses) {
     for (int type = 0; type < 12; ++type) {
       marks += AcceptsEclipse(kAnyEclipseTarget + row, type) ? 'x' : '.';
     }
-    EXPECT_EQ(marks, accepted[row]) << kTargets[static_cast<std::size_t>(row) + kAnyEclipseTarget].text;
+    EXPECT_EQ(marks, accepted[row])
+        << kTargets[static_cast<std::size_t>(row) + kAnyEclipseTarget].text;
   }
   for (const int target : {kQuarterTarget, kFirstBlankTarget, kSameSarosTarget}) {
     for (int type = 0; type < 12; ++type) EXPECT_FALSE(AcceptsEclipse(target, type));
