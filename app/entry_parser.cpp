@@ -41,10 +41,6 @@ constexpr std::array<std::string_view, 20> kErrorTexts{
     "No date given.",
 };
 
-bool Contains(std::string_view text, std::string_view part) {
-  return text.find(part) != std::string_view::npos;
-}
-
 bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
 // A date text on its way to a day number.

@@ -103,6 +103,10 @@ std::string_view StripLeading(std::string_view text, std::string_view prefix) {
   return text;
 }
 
+bool Contains(std::string_view text, std::string_view part) {
+  return text.find(part) != std::string_view::npos;
+}
+
 std::size_t CountOf(std::string_view text, std::string_view sub) {
   if (sub.empty()) return 0;
   std::size_t count = 0;

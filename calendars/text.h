@@ -21,6 +21,9 @@ std::string RemoveChars(std::string_view text, std::string_view set);
 // prefix removes nothing.
 std::string_view StripLeading(std::string_view text, std::string_view prefix);
 
+// Whether `part` occurs in the text.
+bool Contains(std::string_view text, std::string_view part);
+
 // How often `sub` occurs in the text, counted without overlap; 0 for an empty `sub`.
 std::size_t CountOf(std::string_view text, std::string_view sub);
 

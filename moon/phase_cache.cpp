@@ -26,7 +26,7 @@ std::array<Place, kPlaces>& Places() {
 PhaseEvent NewEvent(std::int32_t lunation, std::int16_t phase) {
   PhaseEvent event;
   event.tt = syzyg(lunation, phase, event.eclipse);
-  event.ut = event.tt - DeltaT(event.tt) / 1440;
+  event.ut = UniversalTime(event.tt);
   return event;
 }
 

@@ -61,6 +61,8 @@ double DeltaT(double ajd) {
   return DeltaTForYear(date.year);
 }
 
+double UniversalTime(double ajd_tt) { return ajd_tt - DeltaT(ajd_tt) / kMinutesPerDay; }
+
 double Syzygy(std::int32_t n, std::int16_t phase, EclipseRecord& record) {
   const PhaseEvent& event = FindPhaseEvent(n, phase);
   record = event.eclipse;

@@ -24,6 +24,9 @@ void InitLunations();
 double DeltaTForYear(std::int32_t year);
 double DeltaT(double ajd);
 
+// An instant given in Terrestrial Time, in Universal Time.
+double UniversalTime(double ajd_tt);
+
 // The instant of a phase in Terrestrial Time, and in Universal Time. Both fill the record with the
 // eclipse at it.
 double Syzygy(std::int32_t n, std::int16_t phase, EclipseRecord& record = EclipseData);

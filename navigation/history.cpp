@@ -15,10 +15,6 @@ namespace {
 constexpr int kMaximumHistory = 8;
 constexpr int kFirstLunarType = 8;
 
-bool Contains(std::string_view text, std::string_view part) {
-  return text.find(part) != std::string_view::npos;
-}
-
 // The zone of an entry, in minutes. Entries name their zone in another form, so that neither marker
 // occurs and a recall always selects GMT; older entries are read all the same.
 int RecalledOffset(const std::string& entry) {

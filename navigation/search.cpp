@@ -21,11 +21,7 @@ bool IsBlank(int target) { return target == kFirstBlankTarget || target == kSeco
 
 // A description begins with the type of its eclipse.
 bool TellsOfLunarEclipse(std::string_view description) {
-  return description.substr(0, description.find('\r')).find("lunar") != std::string_view::npos;
-}
-
-double GreatestInUniversalTime(const EclipseRecord& record) {
-  return record.greatest - DeltaT(record.greatest) / 1440;
+  return Contains(description.substr(0, description.find('\r')), "lunar");
 }
 
 }  // namespace
@@ -133,7 +129,7 @@ std::optional<frmMain::SearchResult> frmMain::TakeEclipse(
   if (!found) return std::nullopt;
   lngEclipseLunation = found->at.lunation;
   intEclipsePhase = found->at.phase;
-  return SearchResult{GreatestInUniversalTime(found->record), found->record.type, found->record};
+  return SearchResult{UniversalTime(found->record.greatest), found->record.type, found->record};
 }
 
 std::optional<frmMain::SearchResult> frmMain::SearchEclipse(int target, const PhaseNumber& at) {
@@ -156,7 +152,7 @@ std::optional<frmMain::SearchResult> frmMain::SearchSameSaros(const std::string&
   // the moment although its syzygy does not.
   at.lunation += forward ? -1 : 1;
   const auto beyond = [&](const FoundEclipse& one) {
-    const double greatest = GreatestInUniversalTime(one.record);
+    const double greatest = UniversalTime(one.record.greatest);
     return forward ? greatest > moment : greatest < moment;
   };
   const auto found = FindEclipse(lunar ? kLunarEclipseTarget : kSolarEclipseTarget, forward, at,

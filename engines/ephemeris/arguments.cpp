@@ -12,7 +12,6 @@ constexpr double kDaysPerCentury = 36525.0;
 constexpr double kSpanBegin = 550000.0;
 constexpr double kSpanEnd = 3914990.0;
 constexpr double kRadiansPerDegree = std::numbers::pi / 180;
-constexpr double kRadiansPerArcsecond = kRadiansPerDegree / 3600;
 
 using Polynomial = std::array<double, 9>;
 

@@ -3,8 +3,11 @@
 
 #include <array>
 #include <cstddef>
+#include <numbers>
 
 namespace tarnwick {
+
+inline constexpr double kRadiansPerArcsecond = std::numbers::pi / 648000;
 
 // The angles that the terms of a series combine: mean elongation, anomalies of Sun and Moon,
 // argument of latitude and longitude of the Moon, mean longitudes of the planets.

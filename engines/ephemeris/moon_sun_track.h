@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <array>
-#include <numbers>
 
 #include "engines/ephemeris/positions.h"
 #include "engines/ephemeris/vector3.h"
@@ -23,7 +22,7 @@ inline constexpr double kKmPerEarthRadius = 6378.137;
 inline constexpr double kEarthRadiiPerAu = kKmPerAu / kKmPerEarthRadius;
 
 // The Sun's semi-diameter at a distance of one astronomical unit (Auwers 1891), radians.
-inline constexpr double kSunSemiDiameter = 959.63 * std::numbers::pi / 648000;
+inline constexpr double kSunSemiDiameter = 959.63 * kRadiansPerArcsecond;
 
 struct MoonAndSunVectors {
   MovingVector moon;

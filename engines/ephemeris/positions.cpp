@@ -10,7 +10,6 @@ namespace tarnwick {
 namespace {
 
 constexpr double kTurn = 2 * std::numbers::pi;
-constexpr double kRadiansPerArcsecond = std::numbers::pi / 648000;
 constexpr double kKmPerSunUnit = 1e-8 * kKmPerAu;
 
 constexpr SeriesTerm kMoonLongitudeTerms[] = {

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstddef>
 #include <iterator>
-#include <numbers>
 
 #include "engines/ephemeris/arguments.h"
 
@@ -27,7 +26,7 @@ double MeanObliquity(double ajd_tt) {
   for (std::size_t i = std::size(kObliquity); i-- > 0;) {
     arcseconds = arcseconds * u + kObliquity[i];
   }
-  return arcseconds * std::numbers::pi / 648000;
+  return arcseconds * kRadiansPerArcsecond;
 }
 
 }  // namespace

@@ -136,7 +136,7 @@ bool PrintEclipses(const Period& period, Printer& printer) {
   return VisitPhases(period, 2, [&](std::int32_t lunation, std::int16_t phase, const auto& event) {
     const EclipseRecord& eclipse = event.eclipse;
     if (eclipse.type == 0) return true;
-    const double ut = eclipse.greatest - DeltaT(eclipse.greatest) / 1440;
+    const double ut = UniversalTime(eclipse.greatest);
     if (!Contains(period, ut)) return true;
     return printer.Print(ut, EclipseRow(lunation, phase, eclipse, ut));
   });
