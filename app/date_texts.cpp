@@ -1,13 +1,9 @@
 #include "app/date_texts.h"
 
 #include "app/calendar_table.h"
-#include "calendars/archetypes.h"
 #include "calendars/date_processing.h"
-#include "calendars/goddess.h"
-#include "calendars/lunar_week.h"
-#include "calendars/solilunar.h"
+#include "calendars/day_date.h"
 #include "calendars/text.h"
-#include "calendars/triday.h"
 
 namespace tarnwick {
 namespace {
@@ -26,37 +22,27 @@ DateTexts EuroTexts(std::int32_t day_number, char letter, const std::string& abb
 }
 
 DateTexts ARCTexts(std::int32_t day_number) {
-  ARCDate date;
-  date.jdn = day_number;
-  JDNToARCDate(date);
+  const ARCDate date = DateOfDay<ARCDate>(day_number);
   return {ARCDateString(date, 1), ARCDateString(date, 2), ARCDateString(date, 4)};
 }
 
 DateTexts SDTexts(std::int32_t day_number) {
-  SDDate date;
-  date.jdn = day_number;
-  JDNToSDDate(date);
+  const SDDate date = DateOfDay<SDDate>(day_number);
   return {SDDateString(date, 1), SDDateString(date, 2), SDDateString(date, 4)};
 }
 
 DateTexts LLTTexts(std::int32_t day_number) {
-  LLTDate date;
-  date.jdn = day_number;
-  JDNToLLT(date);
+  const LLTDate date = DateOfDay<LLTDate>(day_number);
   return {LLTDateString(date, 1), LLTDateString(date, 2), LLTDateString(date, 3)};
 }
 
 DateTexts KSGTexts(std::int32_t day_number) {
-  KSGDate date;
-  date.jdn = day_number;
-  JDNToKSGDate(date);
+  const KSGDate date = DateOfDay<KSGDate>(day_number);
   return {KSGDateString(date, 1, true), KSGDateString(date, 2, true), KSGDateString(date, 3, true)};
 }
 
 DateTexts OLWTexts(std::int32_t day_number) {
-  OLWDate date;
-  date.jdn = day_number;
-  JDNToOLWDate(date);
+  const OLWDate date = DateOfDay<OLWDate>(day_number);
   const std::string short_form = OLWDateString(date, 1);
   return {short_form, short_form + " (" + OLWDateString(date, 2) + ")", ""};
 }

@@ -5,13 +5,9 @@
 #include <cstddef>
 
 #include "app/calendar_table.h"
-#include "calendars/archetypes.h"
 #include "calendars/checked_arithmetic.h"
 #include "calendars/date_processing.h"
-#include "calendars/goddess.h"
-#include "calendars/lunar_week.h"
-#include "calendars/solilunar.h"
-#include "calendars/triday.h"
+#include "calendars/day_date.h"
 #include "engines/date_engine.h"
 
 namespace tarnwick {
@@ -28,12 +24,8 @@ void Require(bool exists) {
   if (!exists) ThrowOverflow();
 }
 
-// The date of record.jdn.
+// The Gregorian date of record.jdn.
 void FillDate(DateRecord& record) { jdn_to_euro_date(record); }
-void FillDate(ARCDate& record) { JDNToARCDate(record); }
-void FillDate(SDDate& record) { JDNToSDDate(record); }
-void FillDate(LLTDate& record) { JDNToLLT(record); }
-void FillDate(KSGDate& record) { JDNToKSGDate(record); }
 
 // And back. A step leaves a date that exists, unless its day number does not fit 32 bits.
 void FillDayNumber(DateRecord& record) { Require(euro_date_to_jdn(record) != kNoSuchDate); }
@@ -112,10 +104,7 @@ double StepDate(const Start& start, bool forward) {
 OLWDate ReadOLWDate(std::string_view text, std::int32_t day_number) {
   OLWDate date;
   if (ParseOLWDate(text, date) == kOLWValid) return date;
-  date = OLWDate();
-  date.jdn = day_number;
-  JDNToOLWDate(date);
-  return date;
+  return DateOfDay<OLWDate>(day_number);
 }
 
 // Here the time of day counts from the beginning of the OLW day, so that the hours after midnight

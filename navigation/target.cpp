@@ -3,11 +3,8 @@
 #include <cstddef>
 #include <initializer_list>
 
-#include "calendars/archetypes.h"
 #include "calendars/checked_arithmetic.h"
-#include "calendars/goddess.h"
-#include "calendars/solilunar.h"
-#include "calendars/triday.h"
+#include "calendars/day_date.h"
 #include "moon/syzyg.h"
 
 namespace tarnwick {
@@ -65,35 +62,21 @@ PhaseNumber FirstSyzygy(const PhaseNumber& at, bool forward) {
 
 // The first of the SD month before, or after, in which a search from a day begins.
 SDDate FirstSDMonth(std::int32_t day_number, bool forward) {
-  SDDate date;
-  date.jdn = day_number;
-  JDNToSDDate(date);
+  SDDate date = DateOfDay<SDDate>(day_number);
   const bool at_first = date.day == 1;
   date.day = 1;
   if (forward || at_first) StepSDMonth(date, forward);
   return date;
 }
 
-bool IsFirstOfARCMonth(std::int32_t day_number) {
-  ARCDate date;
-  date.jdn = day_number;
-  JDNToARCDate(date);
-  return date.day == 1;
-}
+bool IsFirstOfARCMonth(std::int32_t day_number) { return DateOfDay<ARCDate>(day_number).day == 1; }
 
 bool IsFirstOfLLTMonth(std::int32_t day_number) {
-  LLTDate date;
-  date.jdn = day_number;
-  JDNToLLT(date);
+  const LLTDate date = DateOfDay<LLTDate>(day_number);
   return date.triday == 1 && date.day == 1;
 }
 
-bool IsFirstOfKSGMonth(std::int32_t day_number) {
-  KSGDate date;
-  date.jdn = day_number;
-  JDNToKSGDate(date);
-  return date.day == 1;
-}
+bool IsFirstOfKSGMonth(std::int32_t day_number) { return DateOfDay<KSGDate>(day_number).day == 1; }
 
 }  // namespace
 

@@ -5,11 +5,7 @@
 #include <functional>
 #include <limits>
 
-#include "calendars/archetypes.h"
-#include "calendars/goddess.h"
-#include "calendars/lunar_week.h"
-#include "calendars/solilunar.h"
-#include "calendars/triday.h"
+#include "calendars/day_date.h"
 #include "moon/syzyg.h"
 
 namespace tarnwick {
@@ -28,37 +24,27 @@ struct MonthDay {
 };
 
 MonthDay ARCDay(std::int32_t day_number) {
-  ARCDate date;
-  date.jdn = day_number;
-  JDNToARCDate(date);
+  const ARCDate date = DateOfDay<ARCDate>(day_number);
   return {date.month, date.day};
 }
 
 MonthDay SDDay(std::int32_t day_number) {
-  SDDate date;
-  date.jdn = day_number;
-  JDNToSDDate(date);
+  const SDDate date = DateOfDay<SDDate>(day_number);
   return {date.month, date.day};
 }
 
 MonthDay LLTDay(std::int32_t day_number) {
-  LLTDate date;
-  date.jdn = day_number;
-  JDNToLLT(date);
+  const LLTDate date = DateOfDay<LLTDate>(day_number);
   return {date.month, 3 * (date.triday - 1) + date.day};
 }
 
 MonthDay KSGDay(std::int32_t day_number) {
-  KSGDate date;
-  date.jdn = day_number;
-  JDNToKSGDate(date);
+  const KSGDate date = DateOfDay<KSGDate>(day_number);
   return {date.month, date.day};
 }
 
 MonthDay OLWDay(std::int32_t day_number) {
-  OLWDate date;
-  date.jdn = day_number;
-  JDNToOLWDate(date);
+  const OLWDate date = DateOfDay<OLWDate>(day_number);
   const bool first = date.week == 1 && date.day == 1;
   return {date.month, first ? 1 : 2};
 }
