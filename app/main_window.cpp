@@ -18,6 +18,8 @@ void ShowChoice(Control& chosen, Control& other) {
 
 frmMain::frmMain(Desktop& desktop, Screen& screen)
     : Form(screen, "frmMain", "Tarnwick"),
+      log_window(desktop, screen, *this),
+      log_preferences(screen, *this),
       desktop_(desktop),
       date_labels_{&lblCommonEraDate,           &lblJulianCalendarDate,     &lblArchetypesDate,
                    &lblSarvikDolmerSLCDate,     &lblLTCLunarDate,           &lblKSGDate,
@@ -66,6 +68,11 @@ void frmMain::ConnectHandlers() {
   optPrevious.on_click = [this] { optPrevious_Click(); };
   cboHistory.on_click = [this] { cboHistory_Click(); };
   cmdReset.on_click = [this] { cmdReset_Click(); };
+  chkLog.on_click = [this] { chkLog_Click(); };
+  cmdLogThisResult.on_click = [this] { cmdLogThisResult_Click(); };
+  cmdViewLog.on_click = [this] { cmdViewLog_Click(); };
+  cmdLogPreferences.on_click = [this] { cmdLogPreferences_Click(); };
+  cmdSaveState.on_click = [this] { cmdSaveState_Click(); };
 
   const auto connect = [this](DateLabel& label, void (frmMain::*handler)(int)) {
     label[0].on_click = [this, handler] { (this->*handler)(0); };
@@ -90,8 +97,12 @@ void frmMain::Form_Load() {
   MarkCurrentCalendar();
   EnableDisableFunctions(true);
   cmdQuit.SetEnabled(true);
+  cmdLogPreferences.SetVisible(true);
+  RestoreState();
+  cmdSaveState.SetEnabled(false);
   AddLogEntry(AddHistoryEntry(DisplayMoment(), 0), "Restore saved state on startup", "");
   MarkCurrentCalendar();
+  cmdLogThisResult.SetEnabled(false);
   Show();
   SetTheFocus();
 }
@@ -111,6 +122,7 @@ void frmMain::Initialise() {
   optNext.SetValue(true);
   optPlus.SetValue(true);
   chkRepeatedly_Click();
+  chkLog_Click();
 }
 
 void frmMain::FillLists() {
@@ -124,6 +136,11 @@ void frmMain::FillLists() {
   cboTarget.SetListIndex(kTotalSolarTarget);
   for (const char* const seconds : {"0.2", "0.5", "1", "2", "5"}) cboRefreshPeriod.AddItem(seconds);
   cboRefreshPeriod.SetListIndex(kOneSecondPeriod);
+  for (const char* const dates : {"Archetypes Calendar dates", "Sarvik-Dolmer Solilunar dates",
+                                  "Kestrin-Sarvik Goddess dates", "Lunar Liberalia Triday dates"}) {
+    cboMonthCalendar.AddItem(dates);
+  }
+  cboMonthCalendar.SetListIndex(0);
 }
 
 void frmMain::ClearValueLabels() {
@@ -140,10 +157,16 @@ void frmMain::ClearValueLabels() {
 
 void frmMain::EnableDisableFunctions(bool enable) {
   for (Control* control : std::initializer_list<Control*>{
-           &cmdMove, &cmdCompute, &cmdClearDate, &cmdReset, &cmdSearch, &txbDate, &txbPlusMinus}) {
+           &cmdMove, &cmdCompute, &cmdClearDate, &cmdReset, &cmdSearch, &cmdLogPreferences,
+           &cmdLogThisResult, &chkLog, &cmdSaveState, &txbDate, &txbPlusMinus}) {
     control->SetEnabled(enable);
   }
+  cmdViewLog.SetEnabled(enable && !log_window.IsEmpty());
   FocusOnMove();
+}
+
+void frmMain::RefreshFunctions() {
+  if (!blnRepeating && !blnSearching) EnableDisableFunctions(true);
 }
 
 void frmMain::SetTheFocus() {
@@ -156,10 +179,14 @@ void frmMain::SetTheFocus() {
   txbDate.MoveCaretToEnd();
 }
 
-void frmMain::Form_Unload(bool& /*cancel*/) { cmdQuit_Click(); }
+void frmMain::Form_Unload(bool& /*cancel*/) {
+  if (log_window.IsLoaded()) log_window.Close();
+  cmdQuit_Click();
+}
 
 // A running move or search sees the flags at its next pass and ends.
 void frmMain::cmdQuit_Click() {
+  cmdSaveState_Click();
   blnEnding = true;
   blnRepeating = false;
   blnPaused = false;

@@ -5,13 +5,18 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "app/calendar_table.h"
 #include "controls/control_array.h"
 #include "controls/controls.h"
 #include "controls/desktop.h"
 #include "controls/form.h"
+#include "log/log_entry.h"
+#include "log/log_preferences.h"
+#include "log/log_window.h"
 #include "navigation/target.h"
+#include "state/state_record.h"
 
 namespace tarnwick {
 
@@ -100,8 +105,24 @@ class frmMain final : public Form {
   ComboBox cboHistory{fraHistory, "cboHistory"};
   Button cmdReset{*this, "cmdReset", "Reset"};
 
+  // Log.
+  CheckBox chkLog{*this, "chkLog", "Log all results"};
+  Button cmdLogThisResult{*this, "cmdLogThisResult", "Log this result"};
+  Button cmdViewLog{*this, "cmdViewLog", "View log"};
+  Button cmdLogPreferences{*this, "cmdLogPreferences", "Set log preferences"};
+
+  Button cmdSaveState{*this, "cmdSaveState", "Save state"};
+  ComboBox cboMonthCalendar{*this, "cboMonthCalendar"};  // of the lunation calendar
   Button cmdQuit{*this, "cmdQuit", "Quit"};
   Timer Clock{*this, "Clock"};
+
+  // The other windows, hidden until they are asked for.
+  frmLog log_window;
+  frmLogPreferences log_preferences;
+
+  // Enables the functions again after another window has changed what can be done; a running move
+  // or search does so itself when it ends.
+  void RefreshFunctions();
 
   void Form_Load() override;
   void Form_Unload(bool& cancel) override;
@@ -235,9 +256,26 @@ class frmMain final : public Form {
   void RecallHistory();
   std::string DescribeRecalledEclipse(const PhaseNumber& at, int eclipse_type);
   void cmdReset_Click();
-  // Keeps a result until it is wanted in the log.
+
+  // Log (log/log.cpp).
   void AddLogEntry(const std::string& result, const std::string& operation,
                    const std::string& extra);
+  LogEntry LogEntryFor(const std::string& result, const std::string& operation,
+                       const std::string& extra);
+  void WriteToLog(const LogEntry& entry);
+  void chkLog_Click();
+  void cmdLogThisResult_Click();
+  void cmdViewLog_Click();
+  void cmdLogPreferences_Click();
+
+  // Saved state (state/saved_state.cpp).
+  void cmdSaveState_Click();
+  void RestoreState();
+  // What is kept from one run to the next, in the order of the file.
+  std::vector<StateRecord> StateRecords();
+  StateRecord MomentRecord();
+  StateRecord CalendarRecord();
+  StateRecord EclipseTextRecord();
 
   Desktop& desktop_;
   std::array<DateLabel*, kCalendarCount> date_labels_;
@@ -256,12 +294,14 @@ class frmMain final : public Form {
   bool blnEnding = false;            // the program ends: moves and searches stop
   bool blnAtPhase = false;           // the moment is the instant of its phase
   bool blnAddingHistory = false;     // an entry is being added to the history
-  std::int32_t lngEclipseLunation = kNoEclipse;  // of the eclipse on display
-  std::int16_t intEclipsePhase = 0;              // and its phase index, 0 or 2
-  std::int16_t intHistoryIndex = -1;             // of the entry last added or selected
-  std::array<std::string, 3> strPendingResult;   // result, operation, extra for the log
-  bool blnPictureReported = false;               // that a picture of the Moon is missing
-  std::string strCopiedEntry;                    // what was last copied to the entry box
+  std::int32_t lngEclipseLunation = kNoEclipse;      // of the eclipse on display
+  std::int16_t intEclipsePhase = 0;                  // and its phase index, 0 or 2
+  std::int16_t intHistoryIndex = -1;                 // of the entry last added or selected
+  bool blnLogging = false;                           // results are logged as they come
+  std::array<std::string, 3> strPendingResult;       // else the last: result, operation, extra
+  std::optional<std::filesystem::path> state_file_;  // nothing: no state is kept
+  bool blnPictureReported = false;                   // that a picture of the Moon is missing
+  std::string strCopiedEntry;                        // what was last copied to the entry box
 };
 
 // Sets two option buttons or labels apart: the chosen one white, the other grey.

@@ -15,7 +15,7 @@ struct Window {
   Screen screen;
   frmMain form{desktop, screen};
 
-  Window() { form.Form_Load(); }
+  Window() { form.Load(); }
   void Compute(const std::string& text) {
     form.txbDate.SetText(text);
     form.cmdCompute.Click();

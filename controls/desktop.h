@@ -46,8 +46,8 @@ class Desktop {
   // Asks where to save a file, `suggestion` being a name for it; nothing if the user gives up.
   virtual std::optional<std::filesystem::path> AskSavePath(const std::string& title,
                                                            const std::string& suggestion) = 0;
-  // The folder for the user's own data.
-  virtual std::filesystem::path UserDataFolder() const = 0;
+  // The file that the program's state is kept in; nothing where none is kept.
+  virtual std::optional<std::filesystem::path> StateFile() const = 0;
   // The folder that the program lies in.
   virtual std::filesystem::path ProgramFolder() const = 0;
   virtual void OpenWebPage(const std::string& address) = 0;

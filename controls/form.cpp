@@ -29,7 +29,13 @@ Form::~Form() {
 
 Control* Form::Find(std::string_view name) const { return FindByName(controls_, name); }
 
+void Form::Load() {
+  if (std::exchange(loaded_, true)) return;
+  Form_Load();
+}
+
 void Form::Show() {
+  Load();
   Assign(minimised_, false, Property::kMinimised);
   Assign(visible_, true, Property::kVisible);
   Activate();
@@ -63,7 +69,9 @@ void Form::Resize(int width, int height) {
 void Form::Close() {
   bool cancel = false;
   Form_Unload(cancel);
-  if (!cancel) Hide();
+  if (cancel) return;
+  loaded_ = false;
+  Hide();
 }
 
 void Form::MoveFocus(Control& control) {

@@ -42,6 +42,11 @@ class Form : public Observable {
   bool Visible() const { return visible_; }
   bool Minimised() const { return minimised_; }
   bool IsActive() const { return screen_.active_ == this; }
+  // Whether its Form_Load has run; closing it takes that back.
+  bool IsLoaded() const { return loaded_; }
+  // Runs Form_Load, unless that has been done.
+  void Load();
+  // Loads it first.
   void Show();
   void Hide();
   void Minimise();
@@ -73,6 +78,7 @@ class Form : public Observable {
   tarnwick::Bounds bounds_;
   bool visible_ = false;
   bool minimised_ = false;
+  bool loaded_ = false;
   std::vector<Control*> controls_;
   Control* focus_ = nullptr;
 };

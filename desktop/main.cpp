@@ -36,6 +36,6 @@ int main(int argc, char** argv) {
   tarnwick::Screen screen;
   tarnwick::frmMain form(desktop, screen);
   tarnwick::MainWindowView view(form, gate);
-  gate.Run([&] { form.Form_Load(); });
+  gate.Run([&] { form.Load(); });
   return gate.IsOpen() ? QApplication::exec() : EXIT_SUCCESS;
 }

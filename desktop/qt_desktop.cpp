@@ -11,6 +11,7 @@
 
 #include "desktop/characters.h"
 #include "desktop/platform.h"
+#include "state/state_file.h"
 
 namespace tarnwick {
 namespace {
@@ -89,6 +90,7 @@ void QtDesktop::SetClipboardText(const std::string& text) {
 std::optional<std::filesystem::path> QtDesktop::AskSavePath(const std::string& title,
                                                             const std::string& suggestion) {
   QFileDialog dialog(QApplication::activeWindow(), ToQt(title));
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the form asks
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QFileInfo(ToQt(suggestion)).suffix());
   dialog.selectFile(ToQt(suggestion));
@@ -96,7 +98,9 @@ std::optional<std::filesystem::path> QtDesktop::AskSavePath(const std::string& t
   return QFileInfo(dialog.selectedFiles().constFirst()).filesystemFilePath();
 }
 
-std::filesystem::path QtDesktop::UserDataFolder() const { return platform::UserDataFolder(); }
+std::optional<std::filesystem::path> QtDesktop::StateFile() const {
+  return StateFileIn(platform::UserDataFolder());
+}
 
 std::filesystem::path QtDesktop::ProgramFolder() const {
   return QFileInfo(QCoreApplication::applicationDirPath()).filesystemFilePath();

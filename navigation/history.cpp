@@ -50,6 +50,8 @@ std::string frmMain::HistoryText(const std::string& date) const {
 }
 
 std::string frmMain::AddHistoryEntry(const std::string& date, std::int16_t eclipse_type) {
+  cmdViewLog.SetEnabled(!log_window.IsEmpty());
+  cmdSaveState.SetEnabled(true);
   std::string entry = HistoryText(date);
   const std::string last = cboHistory.ListCount() == 0 ? "" : cboHistory.Items().back().text;
   if (entry == last) return "";
@@ -114,15 +116,16 @@ void frmMain::cmdReset_Click() {
   optPlus.SetValue(true);
   optMoveDirection[0].SetValue(true);
   chkRepeatedly.SetValue(false);
+  chkLog.SetValue(false);
   cboMoveStep.SetListIndex(kOneDayStep);
   cboRefreshPeriod.SetListIndex(kOneSecondPeriod);
   cboTarget.SetListIndex(kFullMoonTarget);
+  if (log_preferences.IsLoaded()) {
+    const Message question{"Reset log preferences also?", "Reset", MessageIcon::kQuestion,
+                           MessageButtons::kYesNo};
+    if (desktop_.ShowMessage(question) == MessageAnswer::kYes) log_preferences.SetDefaults();
+  }
   cmdNow_Click();
-}
-
-void frmMain::AddLogEntry(const std::string& result, const std::string& operation,
-                          const std::string& extra) {
-  strPendingResult = {result, operation, extra};
 }
 
 }  // namespace tarnwick

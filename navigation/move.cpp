@@ -125,6 +125,7 @@ void frmMain::EndMove() {
   EnableDisableCommands(true);
   fraHistory.SetEnabled(true);
   cmdQuit.SetEnabled(true);
+  cmdViewLog.SetEnabled(true);
   lblRefreshPeriod.SetEnabled(true);
   cboRefreshPeriod.SetEnabled(true);
   FocusOnMove();
@@ -136,6 +137,8 @@ void frmMain::EnableDisableCommands(bool enable) {
                                        &fraSearch, &cmdSearch, &cmdReset}) {
     control->SetEnabled(enable);
   }
+  cmdViewLog.SetEnabled(enable && !log_window.IsEmpty());
+  cmdLogThisResult.SetEnabled(enable && !chkLog.Value());
 }
 
 void frmMain::FocusOnMove() {

@@ -21,7 +21,7 @@ class QtDesktopTest : public QObject {
   void clockReadsLocalTime();
   void clipboardKeepsText();
   void filePathIsAskedFor();
-  void userFolderFollowsTheEnvironment();
+  void stateFileFollowsTheEnvironment();
   void programFolderHoldsTheProgram();
   void waitingYieldWaitsForAnEvent();
   void endedProgramRunsNothingMore();
@@ -123,19 +123,27 @@ void QtDesktopTest::filePathIsAskedFor() {
   QVERIFY(!desktop_.AskSavePath("Save picture", "lunation.png").has_value());
 }
 
-void QtDesktopTest::userFolderFollowsTheEnvironment() {
+void QtDesktopTest::stateFileFollowsTheEnvironment() {
 #ifdef Q_OS_WIN
   QSKIP("the shell tells the folder");
 #endif
+  const QTemporaryDir folder;
   const QByteArray before = qgetenv("XDG_CONFIG_HOME");
-  const std::string home = QDir::homePath().toStdString();
-  qputenv("XDG_CONFIG_HOME", "/tmp/a folder");
-  QCOMPARE(desktop_.UserDataFolder().string(), "/tmp/a folder");
-  for (const char* useless : {"", "not/absolute"}) {
-    qputenv("XDG_CONFIG_HOME", useless);
-    QCOMPARE(desktop_.UserDataFolder().string(), home + "/.config");
+  const QByteArray home = qgetenv("HOME");
+  qputenv("HOME", folder.path().toUtf8());
+  const std::string file = "/Ostrel Systems/tnwk.usr";
+  const auto chosen = folder.filePath("a folder").toUtf8();
+  for (const QByteArray& setting : {chosen, QByteArray(), QByteArray("not/absolute")}) {
+    qputenv("XDG_CONFIG_HOME", setting);
+    const std::string base =
+        setting == chosen ? chosen.toStdString() : folder.filePath(".config").toStdString();
+    const auto path = desktop_.StateFile();
+    QVERIFY(path.has_value());
+    QCOMPARE(path->string(), base + file);
+    QVERIFY(std::filesystem::is_directory(path->parent_path()));
   }
   qputenv("XDG_CONFIG_HOME", before);
+  qputenv("HOME", home);
 }
 
 void QtDesktopTest::programFolderHoldsTheProgram() {

@@ -28,7 +28,7 @@ class NotingDesktop final : public Desktop {
                                                    const std::string& /*suggestion*/) override {
     return std::nullopt;
   }
-  std::filesystem::path UserDataFolder() const override { return {}; }
+  std::optional<std::filesystem::path> StateFile() const override { return std::nullopt; }
   std::filesystem::path ProgramFolder() const override {
     return QCoreApplication::applicationDirPath().toStdString();
   }
@@ -44,7 +44,7 @@ class NotingDesktop final : public Desktop {
 
 struct MainWindow {
   MainWindow() {
-    gate.Run([&] { form.Form_Load(); });
+    gate.Run([&] { form.Load(); });
   }
 
   template <class Widget>

@@ -267,7 +267,7 @@ void Driver::Start(std::string_view /*arguments*/) {
   if (main_) throw CommandError("the program has been started already");
   screen_ = std::make_unique<Screen>();
   main_ = std::make_unique<frmMain>(desktop_, *screen_);
-  main_->Form_Load();
+  main_->Load();
 }
 
 void Driver::Set(std::string_view arguments) {

@@ -38,7 +38,7 @@ class DriverDesktop final : public Desktop {
   void SetClipboardText(const std::string& text) override { clipboard_ = text; }
   std::optional<std::filesystem::path> AskSavePath(const std::string& title,
                                                    const std::string& suggestion) override;
-  std::filesystem::path UserDataFolder() const override { return {}; }
+  std::optional<std::filesystem::path> StateFile() const override { return state_file_; }
   std::filesystem::path ProgramFolder() const override { return program_folder_; }
   void OpenWebPage(const std::string& /*address*/) override {}
   void Yield(YieldMode mode) override { on_yield_(mode); }

@@ -1,0 +1,65 @@
+#include "log/log_preferences.h"
+
+#include "app/main_window.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kEscapeKey = 27;
+
+}  // namespace
+
+frmLogPreferences::frmLogPreferences(Screen& screen, frmMain& main_window)
+    : Form(screen, "frmLogPreferences", "Log preferences"), main_window_(main_window) {
+  optLogFormat[0].SetCaption("calendar=date");
+  optLogFormat[1].SetCaption("date calendar,");
+  cmdSetALL.on_click = [this] { cmdSetALL_Click(); };
+  cmdClearAll.on_click = [this] { cmdClearAll_Click(); };
+  cmdClose.on_click = [this] { cmdClose_Click(); };
+  SetDefaults();
+}
+
+void frmLogPreferences::SetDefaults() {
+  optLogFormat[0].SetValue(true);
+  SetAllBoxes(true);
+}
+
+void frmLogPreferences::SetAllBoxes(bool value) {
+  for (Control* control : Controls()) {
+    if (auto* box = dynamic_cast<CheckBox*>(control)) box->SetValue(value);
+  }
+}
+
+void frmLogPreferences::cmdSetALL_Click() { SetAllBoxes(true); }
+
+void frmLogPreferences::cmdClearAll_Click() { SetAllBoxes(false); }
+
+LogLayout frmLogPreferences::Layout() const {
+  return optLogFormat[1].Value() ? LogLayout::kDateOnly : LogLayout::kCalendarAndDate;
+}
+
+const CheckBox& frmLogPreferences::IncludeOf(std::int16_t calendar) const {
+  const CheckBox* const boxes[] = {&chkIncludeCE,  &chkIncludeJC,  &chkIncludeARC,
+                                   &chkIncludeSD,  &chkIncludeLLT, &chkIncludeKSG,
+                                   &chkIncludeCJD, &chkIncludeAJD, &chkIncludeOLWC};
+  return *boxes[calendar];
+}
+
+void frmLogPreferences::Form_Activate() { cmdClose.SetFocus(); }
+
+void frmLogPreferences::cmdClose_Click() {
+  Hide();
+  main_window_.RefreshFunctions();
+}
+
+// The choices stay, so the close box does no more than the button.
+void frmLogPreferences::Form_Unload(bool& cancel) {
+  cancel = true;
+  cmdClose_Click();
+}
+
+void frmLogPreferences::Form_KeyPress(int& key) {
+  if (key == kEscapeKey) cmdClose_Click();
+}
+
+}  // namespace tarnwick

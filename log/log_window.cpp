@@ -1,0 +1,141 @@
+#include "log/log_window.h"
+
+#include <utility>
+
+#include "app/main_window.h"
+#include "app/save_path.h"
+#include "app/text_file.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr std::size_t kCapacity = 1'000'000;  // characters
+constexpr int kEscapeKey = 27;
+
+// Places and sizes in twips.
+constexpr Bounds kInitialSize{0, 0, 12600, 6600};
+constexpr int kMargin = 150;
+constexpr int kTextMargins = 300;   // left and right of the text
+constexpr int kBelowText = 700;     // beside the height of the buttons
+constexpr int kAboveButtons = 350;  // as much as below them
+constexpr int kButtonHeight = 495;
+constexpr int kClearWidth = 1650;
+constexpr int kSaveAsWidth = 1650;
+constexpr int kCloseWidth = 1350;
+constexpr int kRightOfClose = 210;
+constexpr int kCopyWidth = 3270;
+constexpr int kCopySelectionWidth = 4425;
+constexpr int kBeforeCopy = 500;
+constexpr int kBeforeCopySelection = 1000;
+
+}  // namespace
+
+frmLog::frmLog(Desktop& desktop, Screen& screen, frmMain& main_window)
+    : Form(screen, "frmLog", "Log"), desktop_(desktop), main_window_(main_window) {
+  cmdClear.on_click = [this] { cmdClear_Click(); };
+  cmdCopyToClipboard.on_click = [this] { cmdCopyToClipboard_Click(); };
+  cmdSaveAs.on_click = [this] { cmdSaveAs_Click(); };
+  cmdClose.on_click = [this] { cmdClose_Click(); };
+  txbText.on_mouse_up = [this] { txbText_MouseUp(); };
+  SetBounds(kInitialSize);
+  Form_Resize();
+}
+
+// Bytes that continue a character are not counted.
+bool frmLog::IsTooLong(const std::string& text) {
+  if (text.size() <= kCapacity) return false;
+  std::size_t characters = 0;
+  for (const char byte : text) characters += (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+  return characters > kCapacity;
+}
+
+void frmLog::ShowText(std::string text) {
+  txbText.SetText(std::move(text));
+  txbText.MoveCaretToEnd();
+  PlaceCopyButton(false);
+}
+
+void frmLog::Form_Load() { cmdCopyToClipboard.SetEnabled(true); }
+
+void frmLog::Form_Activate() {
+  SetCaption("Log for " + main_window_.Caption());
+  txbText.MoveCaretToEnd();
+  PlaceCopyButton(false);
+  PlaceCloseButton();
+  cmdCopyToClipboard.SetFocus();
+}
+
+void frmLog::PlaceCopyButton(bool for_selection) {
+  blnCopiesSelection = for_selection;
+  cmdCopyToClipboard.SetCaption(for_selection ? "Copy selected text to clipboard"
+                                              : "Copy to clipboard");
+  const tarnwick::Bounds& clear = cmdClear.Bounds();
+  cmdCopyToClipboard.SetBounds(
+      {clear.left + clear.width + (for_selection ? kBeforeCopySelection : kBeforeCopy), clear.top,
+       for_selection ? kCopySelectionWidth : kCopyWidth, clear.height});
+}
+
+void frmLog::PlaceCloseButton() {
+  const int left = Bounds().width - kRightOfClose - kCloseWidth;
+  const int top = cmdClear.Bounds().top;
+  cmdClose.SetBounds({left, top, kCloseWidth, kButtonHeight});
+  cmdSaveAs.SetBounds({left - kRightOfClose - kSaveAsWidth, top, kSaveAsWidth, kButtonHeight});
+}
+
+void frmLog::Form_Resize() {
+  if (Minimised()) return;
+  const int width = Bounds().width;
+  const int height = Bounds().height;
+  txbText.SetBounds({kMargin, kMargin, width - kTextMargins, height - kButtonHeight - kBelowText});
+  cmdClear.SetBounds(
+      {kMargin, height - kButtonHeight - kAboveButtons + kMargin, kClearWidth, kButtonHeight});
+  PlaceCloseButton();
+  PlaceCopyButton(blnCopiesSelection);
+}
+
+void frmLog::txbText_MouseUp() {
+  if (cmdCopyToClipboard.Enabled()) PlaceCopyButton(txbText.SelLength() > 0);
+}
+
+void frmLog::cmdCopyToClipboard_Click() {
+  if (IsEmpty()) return;
+  desktop_.SetClipboardText(txbText.SelLength() > 0 ? txbText.SelText() : txbText.Text());
+}
+
+void frmLog::cmdClear_Click() {
+  const Message question{"Erase all data in the log?", "Clear log", MessageIcon::kQuestion,
+                         MessageButtons::kOkCancel};
+  if (desktop_.ShowMessage(question) != MessageAnswer::kOk) return;
+  txbText.SetText("");
+  main_window_.cmdViewLog.SetEnabled(false);
+  Hide();
+}
+
+void frmLog::cmdSaveAs_Click() {
+  const std::string title = "Save log";
+  const auto file = AskWhereToSave(desktop_, title, "Tarnwick log.txt");
+  if (!file) return;
+  const std::string error = WriteTextFile(*file, txbText.Text());
+  if (error.empty()) return;
+  desktop_.ShowMessage(
+      {"Error when attempting to save the log: " + error, title, MessageIcon::kExclamation});
+}
+
+void frmLog::cmdClose_Click() {
+  Hide();
+  main_window_.RefreshFunctions();
+}
+
+// The system's close box discards the log; the next entry begins it anew.
+void frmLog::Form_Unload(bool& /*cancel*/) {
+  txbText.SetText("");
+  main_window_.RefreshFunctions();
+  main_window_.cmdViewLog.SetEnabled(false);
+  main_window_.cmdLogThisResult.SetEnabled(false);
+}
+
+void frmLog::Form_KeyPress(int& key) {
+  if (key == kEscapeKey) cmdClose_Click();
+}
+
+}  // namespace tarnwick

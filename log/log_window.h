@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+
+#include "controls/controls.h"
+#include "controls/desktop.h"
+#include "controls/form.h"
+
+namespace tarnwick {
+
+class frmMain;
+
+// The log: plain text that the program writes and the user may edit. Its text box is the only place
+// where it is kept.
+class frmLog final : public Form {
+ public:
+  frmLog(Desktop& desktop, Screen& screen, frmMain& main_window);
+
+  TextBox txbText{*this, "txbText"};
+  Button cmdClear{*this, "cmdClear", "Clear log"};
+  Button cmdCopyToClipboard{*this, "cmdCopyToClipboard"};
+  Button cmdSaveAs{*this, "cmdSaveAs", "Save as ..."};
+  Button cmdClose{*this, "cmdClose", "Close"};
+
+  // Replaces the text and brings its end, the newest entry, into view.
+  void ShowText(std::string text);
+  bool IsEmpty() const { return txbText.Text().empty(); }
+  // Whether as much text as this would be more than the log takes.
+  static bool IsTooLong(const std::string& text);
+  // Asks whether to erase everything, and does so.
+  void cmdClear_Click();
+
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_Resize() override;
+  void Form_Unload(bool& cancel) override;
+  void Form_KeyPress(int& key) override;
+
+ private:
+  void txbText_MouseUp();
+  void cmdCopyToClipboard_Click();
+  void cmdSaveAs_Click();
+  void cmdClose_Click();
+  void PlaceCopyButton(bool for_selection);
+  void PlaceCloseButton();
+
+  Desktop& desktop_;
+  frmMain& main_window_;
+  bool blnCopiesSelection = false;  // as the copy button says
+};
+
+}  // namespace tarnwick
