@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeySequence>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -18,6 +19,7 @@
 #include "desktop/mirror.h"
 #include "desktop/panel.h"
 #include "desktop/picture_view.h"
+#include "desktop/twips.h"
 
 namespace tarnwick {
 namespace {
@@ -40,7 +42,7 @@ Wording Binder::WordingOf(const Control& control) const {
   const auto found = std::find_if(wordings_.begin(), wordings_.end(), [&](const Wording& wording) {
     return wording.control == control.Name();
   });
-  return found == wordings_.end() ? Wording{control.Name(), 0, {}} : *found;
+  return found == wordings_.end() ? Wording{control.Name(), 0, {}, ""} : *found;
 }
 
 // What a screen reader says: what the control is, then what it shows.
@@ -48,6 +50,11 @@ QString Binder::SpokenName(const CaptionedControl& control) const {
   const std::string spoken(WordingOf(control).spoken);
   if (spoken.empty()) return ToQt(control.Caption().empty() ? control.Name() : control.Caption());
   return ToQt(control.Caption().empty() ? spoken : spoken + ": " + control.Caption());
+}
+
+void Binder::BindPlace(Control& control, QWidget& widget) {
+  Mirror(control, Property::kBounds, widget,
+         [&] { widget.setGeometry(ToPixels(control.Bounds())); });
 }
 
 // What every control has, whatever its kind.
@@ -124,6 +131,11 @@ void Binder::Bind(Label& label, LinkLabel& link) {
 
 void Binder::Bind(Button& button, QPushButton& push) {
   BindCaption(button, push);
+  const QString keys = WordingOf(button).shortcut;
+  if (!keys.isEmpty()) {
+    push.setShortcut(QKeySequence(keys));
+    if (push.toolTip().isEmpty()) push.setToolTip(keys);
+  }
   QObject::connect(&push, &QPushButton::clicked, &push,
                    [&button, &gate = gate_] { gate.Run([&] { button.Click(); }); });
 }

@@ -27,9 +27,10 @@ class PictureView;
 
 // What a window adds to the caption of a control.
 struct Wording {
-  std::string_view control;  // its name, "lblTime(1)" for one of an array
-  char mnemonic = 0;         // the letter of its caption that Alt reaches it by
-  std::string_view spoken;   // what it is, for users who do not see what stands around it
+  std::string_view control;   // its name, "lblTime(1)" for one of an array
+  char mnemonic = 0;          // the letter of its caption that Alt reaches it by
+  std::string_view spoken;    // what it is, for users who do not see what stands around it
+  const char* shortcut = "";  // of a button: the keys that click it, "Ctrl+S"
 };
 
 // Ties the controls of a form to the widgets of a window. A widget shows the state of its control
@@ -56,6 +57,9 @@ class Binder {
   void Bind(Timer& timer, QTimer& clock);
   void Bind(TextBox& box, QLineEdit& edit);
   void Bind(TextBox& box, QPlainTextEdit& edit);
+
+  // Keeps a bound widget where its control is placed in the window.
+  static void BindPlace(Control& control, QWidget& widget);
 
   // The widget that a control is bound to, null if it is not.
   QWidget* WidgetOf(const Control& control) const;

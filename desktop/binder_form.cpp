@@ -6,23 +6,24 @@
 #include "desktop/characters.h"
 #include "desktop/event_hook.h"
 #include "desktop/mirror.h"
+#include "desktop/twips.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr int kTwipsPerPixel = 15;  // 1440 an inch, and 96 device-independent pixels
 constexpr int kEscapeKey = 27;
 
-Bounds BoundsOf(const QWidget& window) {
-  return {window.x() * kTwipsPerPixel, window.y() * kTwipsPerPixel, window.width() * kTwipsPerPixel,
-          window.height() * kTwipsPerPixel};
-}
+// Where the frame of the window is, and how large what is inside.
+Bounds BoundsOf(const QWidget& window) { return ToTwips({window.pos(), window.size()}); }
 
+// A maximised window has its place from the system.
 void ShowBounds(const Form& form, QWidget& window) {
   const Bounds bounds = form.Bounds();  // a copy: each step below is reported to the form
-  if (bounds.width <= 0 || bounds.height <= 0 || bounds == BoundsOf(window)) return;
-  window.move(bounds.left / kTwipsPerPixel, bounds.top / kTwipsPerPixel);
-  window.resize(bounds.width / kTwipsPerPixel, bounds.height / kTwipsPerPixel);
+  const bool placed = bounds.width > 0 && bounds.height > 0 && bounds != BoundsOf(window);
+  if (!placed || window.isMaximized()) return;
+  const QRect place = ToPixels(bounds);
+  window.move(place.topLeft());
+  window.resize(place.size());
 }
 
 void ShowMinimised(const Form& form, QWidget& window) {

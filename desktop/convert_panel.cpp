@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/bound_widgets.h"
 #include "desktop/check_mark.h"
 #include "desktop/look.h"
 #include "desktop/main_window_view.h"
@@ -52,8 +53,8 @@ QHBoxLayout* MainWindowView::MakeEntryRow(QWidget* panel) {
   row->addSpacing(space);
 
   QWidget* direction = MakeArea(2 * space, panel);
-  AddOption(form_.optPlus, direction);
-  AddOption(form_.optMinus, direction);
+  AddOption(binder_, form_.optPlus, direction);
+  AddOption(binder_, form_.optMinus, direction);
   row->addWidget(direction);
 
   QLineEdit* days = MakeLineEdit(panel);
@@ -73,9 +74,9 @@ QHBoxLayout* MainWindowView::MakeCommandRow(QWidget* panel) {
   const int space = Spacing(*panel);
   auto* row = new QHBoxLayout;
   row->setSpacing(space);
-  row->addWidget(MakeButton(form_.cmdCompute, panel));
-  row->addWidget(MakeButton(form_.cmdClearDate, panel));
-  row->addWidget(MakeButton(form_.cmdNow, panel));
+  row->addWidget(MakeButton(binder_, form_.cmdCompute, panel));
+  row->addWidget(MakeButton(binder_, form_.cmdClearDate, panel));
+  row->addWidget(MakeButton(binder_, form_.cmdNow, panel));
   auto* check = new CheckMark(panel);
   binder_.Bind(form_.picCheck, *check);
   row->addWidget(check);
@@ -87,8 +88,8 @@ QHBoxLayout* MainWindowView::MakeCommandRow(QWidget* panel) {
   SetTextColor(*caption, Look::kCaption);
   row->addWidget(caption);
   QWidget* system = MakeArea(2 * space, panel);
-  AddOption(form_.optGreenwich, system);
-  AddOption(form_.optLocal, system);
+  AddOption(binder_, form_.optGreenwich, system);
+  AddOption(binder_, form_.optLocal, system);
   row->addWidget(system);
   row->addSpacing(2 * space);
   AddTimeZone(*row, panel);

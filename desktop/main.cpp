@@ -6,6 +6,8 @@
 #include "app/main_window.h"
 #include "controls/form.h"
 #include "desktop/characters.h"
+#include "desktop/log_preferences_view.h"
+#include "desktop/log_window_view.h"
 #include "desktop/look.h"
 #include "desktop/main_window_view.h"
 #include "desktop/qt_desktop.h"
@@ -36,6 +38,8 @@ int main(int argc, char** argv) {
   tarnwick::Screen screen;
   tarnwick::frmMain form(desktop, screen);
   tarnwick::MainWindowView view(form, gate);
+  tarnwick::LogWindowView log_view(form.log_window, gate);
+  tarnwick::LogPreferencesView log_preferences_view(form.log_preferences, gate);
   gate.Run([&] { form.Load(); });
   return gate.IsOpen() ? QApplication::exec() : EXIT_SUCCESS;
 }

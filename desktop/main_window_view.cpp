@@ -1,12 +1,14 @@
 #include "desktop/main_window_view.h"
 
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "desktop/bound_widgets.h"
 #include "desktop/look.h"
 #include "desktop/panel.h"
+#include "desktop/twips.h"
 
 namespace tarnwick {
 namespace {
@@ -55,9 +57,17 @@ constexpr Wording kWordings[] = {
     {"cmdSearch", 'S', ""},
     {"lblActualEclipseData", 0, "Eclipse"},
     {"cboHistory", 0, "History"},
+    {"chkLog", 'a', ""},
+    {"cmdLogThisResult", 'h', ""},
+    {"cmdViewLog", 'w', ""},
+    {"cmdLogPreferences", 0, "", "Ctrl+P"},
     {"cmdReset", 'R', ""},
+    {"cmdSaveState", 0, "", "Ctrl+S"},
+    {"cboMonthCalendar", 0, "Calendar of the lunation"},
     {"cmdQuit", 'Q', ""},
 };
+
+constexpr char kLongestCalendar[] = "Kestrin-Sarvik Goddess dates";
 
 }  // namespace
 
@@ -82,40 +92,42 @@ MainWindowView::MainWindowView(frmMain& form, HandlerGate& gate)
   navigation->addWidget(MakeResultPanel(), 1);
   sections->addLayout(navigation);
 
-  auto* closing = new QHBoxLayout;
-  closing->setSpacing(space);
-  closing->addWidget(MakeHistoryPanel(), 1);
-  closing->addWidget(MakeButtons(), 1, Qt::AlignBottom);
-  sections->addLayout(closing);
+  auto* records = new QHBoxLayout;
+  records->setSpacing(space);
+  records->addWidget(MakeHistoryPanel(), 2);
+  records->addWidget(MakeLogPanel(), 3);
+  sections->addLayout(records);
+  sections->addWidget(MakeButtons());
 
   binder_.Bind(form_.Clock, clock_);
   resize(sizeHint());
   binder_.Bind(form_, *this);
 }
 
+// The place of a label follows from the layout, which has been made by then.
+void MainWindowView::ReportPlace() {
+  Label& label = form_.lblOstrelLWCDate[1];
+  const QWidget& shown = *WidgetOf(label);
+  label.SetBounds(ToTwips({shown.mapTo(this, QPoint()), shown.size()}));
+}
+
+void MainWindowView::showEvent(QShowEvent* /*event*/) { ReportPlace(); }
+
+void MainWindowView::resizeEvent(QResizeEvent* /*event*/) { ReportPlace(); }
+
 QWidget* MainWindowView::MakeButtons() {
   QWidget* area = MakeArea(Spacing(*this), this);
   auto* row = static_cast<QHBoxLayout*>(area->layout());
-  row->addWidget(MakeButton(form_.cmdReset, area));
+  row->addWidget(MakeButton(binder_, form_.cmdReset, area));
+  row->addWidget(MakeButton(binder_, form_.cmdSaveState, area));
   row->addStretch();
-  row->addWidget(MakeButton(form_.cmdQuit, area));
+  auto* calendars = new QComboBox(area);
+  ReserveWidth(*calendars, kLongestCalendar);
+  binder_.Bind(form_.cboMonthCalendar, *calendars);
+  row->addWidget(calendars);
+  row->addStretch();
+  row->addWidget(MakeButton(binder_, form_.cmdQuit, area));
   return area;
-}
-
-void MainWindowView::AddOption(OptionButton& option, QWidget* group) {
-  auto* radio = new QRadioButton(group);
-  group->layout()->addWidget(radio);
-  binder_.Bind(option, *radio);
-}
-
-QPushButton* MainWindowView::MakeButton(Button& button, QWidget* parent) {
-  auto* push = new QPushButton(parent);
-  push->setAutoDefault(false);
-  QFont font = push->font();
-  font.setBold(true);
-  push->setFont(font);
-  binder_.Bind(button, *push);
-  return push;
 }
 
 }  // namespace tarnwick

@@ -8,7 +8,6 @@
 
 class QGridLayout;
 class QHBoxLayout;
-class QPushButton;
 
 namespace tarnwick {
 
@@ -21,11 +20,11 @@ class MainWindowView final : public QWidget {
   QWidget* WidgetOf(const Control& control) const { return binder_.WidgetOf(control); }
 
  private:
+  void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  // Tells the form where the label is that the log window opens below.
+  void ReportPlace();
   QWidget* MakeButtons();
-
-  // What the panels are made of.
-  void AddOption(OptionButton& option, QWidget* group);
-  QPushButton* MakeButton(Button& button, QWidget* parent);
 
   // Entry and time system (convert_panel.cpp).
   QWidget* MakeConvertPanel();
@@ -39,8 +38,8 @@ class MainWindowView final : public QWidget {
   QWidget* MakeMoonPanel();
   void AddMoonRow(frmMain::DateLabel& label, QGridLayout& rows, QWidget* panel);
 
-  // Moves (move_panel.cpp), searches (search_panel.cpp, result_panel.cpp) and the history
-  // (history_panel.cpp).
+  // Moves (move_panel.cpp), searches (search_panel.cpp, result_panel.cpp), the history
+  // (history_panel.cpp) and the log (log_panel.cpp).
   QWidget* MakeMovePanel();
   QWidget* MakeMoveFrame(QWidget* panel);
   QWidget* MakeStepList(QWidget* frame);
@@ -50,6 +49,7 @@ class MainWindowView final : public QWidget {
   QWidget* MakeSearchFrame(QWidget* panel);
   QWidget* MakeResultPanel();
   QWidget* MakeHistoryPanel();
+  QWidget* MakeLogPanel();
 
   frmMain& form_;
   Binder binder_;

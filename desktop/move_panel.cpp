@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/bound_widgets.h"
 #include "desktop/characters.h"
 #include "desktop/look.h"
 #include "desktop/main_window_view.h"
@@ -60,10 +61,10 @@ QWidget* MainWindowView::MakeMoveFrame(QWidget* panel) {
 
   QWidget* direction = MakeArea(2 * space, frame);
   binder_.Bind(form_.fraMoveDirection, *direction);
-  AddOption(form_.optMoveDirection[0], direction);
-  AddOption(form_.optMoveDirection[1], direction);
+  AddOption(binder_, form_.optMoveDirection[0], direction);
+  AddOption(binder_, form_.optMoveDirection[1], direction);
   rows->addWidget(direction, 1, 0, Qt::AlignLeft);
-  rows->addWidget(MakeButton(form_.cmdMove, frame), 1, 1);
+  rows->addWidget(MakeButton(binder_, form_.cmdMove, frame), 1, 1);
   return frame;
 }
 
@@ -98,9 +99,9 @@ QWidget* MainWindowView::MakeSteering(QWidget* panel) {
   QWidget* area = MakeArea(Spacing(*panel), panel);
   KeepRoomWhenHidden(*area);
   binder_.Bind(form_.fraStopPauseResume, *area);
-  area->layout()->addWidget(MakeButton(form_.cmdStop, area));
+  area->layout()->addWidget(MakeButton(binder_, form_.cmdStop, area));
 
-  QPushButton* pause = MakeButton(form_.cmdPauseResume, area);
+  QPushButton* pause = MakeButton(binder_, form_.cmdPauseResume, area);
   pause->setMinimumWidth(WidthWith(*pause, "Resume"));
   area->layout()->addWidget(pause);
   return area;

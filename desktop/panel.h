@@ -15,6 +15,7 @@ class Panel : public QWidget {
   Panel(Ground ground, QWidget* parent);
 
   void SetTitle(const QString& title);
+  QLabel& Title() { return *title_; }
   // Where its content goes, below the title.
   QVBoxLayout& Content() { return *content_; }
 

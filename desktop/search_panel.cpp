@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/bound_widgets.h"
 #include "desktop/characters.h"
 #include "desktop/look.h"
 #include "desktop/main_window_view.h"
@@ -49,11 +50,11 @@ QWidget* MainWindowView::MakeSearchFrame(QWidget* panel) {
   auto* command = new QHBoxLayout;
   command->setSpacing(space);
   QWidget* direction = MakeArea(2 * space, frame);
-  AddOption(form_.optNext, direction);
-  AddOption(form_.optPrevious, direction);
+  AddOption(binder_, form_.optNext, direction);
+  AddOption(binder_, form_.optPrevious, direction);
   command->addWidget(direction);
   command->addStretch();
-  command->addWidget(MakeButton(form_.cmdSearch, frame));
+  command->addWidget(MakeButton(binder_, form_.cmdSearch, frame));
   rows->addLayout(command);
   return frame;
 }

@@ -98,7 +98,7 @@ void MainWindowViewTest::mnemonicsAreUnique() {
     if (letter.isEmpty() || qobject_cast<const QLineEdit*>(widget)) continue;
     QVERIFY2(seen.insert(letter).second, qPrintable(letter + " of " + text.toString()));
   }
-  QCOMPARE(seen.size(), std::size_t{21});
+  QCOMPARE(seen.size(), std::size_t{24});
 }
 
 void MainWindowViewTest::tabKeyFollowsTheOrderOfUse() {
@@ -106,7 +106,7 @@ void MainWindowViewTest::tabKeyFollowsTheOrderOfUse() {
   main.form.fraStopPauseResume.SetVisible(true);
   QVERIFY(QTest::qWaitForWindowActive(&main.view));
   QStringList order;
-  for (int i = 0; i < 40 && (i == 0 || main.view.focusWidget()->objectName() != "txbDate"); ++i) {
+  for (int i = 0; i < 45 && (i == 0 || main.view.focusWidget()->objectName() != "txbDate"); ++i) {
     order << main.view.focusWidget()->objectName();
     QTest::keyClick(main.view.focusWidget(), Qt::Key_Tab);
   }
@@ -140,7 +140,11 @@ void MainWindowViewTest::tabKeyFollowsTheOrderOfUse() {
       "optNext",
       "cmdSearch",
       "cboHistory",
+      "chkLog",
+      "cmdLogPreferences",
       "cmdReset",
+      "cmdSaveState",
+      "cboMonthCalendar",
       "cmdQuit",
   };
   QCOMPARE(order, expected);

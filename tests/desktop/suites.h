@@ -8,6 +8,7 @@ namespace tarnwick {
 int RunBinderTests(int argc, char** argv);
 int RunBinderFormTests(int argc, char** argv);
 int RunBinderTextTests(int argc, char** argv);
+int RunLogViewTests(int argc, char** argv);
 int RunMainWindowViewTests(int argc, char** argv);
 int RunNavigationViewTests(int argc, char** argv);
 int RunPictureViewTests(int argc, char** argv);

@@ -1,0 +1,25 @@
+#include "desktop/bound_widgets.h"
+
+#include <QLayout>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace tarnwick {
+
+QPushButton* MakeButton(Binder& binder, Button& button, QWidget* parent) {
+  auto* push = new QPushButton(parent);
+  push->setAutoDefault(false);
+  QFont font = push->font();
+  font.setBold(true);
+  push->setFont(font);
+  binder.Bind(button, *push);
+  return push;
+}
+
+void AddOption(Binder& binder, OptionButton& option, QWidget* group) {
+  auto* radio = new QRadioButton(group);
+  group->layout()->addWidget(radio);
+  binder.Bind(option, *radio);
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,18 @@
+// Widgets of which every window has some, tied to their controls.
+#pragma once
+
+#include "controls/controls.h"
+#include "desktop/binder.h"
+
+class QPushButton;
+class QWidget;
+
+namespace tarnwick {
+
+// A command, in bold. The Enter key belongs to what has the focus, never to a button elsewhere.
+QPushButton* MakeButton(Binder& binder, Button& button, QWidget* parent);
+
+// Adds an option button to the layout of its group's widget.
+void AddOption(Binder& binder, OptionButton& option, QWidget* group);
+
+}  // namespace tarnwick

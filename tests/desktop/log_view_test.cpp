@@ -1,0 +1,94 @@
+// The windows of the log.
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "desktop/log_preferences_view.h"
+#include "desktop/log_window_view.h"
+#include "desktop/twips.h"
+#include "tests/desktop/shown_main_window.h"
+#include "tests/desktop/suites.h"
+
+namespace tarnwick {
+
+class LogViewTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void logOpensBelowTheLabelAndFollowsItsSize();
+  void selectionByMouseWidensTheButton();
+  void captionsFit();
+};
+
+namespace {
+
+struct LogWindows {
+  LogWindows() {
+    main.view.move(60, 40);
+    main.form.chkLog.SetValue(true);
+    main.form.cmdMove.Click();
+    main.form.cmdViewLog.Click();
+    QVERIFY(QTest::qWaitForWindowActive(&log));
+  }
+
+  QPlainTextEdit& Text() {
+    return *qobject_cast<QPlainTextEdit*>(log.WidgetOf(main.form.log_window.txbText));
+  }
+
+  MainWindow main;
+  LogWindowView log{main.form.log_window, main.gate};
+  LogPreferencesView preferences{main.form.log_preferences, main.gate};
+};
+
+}  // namespace
+
+void LogViewTest::logOpensBelowTheLabelAndFollowsItsSize() {
+  LogWindows windows;
+  const QWidget& main = windows.main.view;
+  const QWidget* label = windows.main.view.WidgetOf(windows.main.form.lblOstrelLWCDate[1]);
+  const int below = label->mapTo(&main, QPoint()).y() + 800 / kTwipsPerPixel;
+  QCOMPARE(windows.log.pos(), main.pos() + QPoint(0, below));
+
+  windows.log.resize(900, 500);
+  QCoreApplication::processEvents();
+  QCOMPARE(windows.Text().geometry(), QRect(10, 10, 880, 420));
+  const QWidget* close = windows.log.WidgetOf(windows.main.form.log_window.cmdClose);
+  QCOMPARE(close->geometry().right() + 1, 900 - 210 / kTwipsPerPixel);
+}
+
+void LogViewTest::selectionByMouseWidensTheButton() {
+  LogWindows windows;
+  auto* copy = qobject_cast<QPushButton*>(
+      windows.log.WidgetOf(windows.main.form.log_window.cmdCopyToClipboard));
+  const int narrow = copy->width();
+  QTest::mouseDClick(windows.Text().viewport(), Qt::LeftButton, {}, QPoint(20, 12));
+  QTest::mouseRelease(windows.Text().viewport(), Qt::LeftButton, {}, QPoint(20, 12));
+  QTRY_COMPARE(copy->text().remove('&'), "Copy selected text to clipboard");
+  QVERIFY(copy->width() > narrow);
+}
+
+void LogViewTest::captionsFit() {
+  LogWindows windows;
+  windows.log.resize(windows.log.minimumSize());
+  frmLog& form = windows.main.form.log_window;
+  form.txbText.Select(0, 1);
+  form.txbText.on_mouse_up();
+  VerifyNothingIsClipped(windows.log);
+  // The buttons stand in a row without touching.
+  int end = 0;
+  for (const Button* button :
+       {&form.cmdClear, &form.cmdCopyToClipboard, &form.cmdSaveAs, &form.cmdClose}) {
+    const QRect place = windows.log.WidgetOf(*button)->geometry();
+    QVERIFY2(place.left() > end, button->Name().c_str());
+    end = place.right();
+  }
+
+  windows.main.form.cmdLogPreferences.Click();
+  QVERIFY(QTest::qWaitForWindowActive(&windows.preferences));
+  VerifyNothingIsClipped(windows.preferences);
+}
+
+int RunLogViewTests(int argc, char** argv) { return Run<LogViewTest>(argc, argv); }
+
+}  // namespace tarnwick
+
+#include "log_view_test.moc"

@@ -1,0 +1,161 @@
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <sstream>
+#include <string>
+
+#include "app/main_window.h"
+#include "tools/driver/driver.h"
+#include "tools/driver/driver_desktop.h"
+
+namespace tarnwick {
+namespace {
+
+std::string FileBytes(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// Both layouts, logging on and off, results logged later, all of the Moon or a part or none of it.
+constexpr char kSession[] = R"(now 2024-03-05 12:34:00
+start
+set txbDate 2003-12-31 CE 15:55
+click cmdCompute
+click cmdLogThisResult
+click chkLog
+set txbDate 1999-08-01 CE
+click cmdSearch
+choose cboTimeZone GMT + 05:30
+click lblOstrelLWCDate(1)
+click cmdMove
+click cmdLogPreferences
+click frmLogPreferences.optLogFormat(1)
+choose cboTarget Full moon
+click cmdSearch
+click frmLogPreferences.chkIncludePhaseOfMoonAndIllumination
+click lblKSGDate(1)
+click cmdMove
+click frmLogPreferences.cmdClearAll
+click cmdMove
+click frmLogPreferences.chkIncludePhaseOfMoonAndIllumination
+click frmLogPreferences.chkIncludeAJD
+click cmdNow
+click chkLog
+click cmdMove
+click cmdMove
+click cmdLogThisResult
+set cboHistory 1
+click frmLogPreferences.cmdSetALL
+click frmLogPreferences.optLogFormat(0)
+click cmdLogThisResult
+click cmdViewLog
+)";
+
+TEST(Log, SessionReadsAsItAlwaysHas) {
+  const std::string name = "tarnwick log \xC3\xA9.txt";
+  const std::filesystem::path saved = testing::TempDir() + name;
+  std::filesystem::remove(saved);
+  const std::string save_there = "answer file " + saved.string() + "\n";
+  std::istringstream input(kSession + save_there + "click frmLog.cmdSaveAs\n" +
+                           // A file that is there is not replaced unasked.
+                           "set frmLog.txbText other\nanswer no\n" + save_there +
+                           "click frmLog.cmdSaveAs\nanswer file /no folder/log.txt\n" +
+                           "click frmLog.cmdSaveAs\nmessages\n");
+  std::ostringstream output;
+  EXPECT_EQ(Driver(input, output, TEST_PROGRAM_FOLDER).Run(), 0);
+  EXPECT_EQ(output.str(), "question|yesno|Save log|" + name + " already exists.  Replace it?\n" +
+                              "exclamation|ok|Save log|Error when attempting to save the log: "
+                              "No such file or directory\n.\n");
+  EXPECT_EQ(FileBytes(saved), FileBytes(TEST_DATA "/log.txt"));
+  std::filesystem::remove(saved);
+}
+
+class LogTest : public testing::Test {
+ protected:
+  LogTest() {
+    form_.Load();
+    form_.log_window.txbText.SetText("begun\r\n");
+  }
+  const std::string& Text() { return form_.log_window.txbText.Text(); }
+
+  DriverDesktop desktop_{[](YieldMode) {}, TEST_PROGRAM_FOLDER};
+  Screen screen_;
+  frmMain form_{desktop_, screen_};
+};
+
+TEST_F(LogTest, CaptionThatCannotBeCutIsReportedAndWhatWasWrittenStays) {
+  struct Case {
+    Label& label;
+    const char* caption;
+    const char* ends_with;
+  };
+  for (const auto& [label, caption, ends_with] :
+       {Case{form_.lblKSGDate[1], "no date", "  KSG="}, Case{form_.lblKSGDate[1], "KSG", "  KSG="},
+        Case{form_.lblPhaseOfMoon[1], "Moon", ".0000  \r\n"}}) {
+    form_.log_window.ShowText("begun\r\n");
+    form_.cmdMove.Click();
+    label.SetCaption(caption);
+    form_.cmdLogThisResult.Click();
+    const auto messages = desktop_.TakeMessages();
+    ASSERT_EQ(messages.size(), 1U) << caption;
+    EXPECT_EQ(messages[0].title, "Error when adding log entry.");
+    EXPECT_EQ(messages[0].text, "Invalid procedure call or argument");
+    EXPECT_TRUE(Text().starts_with("begun\r\n")) << Text();
+    EXPECT_TRUE(Text().ends_with(ends_with)) << Text();
+  }
+}
+
+TEST_F(LogTest, FullLogIsClearedOnlyAfterTwoQuestions) {
+  struct Case {
+    std::vector<MessageAnswer> answers;
+    bool cleared;
+  };
+  using enum MessageAnswer;
+  const std::string almost_full(999'990, 'x');  // not even room for what was done
+  form_.chkLog.SetValue(true);
+  for (const auto& [answers, cleared] :
+       {Case{{kNo}, false}, Case{{kYes, kCancel}, false}, Case{{kYes, kOk}, true}}) {
+    form_.log_window.ShowText(almost_full);
+    for (const MessageAnswer answer : answers) desktop_.QueueAnswer(answer);
+    form_.cmdMove.Click();
+    const auto messages = desktop_.TakeMessages();
+    ASSERT_EQ(messages.size(), answers.size());
+    EXPECT_EQ(messages[0].text, "Log is full.  Clear log?");
+    EXPECT_EQ(messages[0].title, "");
+    EXPECT_EQ(messages[0].buttons, MessageButtons::kYesNo);
+    EXPECT_EQ(messages.back().text,
+              answers.size() == 1 ? "Log is full.  Clear log?" : "Erase all data in the log?");
+    EXPECT_EQ(Text(), cleared ? "" : almost_full);
+  }
+}
+
+TEST_F(LogTest, LogHoldsAMillionCharacters) {
+  const auto log_same_result = [this] {
+    for (OptionButton& direction : form_.optMoveDirection) {
+      direction.SetValue(true);
+      form_.cmdMove.Click();
+    }
+    form_.cmdLogThisResult.Click();
+  };
+  const std::string begun = Text();
+  log_same_result();
+  const std::size_t entry = Text().size() - begun.size();
+  ASSERT_GT(entry, 100U);
+
+  const std::string fitting = "\xC3\xA9" + std::string(999'999 - entry, 'x');
+  form_.log_window.ShowText(fitting);
+  log_same_result();
+  EXPECT_EQ(Text().size(), fitting.size() + entry);
+  EXPECT_TRUE(desktop_.TakeMessages().empty());
+
+  form_.log_window.ShowText(fitting + "x");
+  desktop_.QueueAnswer(MessageAnswer::kNo);
+  log_same_result();
+  EXPECT_EQ(desktop_.TakeMessages().size(), 1U);
+  // All but the line end of the empty line that closes an entry.
+  EXPECT_EQ(Text().size(), fitting.size() + entry - 1);
+}
+
+}  // namespace
+}  // namespace tarnwick
