@@ -54,9 +54,10 @@ click cmdViewLog
 
 TEST(Log, SessionReadsAsItAlwaysHas) {
   const std::string name = "tarnwick log \xC3\xA9.txt";
-  const std::filesystem::path saved = testing::TempDir() + name;
+  const std::string path = testing::TempDir() + name;
+  const std::filesystem::path saved(std::u8string(path.begin(), path.end()));
   std::filesystem::remove(saved);
-  const std::string save_there = "answer file " + saved.string() + "\n";
+  const std::string save_there = "answer file " + path + "\n";
   std::istringstream input(kSession + save_there + "click frmLog.cmdSaveAs\n" +
                            // A file that is there is not replaced unasked.
                            "set frmLog.txbText other\nanswer no\n" + save_there +
