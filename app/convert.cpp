@@ -4,11 +4,10 @@
 #include "app/entry_parser.h"
 #include "app/main_window.h"
 #include "calendars/text.h"
+#include "controls/keys.h"
 
 namespace tarnwick {
 namespace {
-
-constexpr int kEnterKey = 13;
 
 // The days of a text that passes as a signed number, without its "+" and ",".
 double DayCountValue(std::string_view text) { return LeadingNumber(RemoveChars(text, "+,")); }

@@ -2,6 +2,7 @@
 #include <QShortcut>
 #include <QWidget>
 
+#include "controls/keys.h"
 #include "desktop/binder.h"
 #include "desktop/characters.h"
 #include "desktop/event_hook.h"
@@ -10,8 +11,6 @@
 
 namespace tarnwick {
 namespace {
-
-constexpr int kEscapeKey = 27;
 
 // Where the frame of the window is, and how large what is inside.
 Bounds BoundsOf(const QWidget& window) { return ToTwips({window.pos(), window.size()}); }

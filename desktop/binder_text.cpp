@@ -5,6 +5,7 @@
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 
+#include "controls/keys.h"
 #include "desktop/binder.h"
 #include "desktop/characters.h"
 #include "desktop/event_hook.h"
@@ -12,8 +13,6 @@
 
 namespace tarnwick {
 namespace {
-
-constexpr int kEnterKey = 13;
 
 // A selection in code units; `start` is the caret where nothing is selected.
 struct Selection {

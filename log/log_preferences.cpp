@@ -1,14 +1,9 @@
 #include "log/log_preferences.h"
 
 #include "app/main_window.h"
+#include "controls/keys.h"
 
 namespace tarnwick {
-namespace {
-
-constexpr int kEscapeKey = 27;
-
-}  // namespace
-
 frmLogPreferences::frmLogPreferences(Screen& screen, frmMain& main_window)
     : Form(screen, "frmLogPreferences", "Log preferences"), main_window_(main_window) {
   optLogFormat[0].SetCaption("calendar=date");

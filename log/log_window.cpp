@@ -5,12 +5,12 @@
 #include "app/main_window.h"
 #include "app/save_path.h"
 #include "app/text_file.h"
+#include "controls/keys.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr std::size_t kCapacity = 1'000'000;  // characters
-constexpr int kEscapeKey = 27;
 
 // Places and sizes in twips.
 constexpr Bounds kInitialSize{0, 0, 12600, 6600};

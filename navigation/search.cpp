@@ -6,6 +6,7 @@
 #include "calendars/checked_arithmetic.h"
 #include "calendars/date_processing.h"
 #include "calendars/text.h"
+#include "controls/keys.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
 #include "navigation/eclipse_description.h"
@@ -15,7 +16,6 @@ namespace tarnwick {
 namespace {
 
 constexpr double kAlmostASaros = 6580.0;  // days; a saros has 6585.32
-constexpr int kEscapeKey = 27;
 
 bool IsBlank(int target) { return target == kFirstBlankTarget || target == kSecondBlankTarget; }
 
