@@ -1,23 +1,58 @@
-// Draws the pictures of the Moon that the program shows.
+// Draws the pictures of the Moon that the program shows: the four that it makes any phase from, as
+// BMP, and those of the days of a lunation, as PNG.
 // usage: tarnwick_moon_pictures FOLDER
 #include <QImage>
+#include <cmath>
 #include <cstdlib>
 #include <iostream>
+#include <numbers>
 #include <string>
 
+#include "moon/syzyg.h"
 #include "tools/moon_pictures/moon_drawing.h"
 
 namespace {
 
-bool WritePicture(const std::string& folder, tarnwick::MoonPhase phase) {
-  const std::string file =
-      folder + "/" + std::string(tarnwick::MoonPictureFile(phase.fraction, phase.waxing));
-  const std::vector<std::uint32_t> pixels = tarnwick::DrawMoon(tarnwick::kMoonPictureWidth, phase);
-  const QImage image(reinterpret_cast<const uchar*>(pixels.data()), tarnwick::kMoonPictureWidth,
-                     tarnwick::kMoonPictureWidth, QImage::Format_RGB32);
+using tarnwick::MoonPhase;
+
+// The calendar of a lunation: 4 rows of 8 cells, 7 days a row. The last cell is for the day left
+// over from a fortnight, in the second and the fourth row; in the first and the third it is empty.
+constexpr int kCells = 32;
+constexpr int kFirstEmptyCell = 7;
+constexpr int kSecondEmptyCell = 23;
+constexpr int kDayWidth = 160;
+
+// The mean phase at noon of the day in a cell.
+MoonPhase PhaseOfCell(int cell) {
+  const int days_since_new = cell - (cell > kFirstEmptyCell) - (cell > kSecondEmptyCell);
+  const double angle = 2 * std::numbers::pi * days_since_new / tarnwick::SynodicMonth;
+  return {(1 - std::cos(angle)) / 2, angle < std::numbers::pi};
+}
+
+bool WritePicture(const std::string& file, int width, MoonPhase phase) {
+  const std::vector<std::uint32_t> pixels = tarnwick::DrawMoon(width, phase);
+  const QImage image(reinterpret_cast<const uchar*>(pixels.data()), width, width,
+                     QImage::Format_RGB32);
   if (image.convertToFormat(QImage::Format_RGB888).save(QString::fromStdString(file))) return true;
   std::cerr << "tarnwick_moon_pictures: cannot write " << file << '\n';
   return false;
+}
+
+bool WritePhases(const std::string& folder) {
+  for (const MoonPhase phase : {MoonPhase{0, true}, {0.5, true}, {1, true}, {0.5, false}}) {
+    const std::string file(tarnwick::MoonPictureFile(phase.fraction, phase.waxing));
+    if (!WritePicture(folder + "/" + file, tarnwick::kMoonPictureWidth, phase)) return false;
+  }
+  return true;
+}
+
+bool WriteDays(const std::string& folder) {
+  for (int cell = 0; cell < kCells; ++cell) {
+    if (cell == kFirstEmptyCell || cell == kSecondEmptyCell) continue;
+    const std::string file = folder + "/day" + std::to_string(cell + 1) + ".png";
+    if (!WritePicture(file, kDayWidth, PhaseOfCell(cell))) return false;
+  }
+  return true;
 }
 
 }  // namespace
@@ -27,9 +62,5 @@ int main(int argc, char** argv) {
     std::cerr << "usage: tarnwick_moon_pictures FOLDER\n";
     return EXIT_FAILURE;
   }
-  for (const tarnwick::MoonPhase phase :
-       {tarnwick::MoonPhase{0, true}, {0.5, true}, {1, true}, {0.5, false}}) {
-    if (!WritePicture(argv[1], phase)) return EXIT_FAILURE;
-  }
-  return EXIT_SUCCESS;
+  return WritePhases(argv[1]) && WriteDays(argv[1]) ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -1,0 +1,23 @@
+#!/bin/bash
+# Draws the pictures of the Moon anew and puts them into assets/.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+
+scripts/packages.sh run screen
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+mkdir "$work/pictures"
+
+cmake --preset release -B "$work/build" -DTARNWICK_TESTS=OFF -DTARNWICK_BENCHMARKS=OFF
+cmake --build "$work/build" --target tarnwick_moon_pictures
+"$work/build/bin/tarnwick_moon_pictures" "$work/pictures"
+
+# 256 colours are enough for one phase: without dithering no band is seen, with it the night and the
+# maria become grainy. The deepest tree tells shades apart that the default one throws together.
+mkdir -p assets/moon_pics
+for drawing in "$work"/pictures/day*.png; do
+  convert "$drawing" +dither -treedepth 8 -colors 256 -strip \
+    "assets/moon_pics/$(basename "$drawing" .png).gif"
+done
+cp "$work"/pictures/*.bmp assets/
