@@ -8,10 +8,11 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   tarnwick::ApplyLook();
   int failures = 0;
-  for (const auto suite : {tarnwick::RunBinderTests, tarnwick::RunBinderFormTests,
-                           tarnwick::RunBinderTextTests, tarnwick::RunLogViewTests,
-                           tarnwick::RunMainWindowViewTests, tarnwick::RunNavigationViewTests,
-                           tarnwick::RunPictureViewTests, tarnwick::RunQtDesktopTests}) {
+  for (const auto suite :
+       {tarnwick::RunBinderTests, tarnwick::RunBinderFormTests, tarnwick::RunBinderTextTests,
+        tarnwick::RunLogViewTests, tarnwick::RunMainWindowViewTests, tarnwick::RunMoonPicturesTests,
+        tarnwick::RunNavigationViewTests, tarnwick::RunPictureViewTests,
+        tarnwick::RunQtDesktopTests}) {
     failures += suite(argc, argv);
   }
   return failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -10,6 +10,7 @@ int RunBinderFormTests(int argc, char** argv);
 int RunBinderTextTests(int argc, char** argv);
 int RunLogViewTests(int argc, char** argv);
 int RunMainWindowViewTests(int argc, char** argv);
+int RunMoonPicturesTests(int argc, char** argv);
 int RunNavigationViewTests(int argc, char** argv);
 int RunPictureViewTests(int argc, char** argv);
 int RunQtDesktopTests(int argc, char** argv);
