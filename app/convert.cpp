@@ -3,6 +3,7 @@
 
 #include "app/entry_parser.h"
 #include "app/main_window.h"
+#include "calendars/date_processing.h"
 #include "calendars/text.h"
 #include "controls/keys.h"
 
@@ -39,12 +40,22 @@ void frmMain::cmdCompute_Click() {
   if (!days.empty()) ajd += optPlus.Value() ? DayCountValue(days) : -DayCountValue(days);
   if (DateOutOfRange(ajd)) return;
 
+  TakeMoment(ajd, ConvertOperation(days));
+}
+
+void frmMain::TakeMoment(double ajd, const std::string& operation) {
   ClearEclipse();
   StopClock();
   dblMoment = ajd;
   const std::string summary = DisplayMoment();
   CopyDateToEntryBox();
-  AddLogEntry(AddHistoryEntry(summary, 0), ConvertOperation(days), "");
+  AddLogEntry(AddHistoryEntry(summary, 0), operation, "");
+}
+
+void frmMain::TakeDay(std::int32_t day_number) {
+  if (IsBusy()) return;
+  const double noon = CJDToAJD(day_number + 0.5, ReadingOffset());
+  if (!DateOutOfRange(noon)) TakeMoment(noon, "Lunation calendar");
 }
 
 // "Convert date minus 1.5 days" for what stands in the box of days.

@@ -42,6 +42,7 @@ std::string frmMain::DisplayMoment() {
   std::string summary = DisplayAllDates();
   DisplayMoonData();
   DisplayDeltaT();
+  calendar_window.Refresh();
   return summary;
 }
 

@@ -1,16 +1,12 @@
 #include "app/main_window.h"
 
+#include "app/product.h"
 #include "app/time_zone.h"
+#include "lunation_view/month_calendar.h"
 #include "moon/syzyg.h"
 #include "navigation/step.h"
 
 namespace tarnwick {
-namespace {
-
-constexpr std::string_view kVersion = " 18.0";
-
-}  // namespace
-
 void ShowChoice(Control& chosen, Control& other) {
   chosen.SetForeColor(kSelectedColor);
   other.SetForeColor(kUnselectedColor);
@@ -20,6 +16,9 @@ frmMain::frmMain(Desktop& desktop, Screen& screen)
     : Form(screen, "frmMain", "Tarnwick"),
       log_window(desktop, screen, *this),
       log_preferences(screen, *this),
+      calendar_window(desktop, screen, *this),
+      help_window(desktop, screen),
+      notice(screen),
       desktop_(desktop),
       date_labels_{&lblCommonEraDate,           &lblJulianCalendarDate,     &lblArchetypesDate,
                    &lblSarvikDolmerSLCDate,     &lblLTCLunarDate,           &lblKSGDate,
@@ -73,6 +72,9 @@ void frmMain::ConnectHandlers() {
   cmdViewLog.on_click = [this] { cmdViewLog_Click(); };
   cmdLogPreferences.on_click = [this] { cmdLogPreferences_Click(); };
   cmdSaveState.on_click = [this] { cmdSaveState_Click(); };
+  cboMonthCalendar.on_click = [this] { calendar_window.Refresh(); };
+  cmdDisplayCalendar.on_click = [this] { cmdDisplayCalendar_Click(); };
+  cmdHelp.on_click = [this] { help_window.Show(); };
 
   const auto connect = [this](DateLabel& label, void (frmMain::*handler)(int)) {
     label[0].on_click = [this, handler] { (this->*handler)(0); };
@@ -91,7 +93,7 @@ void frmMain::ConnectHandlers() {
 }
 
 void frmMain::Form_Load() {
-  SetCaption(Caption() + std::string(kVersion));
+  SetCaption(Caption() + " " + kVersion);
   Initialise();
   intCalendar = kCE;
   MarkCurrentCalendar();
@@ -166,7 +168,7 @@ void frmMain::EnableDisableFunctions(bool enable) {
 }
 
 void frmMain::RefreshFunctions() {
-  if (!blnRepeating && !blnSearching) EnableDisableFunctions(true);
+  if (!IsBusy()) EnableDisableFunctions(true);
 }
 
 void frmMain::SetTheFocus() {
@@ -179,6 +181,11 @@ void frmMain::SetTheFocus() {
   txbDate.MoveCaretToEnd();
 }
 
+void frmMain::cmdDisplayCalendar_Click() {
+  calendar_window.ShowCurrentLunation();
+  calendar_window.Show();
+}
+
 void frmMain::Form_Unload(bool& /*cancel*/) {
   if (log_window.IsLoaded()) log_window.Close();
   cmdQuit_Click();
@@ -186,7 +193,7 @@ void frmMain::Form_Unload(bool& /*cancel*/) {
 
 // A running move or search sees the flags at its next pass and ends.
 void frmMain::cmdQuit_Click() {
-  cmdSaveState_Click();
+  SaveState();
   blnEnding = true;
   blnRepeating = false;
   blnPaused = false;

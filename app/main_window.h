@@ -12,9 +12,12 @@
 #include "controls/controls.h"
 #include "controls/desktop.h"
 #include "controls/form.h"
+#include "help/help_window.h"
+#include "help/notice.h"
 #include "log/log_entry.h"
 #include "log/log_preferences.h"
 #include "log/log_window.h"
+#include "lunation_view/calendar_window.h"
 #include "navigation/target.h"
 #include "state/state_record.h"
 
@@ -113,13 +116,25 @@ class frmMain final : public Form {
 
   Button cmdSaveState{*this, "cmdSaveState", "Save state"};
   ComboBox cboMonthCalendar{*this, "cboMonthCalendar"};  // of the lunation calendar
+  Button cmdDisplayCalendar{*this, "cmdDisplayCalendar", "Lunation calendar"};
+  Button cmdHelp{*this, "cmdHelp", "Help"};
   Button cmdQuit{*this, "cmdQuit", "Quit"};
   Timer Clock{*this, "Clock"};
 
   // The other windows, hidden until they are asked for.
   frmLog log_window;
   frmLogPreferences log_preferences;
+  frmCalendar calendar_window;
+  frmHelp help_window;
+  frmNotice notice;
 
+  // What the other windows ask of this one.
+  double Moment() const { return dblMoment; }
+  // Minutes east of Greenwich at which moments are read: 0 when Greenwich is chosen.
+  int ReadingOffset() const;
+  // Makes noon of a day the current moment, unless a move or a search is running.
+  void TakeDay(std::int32_t day_number);
+  void ReportMissingPicture(const std::filesystem::path& file);
   // Enables the functions again after another window has changed what can be done; a running move
   // or search does so itself when it ends.
   void RefreshFunctions();
@@ -143,11 +158,15 @@ class frmMain final : public Form {
 
   void EnableDisableFunctions(bool enable);
   void SetTheFocus();
+  void cmdDisplayCalendar_Click();
   void cmdQuit_Click();
+  bool IsBusy() const { return blnRepeating || blnSearching; }
 
   // Entry (convert.cpp).
   void cmdCompute_Click();
   std::string ConvertOperation(const std::string& days) const;
+  // Shows a moment that the user has named, and makes the entries in history and log.
+  void TakeMoment(double ajd, const std::string& operation);
   void cmdClearDate_Click();
   void txbDate_KeyPress(int& key);
   void txbPlusMinus_KeyPress(int& key);
@@ -171,7 +190,6 @@ class frmMain final : public Form {
   void DisplayMoonData();
   void ShowPhaseOfMoon(double fraction, bool waxing);
   void ShowMoonPicture(double fraction, bool waxing);
-  void ReportMissingPicture(const std::filesystem::path& file);
   void ReportPhaseError(std::int16_t code, const std::string& routine);
   void DisplayDeltaT();
   // Time, all dates, the Moon and delta T; returns what DisplayAllDates does.
@@ -194,8 +212,6 @@ class frmMain final : public Form {
 
   // Time system, zone and clock (time_system.cpp).
   std::int16_t TimeZoneOffsetMinutes() const;
-  // Minutes east of Greenwich at which moments are read: 0 when Greenwich is chosen.
-  int ReadingOffset() const;
   double PresentMoment() const;
   std::string ClockTimeText() const;
   void optGreenwich_Click();
@@ -271,6 +287,7 @@ class frmMain final : public Form {
   // Saved state (state/saved_state.cpp).
   void cmdSaveState_Click();
   void RestoreState();
+  bool SaveState();  // false after telling the user of an error
   // What is kept from one run to the next, in the order of the file.
   std::vector<StateRecord> StateRecords();
   StateRecord MomentRecord();

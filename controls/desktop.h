@@ -6,6 +6,8 @@
 
 namespace tarnwick {
 
+class Control;
+
 enum class MessageIcon { kNone, kExclamation, kInformation, kQuestion };
 enum class MessageButtons { kOk, kOkCancel, kYesNo };
 enum class MessageAnswer { kOk, kCancel, kYes, kNo };
@@ -46,6 +48,9 @@ class Desktop {
   // Asks where to save a file, `suggestion` being a name for it; nothing if the user gives up.
   virtual std::optional<std::filesystem::path> AskSavePath(const std::string& title,
                                                            const std::string& suggestion) = 0;
+  // Saves a control and what lies in it, as shown but at twice the resolution, as a PNG file.
+  // Returns what went wrong, empty if nothing did.
+  virtual std::string SaveImage(const Control& area, const std::filesystem::path& file) = 0;
   // The file that the program's state is kept in; nothing where none is kept.
   virtual std::optional<std::filesystem::path> StateFile() const = 0;
   // The folder that the program lies in.

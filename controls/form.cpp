@@ -35,10 +35,14 @@ void Form::Load() {
 }
 
 void Form::Show() {
+  ShowInactive();
+  Activate();
+}
+
+void Form::ShowInactive() {
   Load();
   Assign(minimised_, false, Property::kMinimised);
   Assign(visible_, true, Property::kVisible);
-  Activate();
 }
 
 void Form::Hide() {

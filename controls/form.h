@@ -48,6 +48,8 @@ class Form : public Observable {
   void Load();
   // Loads it first.
   void Show();
+  // Shows it beside the active window, which stays active.
+  void ShowInactive();
   void Hide();
   void Minimise();
   // The user has turned to this window.

@@ -4,16 +4,19 @@
 #include <QComboBox>
 #include <QKeySequence>
 #include <QLabel>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QTextBrowser>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
 
 #include "desktop/characters.h"
 #include "desktop/event_hook.h"
+#include "desktop/help_html.h"
 #include "desktop/link_label.h"
 #include "desktop/look.h"
 #include "desktop/mirror.h"
@@ -129,6 +132,11 @@ void Binder::Bind(Label& label, LinkLabel& link) {
                    [&label, &gate = gate_] { gate.Run([&] { label.Click(); }); });
 }
 
+void Binder::Bind(Label& label, QTextBrowser& page) {
+  BindControl(label, page);
+  Mirror(label, Property::kCaption, page, [&] { page.setHtml(HelpHtml(label.Caption())); });
+}
+
 void Binder::Bind(Button& button, QPushButton& push) {
   BindCaption(button, push);
   const QString keys = WordingOf(button).shortcut;
@@ -176,6 +184,23 @@ void Binder::Bind(ComboBox& list, QComboBox& combo) {
   QObject::connect(&combo, &QComboBox::activated, &combo, [&list, &gate = gate_](int index) {
     gate.Run([&] { list.SetListIndex(index); });
   });
+}
+
+void Binder::Bind(ComboBox& list, QListWidget& rows) {
+  BindControl(list, rows);
+  const auto show_index = [&] {
+    const QSignalBlocker blocker(rows);
+    rows.setCurrentRow(list.ListIndex());
+  };
+  Mirror(list, Property::kItems, rows, [&list, &rows, show_index] {
+    const QSignalBlocker blocker(rows);
+    rows.clear();
+    for (const ComboBox::Item& item : list.Items()) rows.addItem(ToQt(item.text));
+    show_index();
+  });
+  Mirror(list, Property::kListIndex, rows, show_index);
+  QObject::connect(&rows, &QListWidget::currentRowChanged, &rows,
+                   [&list, &gate = gate_](int row) { gate.Run([&] { list.SetListIndex(row); }); });
 }
 
 void Binder::Bind(Picture& picture, QWidget& area) {

@@ -12,10 +12,12 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QListWidget;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
 class QString;
+class QTextBrowser;
 class QTimer;
 class QWidget;
 
@@ -47,11 +49,14 @@ class Binder {
   void Bind(Frame& frame, Panel& panel);
   void Bind(Label& label, QLabel& text);
   void Bind(Label& label, LinkLabel& link);
+  // A text with the marks of help/help_text.h.
+  void Bind(Label& label, QTextBrowser& page);
   void Bind(Button& button, QPushButton& push);
   void Bind(CheckBox& box, QCheckBox& check);
   // The widgets of a group, and no others, have one parent in common.
   void Bind(OptionButton& option, QRadioButton& radio);
   void Bind(ComboBox& list, QComboBox& combo);
+  void Bind(ComboBox& list, QListWidget& rows);
   void Bind(Picture& picture, QWidget& area);
   void Bind(Picture& picture, PictureView& view);
   void Bind(Timer& timer, QTimer& clock);

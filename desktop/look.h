@@ -40,6 +40,10 @@ struct Look {
   static constexpr QColor kFocusRing{0x7d, 0xb8, 0xe8};
   static constexpr QColor kCheckMark{0x8a, 0xdb, 0x96};
 
+  // The lunation calendar.
+  static constexpr QColor kSky{0x0b, 0x10, 0x20};  // as around the Moon in its pictures
+  static constexpr QColor kEvent{0xe8, 0xc9, 0x7a};
+
   static constexpr QColor kToolTip{0xff, 0xfb, 0xe6};
   static constexpr QColor kToolTipText{0x22, 0x2c, 0x37};
 };

@@ -5,7 +5,9 @@
 
 #include "app/main_window.h"
 #include "controls/form.h"
+#include "desktop/calendar_view.h"
 #include "desktop/characters.h"
+#include "desktop/help_view.h"
 #include "desktop/log_preferences_view.h"
 #include "desktop/log_window_view.h"
 #include "desktop/look.h"
@@ -40,6 +42,10 @@ int main(int argc, char** argv) {
   tarnwick::MainWindowView view(form, gate);
   tarnwick::LogWindowView log_view(form.log_window, gate);
   tarnwick::LogPreferencesView log_preferences_view(form.log_preferences, gate);
+  tarnwick::CalendarView calendar_view(form.calendar_window, gate);
+  tarnwick::HelpView help_view(form.help_window, gate);
+  tarnwick::CreditsView credits_view(form.help_window.credits_window, gate);
+  tarnwick::NoticeView notice_view(form.notice, gate);
   gate.Run([&] { form.Load(); });
   return gate.IsOpen() ? QApplication::exec() : EXIT_SUCCESS;
 }

@@ -64,6 +64,8 @@ constexpr Wording kWordings[] = {
     {"cmdReset", 'R', ""},
     {"cmdSaveState", 0, "", "Ctrl+S"},
     {"cboMonthCalendar", 0, "Calendar of the lunation"},
+    {"cmdDisplayCalendar", 0, "", "Ctrl+L"},
+    {"cmdHelp", 0, "", "F1"},
     {"cmdQuit", 'Q', ""},
 };
 
@@ -125,7 +127,9 @@ QWidget* MainWindowView::MakeButtons() {
   ReserveWidth(*calendars, kLongestCalendar);
   binder_.Bind(form_.cboMonthCalendar, *calendars);
   row->addWidget(calendars);
+  row->addWidget(MakeButton(binder_, form_.cmdDisplayCalendar, area));
   row->addStretch();
+  row->addWidget(MakeButton(binder_, form_.cmdHelp, area));
   row->addWidget(MakeButton(binder_, form_.cmdQuit, area));
   return area;
 }

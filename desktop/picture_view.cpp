@@ -50,7 +50,9 @@ QImage PictureView::Rendered(QSize pixels) const {
 
 void PictureView::paintEvent(QPaintEvent* /*event*/) {
   if (source_.isNull()) return;
-  const double ratio = devicePixelRatioF();
+  QPainter painter(this);
+  // A saved image is painted on something finer than the screen.
+  const double ratio = qMax(devicePixelRatioF(), painter.deviceTransform().m11());
   const QSize room = (QSizeF(size()) * ratio).toSize();
   const QSize pixels = source_.size().scaled(room, Qt::KeepAspectRatio);
   if (pixels.isEmpty()) return;
@@ -58,7 +60,7 @@ void PictureView::paintEvent(QPaintEvent* /*event*/) {
   shown_.setDevicePixelRatio(ratio);
   // A whole pixel of the screen, since between two of them the picture would blur.
   const QSize margin = (room - pixels) / 2;
-  QPainter(this).drawImage(QPointF(margin.width(), margin.height()) / ratio, shown_);
+  painter.drawImage(QPointF(margin.width(), margin.height()) / ratio, shown_);
 }
 
 }  // namespace tarnwick

@@ -7,9 +7,13 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QImage>
 #include <QMessageBox>
+#include <QSaveFile>
 
+#include "controls/form.h"
 #include "desktop/characters.h"
+#include "desktop/look.h"
 #include "desktop/platform.h"
 #include "state/state_file.h"
 
@@ -17,6 +21,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int kSecondsPerMinute = 60;
+constexpr int kImageResolution = 2;  // pixels of a saved image for one of the screen, each way
 
 QMessageBox::Icon IconOf(MessageIcon icon) {
   switch (icon) {
@@ -96,6 +101,24 @@ std::optional<std::filesystem::path> QtDesktop::AskSavePath(const std::string& t
   dialog.selectFile(ToQt(suggestion));
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return QFileInfo(dialog.selectedFiles().constFirst()).filesystemFilePath();
+}
+
+// Windows and widgets are named after their forms and controls.
+std::string QtDesktop::SaveImage(const Control& area, const std::filesystem::path& file) {
+  QWidget* widget = nullptr;
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() != ToQt(area.Owner().Name())) continue;
+    widget = window->findChild<QWidget*>(ToQt(area.Name()));
+  }
+  if (widget == nullptr) return "The window is gone.";
+  const double ratio = kImageResolution * widget->devicePixelRatioF();
+  QImage image((QSizeF(widget->size()) * ratio).toSize(), QImage::Format_RGB32);
+  image.setDevicePixelRatio(ratio);
+  image.fill(Look::kWindow);
+  widget->render(&image, {}, {}, QWidget::DrawChildren);
+  QSaveFile out(QFileInfo(file).filePath());
+  const bool written = out.open(QIODevice::WriteOnly) && image.save(&out, "PNG") && out.commit();
+  return written ? "" : FromQt(out.errorString());
 }
 
 std::optional<std::filesystem::path> QtDesktop::StateFile() const {

@@ -16,6 +16,7 @@ class QtDesktop final : public Desktop {
   void SetClipboardText(const std::string& text) override;
   std::optional<std::filesystem::path> AskSavePath(const std::string& title,
                                                    const std::string& suggestion) override;
+  std::string SaveImage(const Control& area, const std::filesystem::path& file) override;
   std::optional<std::filesystem::path> StateFile() const override;
   std::filesystem::path ProgramFolder() const override;
   void OpenWebPage(const std::string& address) override;

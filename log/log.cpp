@@ -1,12 +1,12 @@
 // The log, as the main window writes and opens it.
 #include "app/main_window.h"
+#include "app/product.h"
 #include "calendars/checked_arithmetic.h"
 #include "log/log_entry.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr char kWebPage[] = "https://tarnwick.example/";
 constexpr int kLogBelowLabel = 800;  // twips
 
 // The order in which an entry names the calendars.

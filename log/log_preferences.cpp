@@ -1,16 +1,14 @@
 #include "log/log_preferences.h"
 
 #include "app/main_window.h"
-#include "controls/keys.h"
 
 namespace tarnwick {
 frmLogPreferences::frmLogPreferences(Screen& screen, frmMain& main_window)
-    : Form(screen, "frmLogPreferences", "Log preferences"), main_window_(main_window) {
+    : ClosableForm(screen, "frmLogPreferences", "Log preferences"), main_window_(main_window) {
   optLogFormat[0].SetCaption("calendar=date");
   optLogFormat[1].SetCaption("date calendar,");
   cmdSetALL.on_click = [this] { cmdSetALL_Click(); };
   cmdClearAll.on_click = [this] { cmdClearAll_Click(); };
-  cmdClose.on_click = [this] { cmdClose_Click(); };
   SetDefaults();
 }
 
@@ -51,10 +49,6 @@ void frmLogPreferences::cmdClose_Click() {
 void frmLogPreferences::Form_Unload(bool& cancel) {
   cancel = true;
   cmdClose_Click();
-}
-
-void frmLogPreferences::Form_KeyPress(int& key) {
-  if (key == kEscapeKey) cmdClose_Click();
 }
 
 }  // namespace tarnwick

@@ -3,9 +3,9 @@
 #include <array>
 #include <cstdint>
 
+#include "controls/closable_form.h"
 #include "controls/control_array.h"
 #include "controls/controls.h"
-#include "controls/form.h"
 #include "log/log_entry.h"
 
 namespace tarnwick {
@@ -13,7 +13,7 @@ namespace tarnwick {
 class frmMain;
 
 // What the entries of the log hold, and how.
-class frmLogPreferences final : public Form {
+class frmLogPreferences final : public ClosableForm {
  public:
   frmLogPreferences(Screen& screen, frmMain& main_window);
 
@@ -38,7 +38,6 @@ class frmLogPreferences final : public Form {
 
   Button cmdSetALL{*this, "cmdSetALL", "Set all"};
   Button cmdClearAll{*this, "cmdClearAll", "Clear all"};
-  Button cmdClose{*this, "cmdClose", "Close"};
 
   // Everything included, in the first layout.
   void SetDefaults();
@@ -48,13 +47,12 @@ class frmLogPreferences final : public Form {
 
   void Form_Activate() override;
   void Form_Unload(bool& cancel) override;
-  void Form_KeyPress(int& key) override;
 
  private:
   void SetAllBoxes(bool value);
   void cmdSetALL_Click();
   void cmdClearAll_Click();
-  void cmdClose_Click();
+  void cmdClose_Click() override;
 
   frmMain& main_window_;
 };

@@ -5,7 +5,6 @@
 #include "app/main_window.h"
 #include "app/save_path.h"
 #include "app/text_file.h"
-#include "controls/keys.h"
 
 namespace tarnwick {
 namespace {
@@ -31,11 +30,10 @@ constexpr int kBeforeCopySelection = 1000;
 }  // namespace
 
 frmLog::frmLog(Desktop& desktop, Screen& screen, frmMain& main_window)
-    : Form(screen, "frmLog", "Log"), desktop_(desktop), main_window_(main_window) {
+    : ClosableForm(screen, "frmLog", "Log"), desktop_(desktop), main_window_(main_window) {
   cmdClear.on_click = [this] { cmdClear_Click(); };
   cmdCopyToClipboard.on_click = [this] { cmdCopyToClipboard_Click(); };
   cmdSaveAs.on_click = [this] { cmdSaveAs_Click(); };
-  cmdClose.on_click = [this] { cmdClose_Click(); };
   txbText.on_mouse_up = [this] { txbText_MouseUp(); };
   SetBounds(kInitialSize);
   Form_Resize();
@@ -116,9 +114,12 @@ void frmLog::cmdSaveAs_Click() {
   const auto file = AskWhereToSave(desktop_, title, "Tarnwick log.txt");
   if (!file) return;
   const std::string error = WriteTextFile(*file, txbText.Text());
-  if (error.empty()) return;
-  desktop_.ShowMessage(
-      {"Error when attempting to save the log: " + error, title, MessageIcon::kExclamation});
+  if (error.empty()) {
+    main_window_.notice.ShowOver(*this, "Saved");
+  } else {
+    desktop_.ShowMessage(
+        {"Error when attempting to save the log: " + error, title, MessageIcon::kExclamation});
+  }
 }
 
 void frmLog::cmdClose_Click() {
@@ -132,10 +133,6 @@ void frmLog::Form_Unload(bool& /*cancel*/) {
   main_window_.RefreshFunctions();
   main_window_.cmdViewLog.SetEnabled(false);
   main_window_.cmdLogThisResult.SetEnabled(false);
-}
-
-void frmLog::Form_KeyPress(int& key) {
-  if (key == kEscapeKey) cmdClose_Click();
 }
 
 }  // namespace tarnwick

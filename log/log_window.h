@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "controls/closable_form.h"
 #include "controls/controls.h"
 #include "controls/desktop.h"
-#include "controls/form.h"
 
 namespace tarnwick {
 
@@ -12,7 +12,7 @@ class frmMain;
 
 // The log: plain text that the program writes and the user may edit. Its text box is the only place
 // where it is kept.
-class frmLog final : public Form {
+class frmLog final : public ClosableForm {
  public:
   frmLog(Desktop& desktop, Screen& screen, frmMain& main_window);
 
@@ -20,7 +20,6 @@ class frmLog final : public Form {
   Button cmdClear{*this, "cmdClear", "Clear log"};
   Button cmdCopyToClipboard{*this, "cmdCopyToClipboard"};
   Button cmdSaveAs{*this, "cmdSaveAs", "Save as ..."};
-  Button cmdClose{*this, "cmdClose", "Close"};
 
   // Replaces the text and brings its end, the newest entry, into view.
   void ShowText(std::string text);
@@ -34,13 +33,12 @@ class frmLog final : public Form {
   void Form_Activate() override;
   void Form_Resize() override;
   void Form_Unload(bool& cancel) override;
-  void Form_KeyPress(int& key) override;
 
  private:
   void txbText_MouseUp();
   void cmdCopyToClipboard_Click();
   void cmdSaveAs_Click();
-  void cmdClose_Click();
+  void cmdClose_Click() override;
   void PlaceCopyButton(bool for_selection);
   void PlaceCloseButton();
 

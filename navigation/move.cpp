@@ -134,7 +134,7 @@ void frmMain::EndMove() {
 void frmMain::EnableDisableCommands(bool enable) {
   for (Control* control :
        std::initializer_list<Control*>{&fraMove, &cmdMove, &fraConvert, &cmdCompute, &cmdClearDate,
-                                       &fraSearch, &cmdSearch, &cmdReset}) {
+                                       &fraSearch, &cmdSearch, &cmdHelp, &cmdReset}) {
     control->SetEnabled(enable);
   }
   cmdViewLog.SetEnabled(enable && !log_window.IsEmpty());

@@ -103,17 +103,20 @@ void frmMain::RestoreState() {
   intStoredOffset = TimeZoneOffsetMinutes();
 }
 
+bool frmMain::SaveState() {
+  if (!state_file_) return true;
+  const std::string error = WriteTextFile(*state_file_, StateText(StateRecords()));
+  if (error.empty()) return true;
+  desktop_.ShowMessage({"Error when attempting to save the state: " + error, "Save state",
+                        MessageIcon::kExclamation});
+  return false;
+}
+
 void frmMain::cmdSaveState_Click() {
-  if (state_file_) {
-    const std::string error = WriteTextFile(*state_file_, StateText(StateRecords()));
-    if (!error.empty()) {
-      desktop_.ShowMessage({"Error when attempting to save the state: " + error, "Save state",
-                            MessageIcon::kExclamation});
-      return;
-    }
-  }
+  if (!SaveState()) return;
   RefreshFunctions();
   cmdSaveState.SetEnabled(false);
+  notice.ShowOver(*this, "Saved");
 }
 
 }  // namespace tarnwick

@@ -10,7 +10,8 @@ int main(int argc, char** argv) {
   int failures = 0;
   for (const auto suite :
        {tarnwick::RunBinderTests, tarnwick::RunBinderFormTests, tarnwick::RunBinderTextTests,
-        tarnwick::RunLogViewTests, tarnwick::RunMainWindowViewTests, tarnwick::RunMoonPicturesTests,
+        tarnwick::RunCalendarViewTests, tarnwick::RunHelpViewTests, tarnwick::RunLogViewTests,
+        tarnwick::RunMainWindowViewTests, tarnwick::RunMoonPicturesTests,
         tarnwick::RunNavigationViewTests, tarnwick::RunPictureViewTests,
         tarnwick::RunQtDesktopTests}) {
     failures += suite(argc, argv);

@@ -145,6 +145,8 @@ void MainWindowViewTest::tabKeyFollowsTheOrderOfUse() {
       "cmdReset",
       "cmdSaveState",
       "cboMonthCalendar",
+      "cmdDisplayCalendar",
+      "cmdHelp",
       "cmdQuit",
   };
   QCOMPARE(order, expected);

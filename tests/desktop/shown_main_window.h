@@ -28,6 +28,9 @@ class NotingDesktop final : public Desktop {
                                                    const std::string& /*suggestion*/) override {
     return std::nullopt;
   }
+  std::string SaveImage(const Control& /*area*/, const std::filesystem::path& /*file*/) override {
+    return {};
+  }
   std::optional<std::filesystem::path> StateFile() const override { return std::nullopt; }
   std::filesystem::path ProgramFolder() const override {
     return QCoreApplication::applicationDirPath().toStdString();

@@ -8,6 +8,8 @@ namespace tarnwick {
 int RunBinderTests(int argc, char** argv);
 int RunBinderFormTests(int argc, char** argv);
 int RunBinderTextTests(int argc, char** argv);
+int RunCalendarViewTests(int argc, char** argv);
+int RunHelpViewTests(int argc, char** argv);
 int RunLogViewTests(int argc, char** argv);
 int RunMainWindowViewTests(int argc, char** argv);
 int RunMoonPicturesTests(int argc, char** argv);

@@ -38,6 +38,9 @@ class DriverDesktop final : public Desktop {
   void SetClipboardText(const std::string& text) override { clipboard_ = text; }
   std::optional<std::filesystem::path> AskSavePath(const std::string& title,
                                                    const std::string& suggestion) override;
+  std::string SaveImage(const Control& /*area*/, const std::filesystem::path& /*file*/) override {
+    return "There is no screen.";
+  }
   std::optional<std::filesystem::path> StateFile() const override { return state_file_; }
   std::filesystem::path ProgramFolder() const override { return program_folder_; }
   void OpenWebPage(const std::string& /*address*/) override {}

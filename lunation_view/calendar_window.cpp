@@ -1,0 +1,134 @@
+#include "lunation_view/calendar_window.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "app/main_window.h"
+#include "app/save_path.h"
+#include "calendars/date_processing.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr Color kTitleColor{255, 255, 0};
+constexpr char kCaption[] = "Lunation calendar";
+
+}  // namespace
+
+frmCalendar::frmCalendar(Desktop& desktop, Screen& screen, frmMain& main_window)
+    : ClosableForm(screen, "frmCalendar", kCaption), desktop_(desktop), main_window_(main_window) {
+  lblTitle.SetForeColor(kTitleColor);
+  for (int column = 0; column < kGridColumns; ++column) {
+    lblWeekday[static_cast<std::size_t>(column)].SetCaption(WeekdayHeading(column));
+  }
+  for (std::size_t i = 0; i < kGridCells; ++i) {
+    imgMoon[i].on_click = lblDate[i].on_click = lblCEDate[i].on_click =
+        lblEvent[i].on_click = [this, i] { Cell_Click(i); };
+    HideCell(i);
+  }
+  constexpr const char* kDirections[] = {"previous", "next"};
+  for (int i = 0; i < 2; ++i) {
+    Button& button = cmdShowPreviousOrNext[static_cast<std::size_t>(i)];
+    button.SetCaption(std::string("Show ") + kDirections[i] + " lunation");
+    button.SetToolTipText(std::string("Display ") + kDirections[i] + " lunation");
+    button.on_click = [this, i] { cmdShowPreviousOrNext_Click(i); };
+  }
+  cmdSaveCalendarImage.on_click = [this] { cmdSaveCalendarImage_Click(); };
+}
+
+// A picture belongs to a cell, not to a date: "day1.gif" is that of the first cell.
+void frmCalendar::Form_Load() {
+  const std::filesystem::path folder = desktop_.ProgramFolder() / "assets" / "moon_pics";
+  for (int i = 0; i < kGridCells; ++i) {
+    if (!IsCellUsed(i)) continue;
+    const std::filesystem::path file = folder / ("day" + std::to_string(i + 1) + ".gif");
+    std::error_code error;
+    if (std::filesystem::exists(file, error)) {
+      imgMoon[static_cast<std::size_t>(i)].SetPicture(file);
+    } else {
+      main_window_.ReportMissingPicture(file);
+    }
+  }
+}
+
+void frmCalendar::Form_Activate() { cmdShowPreviousOrNext[1].SetFocus(); }
+
+GridReading frmCalendar::Reading() const {
+  return {main_window_.cboMonthCalendar.ListIndex(), main_window_.ReadingOffset()};
+}
+
+void frmCalendar::ShowCurrentLunation() {
+  lngLunation = LunationOfDay(main_window_.Moment(), Reading());
+  ShowLunation();
+}
+
+void frmCalendar::Refresh() {
+  if (Visible()) ShowLunation();
+}
+
+void frmCalendar::ShowLunation() {
+  grid_ = MakeLunationGrid(lngLunation, Reading());
+  lblTitle.SetCaption(grid_.title);
+  lblYearAndMonth.SetCaption(grid_.year_and_month);
+  const std::int32_t current_day =
+      SplitCJD(AJDToCJD(main_window_.Moment(), main_window_.ReadingOffset())).day_number;
+  for (std::size_t i = 0; i < kGridCells; ++i) {
+    if (grid_.cells[i]) {
+      ShowCell(i, current_day);
+    } else {
+      HideCell(i);
+    }
+  }
+}
+
+void frmCalendar::ShowCell(std::size_t index, std::int32_t current_day) {
+  const GridCell& cell = *grid_.cells[index];
+  lblDate[index].SetCaption(cell.date);
+  lblDate[index].SetForeColor(cell.day_number == current_day ? kSelectedColor : kUnselectedColor);
+  lblCEDate[index].SetCaption(cell.ce_date);
+  lblEvent[index].SetCaption(cell.event);
+  for (Control* control : std::initializer_list<Control*>{&imgMoon[index], &lblDate[index],
+                                                          &lblCEDate[index], &lblEvent[index]}) {
+    control->SetToolTipText(cell.tool_tip);
+    control->SetVisible(true);
+  }
+}
+
+void frmCalendar::HideCell(std::size_t index) {
+  for (Control* control : std::initializer_list<Control*>{&imgMoon[index], &lblDate[index],
+                                                          &lblCEDate[index], &lblEvent[index]}) {
+    control->SetVisible(false);
+  }
+}
+
+void frmCalendar::Cell_Click(std::size_t index) {
+  if (grid_.cells[index]) main_window_.TakeDay(grid_.cells[index]->day_number);
+}
+
+void frmCalendar::cmdShowPreviousOrNext_Click(int index) {
+  const bool next = index == 1;
+  if (lngLunation == (next ? kLastLunation : kFirstLunation)) {
+    desktop_.ShowMessage({std::string("This is the ") + (next ? "latest" : "earliest") +
+                              " lunation which can be displayed.",
+                          kCaption, MessageIcon::kInformation});
+    return;
+  }
+  lngLunation += next ? 1 : -1;
+  ShowLunation();
+}
+
+void frmCalendar::cmdSaveCalendarImage_Click() {
+  const std::string title = cmdSaveCalendarImage.Caption();
+  const auto file =
+      AskWhereToSave(desktop_, title, "lunation " + std::to_string(lngLunation) + ".png");
+  if (!file) return;
+  const std::string error = desktop_.SaveImage(fraCalendar, *file);
+  if (error.empty()) {
+    main_window_.notice.ShowOver(*this, "Saved");
+  } else {
+    desktop_.ShowMessage(
+        {"Error when attempting to save the image: " + error, title, MessageIcon::kExclamation});
+  }
+}
+
+}  // namespace tarnwick

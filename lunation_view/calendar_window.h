@@ -1,0 +1,56 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "controls/closable_form.h"
+#include "controls/control_array.h"
+#include "controls/controls.h"
+#include "controls/desktop.h"
+#include "lunation_view/lunation_grid.h"
+
+namespace tarnwick {
+
+class frmMain;
+
+// One lunation as a calendar page, in the calendar that the main window's list names.
+class frmCalendar final : public ClosableForm {
+ public:
+  frmCalendar(Desktop& desktop, Screen& screen, frmMain& main_window);
+
+  Frame fraCalendar{*this, "fraCalendar"};  // the page
+  Label lblTitle{fraCalendar, "lblTitle"};
+  Label lblYearAndMonth{fraCalendar, "lblYearAndMonth"};
+  ControlArray<Label, kGridColumns> lblWeekday{fraCalendar, "lblWeekday"};
+  // Of each cell: the Moon, the date in the chosen calendar and in CE, what happens on the day.
+  ControlArray<Picture, kGridCells> imgMoon{fraCalendar, "imgMoon"};
+  ControlArray<Label, kGridCells> lblDate{fraCalendar, "lblDate"};
+  ControlArray<Label, kGridCells> lblCEDate{fraCalendar, "lblCEDate"};
+  ControlArray<Label, kGridCells> lblEvent{fraCalendar, "lblEvent"};
+  ControlArray<Button, 2> cmdShowPreviousOrNext{*this, "cmdShowPreviousOrNext"};
+  Button cmdSaveCalendarImage{*this, "cmdSaveCalendarImage", "Save as PNG image"};
+
+  // Shows the lunation that the day of the current moment belongs to.
+  void ShowCurrentLunation();
+  // Draws the page again, if it is on display: a setting or the current moment has changed.
+  void Refresh();
+
+  void Form_Load() override;
+  void Form_Activate() override;
+
+ private:
+  GridReading Reading() const;
+  void ShowLunation();
+  void ShowCell(std::size_t index, std::int32_t current_day);
+  void HideCell(std::size_t index);
+  void Cell_Click(std::size_t index);
+  void cmdShowPreviousOrNext_Click(int index);
+  void cmdSaveCalendarImage_Click();
+
+  Desktop& desktop_;
+  frmMain& main_window_;
+  std::int32_t lngLunation = 0;
+  LunationGrid grid_;
+};
+
+}  // namespace tarnwick

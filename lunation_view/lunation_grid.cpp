@@ -1,0 +1,153 @@
+#include "lunation_view/lunation_grid.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "app/calendar_table.h"
+#include "app/date_texts.h"
+#include "calendars/date_processing.h"
+#include "lunation_view/month_calendar.h"
+#include "moon/phase_cache.h"
+#include "moon/syzyg.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kLunadayColumn = kGridColumns - 1;
+constexpr int kLastCell = kGridCells - 1;
+constexpr int kLongLunation = 30;
+// The place that the OLW calendar would have in the list; its day begins six hours late.
+constexpr int kOLWMonthCalendar = 4;
+constexpr std::array<std::string_view, 4> kPhaseNames{"Dark moon", "1st quarter", "Full moon",
+                                                      "Last quarter"};
+
+// The day of a moment, and its time of day.
+DayAndTime DayOf(double ajd, const GridReading& reading) {
+  const double shift = reading.calendar == kOLWMonthCalendar ? kOLWDayShift : 0;
+  return SplitCJD(AJDToCJD(ajd, reading.offset_minutes) - shift);
+}
+
+std::int32_t FirstDayOf(std::int32_t lunation, const GridReading& reading) {
+  return DayOf(FindPhaseEvent(lunation, 0).ut, reading).day_number;
+}
+
+// Something that happens on one of the days.
+struct DayEvent {
+  DayAndTime when;
+  std::string name;
+};
+
+void AddPhase(std::vector<DayEvent>& events, std::int32_t lunation, std::int16_t phase,
+              const GridReading& reading) {
+  const PhaseEvent& event = FindPhaseEvent(lunation, phase);
+  events.push_back(
+      {DayOf(event.ut, reading), std::string(kPhaseNames[static_cast<std::size_t>(phase)])});
+  if (event.eclipse.type == 0) return;
+  events.push_back({DayOf(UniversalTime(event.eclipse.greatest), reading),
+                    std::string(EclipseTypeText(static_cast<std::int16_t>(event.eclipse.type)))});
+}
+
+// With the new moon after the last day: its eclipse can be greatest before the midnight between.
+std::vector<DayEvent> EventsOf(std::int32_t lunation, const GridReading& reading) {
+  std::vector<DayEvent> events;
+  for (std::int16_t phase = 0; phase < 4; ++phase) AddPhase(events, lunation, phase, reading);
+  AddPhase(events, lunation + 1, 0, reading);
+  return events;
+}
+
+bool IsCellShown(int cell, std::int32_t length) {
+  return IsCellUsed(cell) && (cell != kLastCell || length == kLongLunation);
+}
+
+GridCell CellOf(std::int32_t day_number, const GridReading& reading,
+                const std::vector<DayEvent>& events) {
+  const double noon = CJDToAJD(day_number + 0.5, reading.offset_minutes);
+  const DateTexts ce = DateTextsOf(kCE, noon, reading.offset_minutes);
+  GridCell cell{
+      day_number, CalendarDayOf(reading.calendar, day_number).day, ce.short_form, "",
+      DateTextsOf(CalendarTableIndex(reading.calendar), noon, reading.offset_minutes).long_form +
+          "\n" + ce.long_form};
+  for (const DayEvent& event : events) {
+    if (event.when.day_number != day_number) continue;
+    cell.event += (cell.event.empty() ? "" : "\n") + event.name;
+    cell.tool_tip += "\n" + event.name + " " + TimeOfDayText(event.when.fraction, false);
+  }
+  return cell;
+}
+
+// A month as it follows others on a page, and how many of the days are its own.
+struct PageMonth {
+  std::string year;
+  std::string name;
+  int days = 0;
+};
+
+std::vector<PageMonth> MonthsOf(const LunationDays& days, int calendar) {
+  std::vector<PageMonth> months;
+  for (std::int32_t i = 0; i < days.length; ++i) {
+    const CalendarDay day = CalendarDayOf(calendar, days.first_day + i);
+    if (months.empty() || months.back().name != day.month || months.back().year != day.year) {
+      months.push_back({day.year, day.month, 0});
+    }
+    ++months.back().days;
+  }
+  return months;
+}
+
+std::string TitleOf(const LunationDays& days, const std::vector<PageMonth>& months, int calendar) {
+  const auto longest =
+      std::max_element(months.begin(), months.end(),
+                       [](const PageMonth& a, const PageMonth& b) { return a.days < b.days; });
+  const std::string text =
+      CalendarTableIndex(calendar) < 0 ? "Undefined calendar" : longest->name + " " + longest->year;
+  return "Lunation " + std::to_string(days.lunation) + " (" + text + ")";
+}
+
+std::string YearAndMonthOf(const std::vector<PageMonth>& months) {
+  std::string years;
+  std::string names;
+  for (std::size_t i = 0; i < months.size(); ++i) {
+    if (i == 0 || months[i].year != months[i - 1].year)
+      years += (i == 0 ? "" : "-") + months[i].year;
+    names += (i == 0 ? "" : "-") + months[i].name;
+  }
+  return names.empty() ? "" : years + " - " + names;
+}
+
+}  // namespace
+
+LunationDays DaysOfLunation(std::int32_t lunation, const GridReading& reading) {
+  const std::int32_t first_day = FirstDayOf(lunation, reading);
+  return {lunation, first_day, FirstDayOf(lunation + 1, reading) - first_day};
+}
+
+std::int32_t LunationOfDay(double ajd, const GridReading& reading) {
+  const std::int32_t day_number = DayOf(ajd, reading).day_number;
+  std::int32_t lunation = LunationOf(ajd);
+  // The new moon may come later on the same day.
+  if (FirstDayOf(lunation + 1, reading) <= day_number) ++lunation;
+  return std::clamp(lunation, kFirstLunation, kLastLunation);
+}
+
+LunationGrid MakeLunationGrid(std::int32_t lunation, const GridReading& reading) {
+  LunationGrid grid;
+  grid.days = DaysOfLunation(lunation, reading);
+  const std::vector<PageMonth> months = MonthsOf(grid.days, reading.calendar);
+  grid.title = TitleOf(grid.days, months, reading.calendar);
+  grid.year_and_month = YearAndMonthOf(months);
+  const std::vector<DayEvent> events = EventsOf(lunation, reading);
+  std::int32_t day_number = grid.days.first_day;
+  for (int i = 0; i < kGridCells; ++i) {
+    if (!IsCellShown(i, grid.days.length)) continue;
+    grid.cells[static_cast<std::size_t>(i)] = CellOf(day_number++, reading, events);
+  }
+  return grid;
+}
+
+std::string WeekdayHeading(int column) {
+  if (column == kLunadayColumn) return "Lunaday";
+  // Monday first; the names begin with Sunday.
+  return WeekdayName((column + 1) % 7).substr(0, 3) + "   ";
+}
+
+}  // namespace tarnwick

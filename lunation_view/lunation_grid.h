@@ -1,0 +1,62 @@
+// One lunation as a calendar page: 4 rows of 8 cells, each row a lunar week of seven days. A
+// "Lunaday" stands at the end of the second week and, in a lunation of 30 days, of the fourth.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tarnwick {
+
+inline constexpr int kGridColumns = 8;
+inline constexpr int kGridCells = 32;
+
+// The lunations of the accepted range of moments.
+inline constexpr std::int32_t kFirstLunation = -64316;
+inline constexpr std::int32_t kLastLunation = 49472;
+
+// How the days of a page are read.
+struct GridReading {
+  int calendar = 0;        // index in the list of month calendars
+  int offset_minutes = 0;  // of the time system, east of Greenwich
+};
+
+// The days from one new moon, inclusive, to the next.
+struct LunationDays {
+  std::int32_t lunation = 0;
+  std::int32_t first_day = 0;  // day number
+  std::int32_t length = 0;     // 29 or 30
+};
+
+LunationDays DaysOfLunation(std::int32_t lunation, const GridReading& reading);
+
+// The lunation whose days hold that of a moment (AJD, Universal Time), or the first or last one.
+std::int32_t LunationOfDay(double ajd, const GridReading& reading);
+
+struct GridCell {
+  std::int32_t day_number = 0;
+  std::string date;      // in the chosen calendar: "14 Sophia"
+  std::string ce_date;   // "2026-11-23 CE"
+  std::string event;     // principal phase and eclipse of the day, a line each
+  std::string tool_tip;  // both dates at length, the events with their times
+};
+
+struct LunationGrid {
+  LunationDays days;
+  std::string title;           // "Lunation 332 (Sophia 4723)"
+  std::string year_and_month;  // "4723 - Sophia-Dionysus": all that the lunation touches
+  std::array<std::optional<GridCell>, kGridCells> cells;  // nothing where none is shown
+};
+
+LunationGrid MakeLunationGrid(std::int32_t lunation, const GridReading& reading);
+
+// "Mon   " to "Sun   " and "Lunaday" for the columns. They count the days of the lunar week; the
+// days of the civil week fall otherwise.
+std::string WeekdayHeading(int column);
+
+// Whether the cell is ever shown: those at the end of the first and third week are not.
+constexpr bool IsCellUsed(int cell) { return cell != 7 && cell != 23; }
+
+}  // namespace tarnwick

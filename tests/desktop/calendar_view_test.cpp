@@ -1,0 +1,95 @@
+// The lunation calendar's window.
+#include "desktop/calendar_view.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+
+#include "desktop/qt_desktop.h"
+#include "tests/desktop/shown_main_window.h"
+#include "tests/desktop/suites.h"
+
+namespace tarnwick {
+
+class CalendarViewTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void pagesFit();
+  void dayIsTakenByMouseAndByKeyboard();
+  void imageHasTwiceTheResolution();
+};
+
+namespace {
+
+struct CalendarWindow {
+  CalendarWindow() {
+    main.form.cmdDisplayCalendar.Click();
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+  }
+
+  frmCalendar& Form() { return main.form.calendar_window; }
+  QWidget& WidgetOf(const Control& control) { return *view.WidgetOf(control); }
+
+  MainWindow main;
+  CalendarView view{main.form.calendar_window, main.gate};
+};
+
+}  // namespace
+
+void CalendarViewTest::pagesFit() {
+  CalendarWindow calendar;
+  const QSize size = calendar.view.size();
+  for (int list = 0; list < 4; ++list) {
+    calendar.main.form.cboMonthCalendar.SetListIndex(list);
+    for (int i = 0; i < 2; ++i) calendar.Form().cmdShowPreviousOrNext[1].Click();
+    QCoreApplication::processEvents();
+    VerifyNothingIsClipped(calendar.view);
+  }
+  Label& event = calendar.Form().lblEvent[0];
+  event.SetCaption("Dark moon\nNon-central annular solar eclipse");
+  QCoreApplication::processEvents();
+  const auto& shown = *qobject_cast<QLabel*>(&calendar.WidgetOf(event));
+  QVERIFY(shown.heightForWidth(shown.width()) <= shown.height());
+  QCOMPARE(calendar.view.size(), size);
+}
+
+void CalendarViewTest::dayIsTakenByMouseAndByKeyboard() {
+  CalendarWindow calendar;
+  const Label& shown = calendar.main.form.lblCommonEraDate[1];
+  QTest::mouseClick(&calendar.WidgetOf(calendar.Form().imgMoon[0]), Qt::LeftButton);
+  QCOMPARE(shown.Caption(), "2024-02-09 CE (Friday, February 9, 2024)");
+  QTest::keyClick(&calendar.WidgetOf(calendar.Form().lblDate[31]), Qt::Key_Return);
+  QCOMPARE(shown.Caption(), "2024-03-09 CE (Saturday, March 9, 2024)");
+}
+
+void CalendarViewTest::imageHasTwiceTheResolution() {
+  CalendarWindow calendar;
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QString::fromUtf8("Mond \xC3\xA9.png"));
+  QtDesktop desktop(calendar.main.gate);
+  const Frame& page = calendar.Form().fraCalendar;
+  QCOMPARE(desktop.SaveImage(page, file.toStdU16String()), "");
+  const QImage saved(file);
+  const QWidget& widget = calendar.WidgetOf(page);
+  QCOMPARE(saved.size(), 2 * widget.size());
+
+  // The Moon itself is drawn finer, not the screen's pixels doubled.
+  const QWidget& moon = calendar.WidgetOf(calendar.Form().imgMoon[18]);
+  const QPoint corner = 2 * moon.mapTo(&widget, moon.rect().center() - QPoint(15, 15));
+  int fine = 0;
+  for (int y = 0; y < 60; y += 2) {
+    for (int x = 0; x < 60; x += 2) {
+      const QPoint at = corner + QPoint(x, y);
+      fine += saved.pixel(at) != saved.pixel(at + QPoint(1, 0)) ? 1 : 0;
+    }
+  }
+  QVERIFY2(fine > 600, qPrintable(QString::number(fine)));
+
+  QVERIFY(!desktop.SaveImage(page, folder.filePath("no folder/a.png").toStdU16String()).empty());
+}
+
+int RunCalendarViewTests(int argc, char** argv) { return Run<CalendarViewTest>(argc, argv); }
+
+}  // namespace tarnwick
+
+#include "calendar_view_test.moc"

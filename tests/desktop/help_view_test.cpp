@@ -1,0 +1,95 @@
+// The windows of the help, and the notice.
+#include "desktop/help_view.h"
+
+#include <QListWidget>
+#include <QTextBrowser>
+
+#include "tests/desktop/shown_main_window.h"
+#include "tests/desktop/suites.h"
+
+namespace tarnwick {
+
+class HelpViewTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void keysOpenTheHelpAndTurnItsPages();
+  void pagesShowNoMarks();
+  void noticeGoesByItselfAndOnAClick();
+};
+
+namespace {
+
+struct HelpWindow {
+  HelpWindow() {
+    QVERIFY(QTest::qWaitForWindowActive(&main.view));
+    QTest::keyClick(&main.view, Qt::Key_F1);
+    QTRY_VERIFY(view.isVisible());  // a button pressed by a key stays down for a moment
+    QVERIFY(QTest::qWaitForWindowActive(&view));
+  }
+
+  QListWidget& Pages() {
+    return *qobject_cast<QListWidget*>(view.WidgetOf(main.form.help_window.lstPages));
+  }
+  QString Shown() {
+    return qobject_cast<QTextBrowser*>(view.WidgetOf(main.form.help_window.lblText))->toPlainText();
+  }
+
+  MainWindow main;
+  HelpView view{main.form.help_window, main.gate};
+};
+
+}  // namespace
+
+void HelpViewTest::keysOpenTheHelpAndTurnItsPages() {
+  HelpWindow help;
+  QVERIFY(help.Pages().hasFocus());
+  const QString first = help.Shown();
+  QVERIFY(first.contains("The current moment"));
+  QTest::keyClick(&help.Pages(), Qt::Key_Down);
+  QCOMPARE(help.main.form.help_window.lstPages.ListIndex(), 1);
+  QVERIFY(help.Shown() != first);
+  QTest::keyClick(&help.view, Qt::Key_Escape);
+  QVERIFY(!help.view.isVisible());
+}
+
+void HelpViewTest::pagesShowNoMarks() {
+  HelpWindow help;
+  CreditsView credits(help.main.form.help_window.credits_window, help.main.gate);
+  help.main.form.help_window.cmdCredits.Click();
+  QStringList texts{credits.findChild<QTextBrowser*>()->toPlainText()};
+  for (int page = 0; page < help.Pages().count(); ++page) {
+    help.Pages().setCurrentRow(page);
+    texts << help.Shown();
+  }
+  for (const QString& text : texts) {
+    QVERIFY(text.size() > 200);
+    for (const QString& line : text.split('\n')) {
+      QVERIFY2(!line.startsWith("# ") && !line.startsWith("- "), qPrintable(line));
+    }
+  }
+  VerifyNothingIsClipped(help.view);
+  VerifyNothingIsClipped(credits);
+}
+
+void HelpViewTest::noticeGoesByItselfAndOnAClick() {
+  MainWindow main;
+  NoticeView notice(main.form.notice, main.gate);
+  QVERIFY(QTest::qWaitForWindowActive(&main.view));
+  main.form.cmdSaveState.Click();
+  QVERIFY(notice.isVisible());
+  QCOMPARE(QApplication::focusWidget()->objectName(), "cmdMove");  // as saving leaves it
+  QTest::mouseClick(notice.findChild<QWidget*>("lblNotice"), Qt::LeftButton);
+  QVERIFY(!notice.isVisible());
+
+  main.form.notice.tmrNotice.SetInterval(20);
+  main.form.notice.ShowOver(main.form, "Saved");
+  QVERIFY(notice.isVisible());
+  QTRY_VERIFY(!notice.isVisible());
+}
+
+int RunHelpViewTests(int argc, char** argv) { return Run<HelpViewTest>(argc, argv); }
+
+}  // namespace tarnwick
+
+#include "help_view_test.moc"
