@@ -24,8 +24,8 @@ StateRecord RecordOf(CheckBox& box) {
   return {[&box] { return NumberRecord(std::int16_t{box.Value()}); },
           [&box](StateReader& reader) {
             const auto value = reader.ReadInteger();
-            if (value != 0 && value != 1) return false;
-            box.SetValue(value == 1);
+            if (!value || (*value != 0 && *value != 1)) return false;
+            box.SetValue(*value == 1);
             return true;
           }};
 }
@@ -34,8 +34,8 @@ StateRecord RecordOf(OptionButton& first, OptionButton& other) {
   return {[&first] { return NumberRecord(first.Value() ? kTrue : std::int16_t{0}); },
           [&first, &other](StateReader& reader) {
             const auto value = reader.ReadInteger();
-            if (value != kTrue && value != 0) return false;
-            (value == kTrue ? first : other).SetValue(true);
+            if (!value || (*value != kTrue && *value != 0)) return false;
+            (*value == kTrue ? first : other).SetValue(true);
             return true;
           }};
 }
