@@ -138,10 +138,7 @@ void frmMain::FillLists() {
   cboTarget.SetListIndex(kTotalSolarTarget);
   for (const char* const seconds : {"0.2", "0.5", "1", "2", "5"}) cboRefreshPeriod.AddItem(seconds);
   cboRefreshPeriod.SetListIndex(kOneSecondPeriod);
-  for (const char* const dates : {"Archetypes Calendar dates", "Sarvik-Dolmer Solilunar dates",
-                                  "Kestrin-Sarvik Goddess dates", "Lunar Liberalia Triday dates"}) {
-    cboMonthCalendar.AddItem(dates);
-  }
+  for (const std::string_view dates : kMonthCalendars) cboMonthCalendar.AddItem(std::string(dates));
   cboMonthCalendar.SetListIndex(0);
 }
 

@@ -16,7 +16,7 @@ bool UserReplaces(Desktop& desktop, const std::string& title, const std::filesys
 
 std::optional<std::filesystem::path> AskWhereToSave(Desktop& desktop, const std::string& title,
                                                     const std::string& suggestion) {
-  while (const auto file = desktop.AskSavePath(title, suggestion)) {
+  while (auto file = desktop.AskSavePath(title, suggestion)) {
     std::error_code error;
     if (!std::filesystem::exists(*file, error) || UserReplaces(desktop, title, *file)) return file;
   }

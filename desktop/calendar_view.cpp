@@ -25,9 +25,11 @@ constexpr Wording kWordings[] = {
     {"cmdClose", 'C', ""},
 };
 
+constexpr double kSmall = 0.85;  // of the font
 constexpr int kPictureLines = 4;
 constexpr int kEventLines = 3;  // a phase, and an eclipse that takes two
 constexpr char kLongestDate[] = "10-3 Mellephan.";
+constexpr char kLongestEventLine[] = "Non-central annular";
 
 QFont Resized(const QFont& font, double factor) {
   QFont resized = font;
@@ -108,14 +110,16 @@ QWidget* CalendarView::MakePage() {
 }
 
 void CalendarView::AddHeadings(QGridLayout& grid, QWidget* page) {
+  const QFontMetrics small(Resized(font(), kSmall));
+  const int widest = qMax(fontMetrics().horizontalAdvance(kLongestDate),
+                          small.horizontalAdvance(kLongestEventLine));
   for (int column = 0; column < kGridColumns; ++column) {
     QLabel* heading = MakeText(1, page);
     binder_.Bind(form_.lblWeekday[static_cast<std::size_t>(column)], *heading);
     SetTextColor(*heading, Look::kCaption);
     grid.addWidget(heading, 0, column);
     grid.setColumnStretch(column, 1);
-    grid.setColumnMinimumWidth(column,
-                               fontMetrics().horizontalAdvance(kLongestDate) + 2 * Spacing(*this));
+    grid.setColumnMinimumWidth(column, widest + 2 * Spacing(*this));
   }
 }
 
@@ -132,11 +136,11 @@ QWidget* CalendarView::MakeCell(std::size_t index, QWidget* page) {
   auto* date = new LinkLabel(LinkLabel::Kind::kValue, cell);
   binder_.Bind(form_.lblDate[index], *date);
   rows->addWidget(date, 0, Qt::AlignHCenter);
-  QLabel* ce_date = MakeText(0.85, cell);
+  QLabel* ce_date = MakeText(kSmall, cell);
   binder_.Bind(form_.lblCEDate[index], *ce_date);
   SetTextColor(*ce_date, Look::kCaption);
   rows->addWidget(ce_date);
-  QLabel* event = MakeText(0.85, cell);
+  QLabel* event = MakeText(kSmall, cell);
   event->setWordWrap(true);
   // A line of several takes a little more than the height of the font.
   event->setFixedHeight((3 * kEventLines + 1) * event->fontMetrics().height() / 3);

@@ -20,6 +20,7 @@ QWidget* MainWindowView::MakeHistoryPanel() {
   ReserveWidth(*entries, kLongestEntry);
   binder_.Bind(form_.cboHistory, *entries);
   panel->Content().addWidget(entries);
+  panel->Content().addStretch();
   return panel;
 }
 

@@ -24,6 +24,7 @@ QWidget* MainWindowView::MakeLogPanel() {
     row->addWidget(MakeButton(binder_, *button, panel));
   }
   panel->Content().addLayout(row);
+  panel->Content().addStretch();
   return panel;
 }
 

@@ -15,7 +15,7 @@ constexpr Wording kWordings[] = {
 };
 
 // The buttons stand side by side, even with the longest caption of the one that changes.
-constexpr QSize kSmallest{730, 240};
+constexpr QSize kSmallest{810, 240};
 
 QFont FixedPitch(const QFont& like) {
   QFont font = like;

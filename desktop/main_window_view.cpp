@@ -6,9 +6,11 @@
 #include <QVBoxLayout>
 
 #include "desktop/bound_widgets.h"
+#include "desktop/characters.h"
 #include "desktop/look.h"
 #include "desktop/panel.h"
 #include "desktop/twips.h"
+#include "lunation_view/month_calendar.h"
 
 namespace tarnwick {
 namespace {
@@ -69,7 +71,14 @@ constexpr Wording kWordings[] = {
     {"cmdQuit", 'Q', ""},
 };
 
-constexpr char kLongestCalendar[] = "Kestrin-Sarvik Goddess dates";
+QString WidestCalendar(const QFontMetrics& font) {
+  QString widest;
+  for (const std::string_view dates : kMonthCalendars) {
+    const QString text = ToQt(std::string(dates));
+    if (font.horizontalAdvance(text) > font.horizontalAdvance(widest)) widest = text;
+  }
+  return widest;
+}
 
 }  // namespace
 
@@ -124,7 +133,7 @@ QWidget* MainWindowView::MakeButtons() {
   row->addWidget(MakeButton(binder_, form_.cmdSaveState, area));
   row->addStretch();
   auto* calendars = new QComboBox(area);
-  ReserveWidth(*calendars, kLongestCalendar);
+  ReserveWidth(*calendars, WidestCalendar(calendars->fontMetrics()));
   binder_.Bind(form_.cboMonthCalendar, *calendars);
   row->addWidget(calendars);
   row->addWidget(MakeButton(binder_, form_.cmdDisplayCalendar, area));

@@ -12,15 +12,15 @@ namespace {
 constexpr std::size_t kCapacity = 1'000'000;  // characters
 
 // Places and sizes in twips.
-constexpr Bounds kInitialSize{0, 0, 12600, 6600};
+constexpr Bounds kInitialSize{0, 0, 13200, 6600};
 constexpr int kMargin = 150;
 constexpr int kTextMargins = 300;   // left and right of the text
 constexpr int kBelowText = 700;     // beside the height of the buttons
 constexpr int kAboveButtons = 350;  // as much as below them
 constexpr int kButtonHeight = 495;
-constexpr int kClearWidth = 1650;
-constexpr int kSaveAsWidth = 1650;
-constexpr int kCloseWidth = 1350;
+constexpr int kClearWidth = 2100;
+constexpr int kSaveAsWidth = 2100;
+constexpr int kCloseWidth = 1650;
 constexpr int kRightOfClose = 210;
 constexpr int kCopyWidth = 3270;
 constexpr int kCopySelectionWidth = 4425;

@@ -4,6 +4,8 @@
 #include "tests/desktop/suites.h"
 
 int main(int argc, char** argv) {
+  // Only Qt's own dialogs can be driven by a test.
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   tarnwick::ApplyLook();
