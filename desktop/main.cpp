@@ -1,6 +1,9 @@
 #include <QApplication>
+#include <QFileInfo>
+#include <QIcon>
 #include <QMessageBox>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 
 #include "app/main_window.h"
@@ -33,10 +36,13 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("tarnwick");
   QApplication::setQuitOnLastWindowClosed(false);  // the main window's form ends the program
+  QApplication::setDesktopFileName("tarnwick");
   tarnwick::ApplyLook();
 
   tarnwick::HandlerGate gate(EndWithFault);
   tarnwick::QtDesktop desktop(gate);
+  const std::filesystem::path icon = desktop.ProgramFolder() / "assets" / "icon" / "tarnwick.png";
+  QApplication::setWindowIcon(QIcon(QFileInfo(icon).filePath()));
   tarnwick::Screen screen;
   tarnwick::frmMain form(desktop, screen);
   tarnwick::MainWindowView view(form, gate);

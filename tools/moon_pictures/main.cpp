@@ -1,5 +1,5 @@
 // Draws the pictures of the Moon that the program shows: the four that it makes any phase from, as
-// BMP, and those of the days of a lunation, as PNG.
+// BMP, and those of the days of a lunation and of its icon, as PNG.
 // usage: tarnwick_moon_pictures FOLDER
 #include <QImage>
 #include <cmath>
@@ -21,6 +21,8 @@ constexpr int kCells = 32;
 constexpr int kFirstEmptyCell = 7;
 constexpr int kSecondEmptyCell = 23;
 constexpr int kDayWidth = 160;
+constexpr int kIconWidth = 256;
+constexpr MoonPhase kIconPhase{0.4, true};
 
 // The mean phase at noon of the day in a cell.
 MoonPhase PhaseOfCell(int cell) {
@@ -62,5 +64,8 @@ int main(int argc, char** argv) {
     std::cerr << "usage: tarnwick_moon_pictures FOLDER\n";
     return EXIT_FAILURE;
   }
-  return WritePhases(argv[1]) && WriteDays(argv[1]) ? EXIT_SUCCESS : EXIT_FAILURE;
+  const std::string folder = argv[1];
+  const bool written = WritePicture(folder + "/icon.png", kIconWidth, kIconPhase) &&
+                       WritePhases(folder) && WriteDays(folder);
+  return written ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -21,3 +21,11 @@ for drawing in "$work"/pictures/day*.png; do
     "assets/moon_pics/$(basename "$drawing" .png).gif"
 done
 cp "$work"/pictures/*.bmp assets/
+
+# The icon is the disc alone, for the sky of any desktop.
+mkdir -p assets/icon
+convert "$work/pictures/icon.png" \
+  \( -size 256x256 xc:black -fill white -draw 'circle 127.5,127.5 127.5,5' \) \
+  -alpha off -compose CopyOpacity -composite -strip assets/icon/tarnwick.png
+convert assets/icon/tarnwick.png -define icon:auto-resize=256,64,48,40,32,24,20,16 \
+  assets/icon/tarnwick.ico
