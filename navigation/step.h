@@ -17,8 +17,9 @@ std::int16_t StepCalendar(int step);
 
 // The moment (AJD) one step on or back, read and written `offset_minutes` east of Greenwich. Steps
 // of minutes, hours and days are plain; the others change the date and keep the time of day. A date
-// that does not exist is lowered to the nearest before it that does. OLW steps start from the
-// displayed OLW date, `olw_date`, "5011-03-2-4".
+// that does not exist is lowered to the nearest before it that does; but month 13 of an ARC year
+// without one, going on, becomes month 1 of the next. OLW steps start from the displayed OLW date,
+// `olw_date`, "5011-03-2-4".
 // Throws RuntimeError when a number of the new date does not fit its field.
 double StepMoment(int step, bool forward, double ajd, int offset_minutes,
                   std::string_view olw_date);
