@@ -30,6 +30,10 @@ groups=(run test)
 [[ $preset == windows ]] && groups+=(windows)
 scripts/packages.sh "${groups[@]}"
 
+if [[ $preset == windows ]]; then
+  TARNWICK_WINDOWS_QT=${TARNWICK_WINDOWS_QT:-$(packaging/windows/qt.sh)}
+  export TARNWICK_WINDOWS_QT
+fi
 cmake --preset "$preset"
 cmake --build --preset "$preset"
 if $build_only; then exit 0; fi

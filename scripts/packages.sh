@@ -1,6 +1,7 @@
 #!/bin/bash
 # Installs what is missing of the named groups of Debian packages.
-# usage: scripts/packages.sh GROUP...     groups: run, screen, test, windows, check
+# usage: scripts/packages.sh GROUP...     groups: run, screen, test, windows, windows-qt,
+#                                           package-windows, package-linux, drive, check
 set -euo pipefail
 
 packages_of() {
@@ -8,7 +9,11 @@ packages_of() {
     run) echo g++ cmake ninja-build ccache qt6-base-dev libgl1-mesa-dev fonts-dejavu-core ;;
     screen) echo xvfb xauth imagemagick ;;
     test) echo googletest libbenchmark-dev ;;
-    windows) echo g++-mingw-w64-x86-64-posix wine64 ;;
+    windows) echo g++-mingw-w64-x86-64-posix wine64 fonts-liberation xvfb xauth ;;
+    windows-qt) echo g++ g++-mingw-w64-x86-64-posix qt6-base-dev cmake ninja-build dpkg-dev patch xz-utils ;;
+    package-windows) echo zip nsis ;;
+    package-linux) echo dpkg-dev file ;;
+    drive) echo openbox xdotool imagemagick unzip ;;
     check) echo clang-format clang-tidy ;;
     *)
       echo "$0: unknown group: $1" >&2
