@@ -12,6 +12,7 @@
 #include "desktop/link_label.h"
 #include "desktop/look.h"
 #include "desktop/mirror.h"
+#include "desktop/panel.h"
 #include "desktop/picture_view.h"
 
 namespace tarnwick {
@@ -72,10 +73,7 @@ class CellView final : public QWidget {
 
 CalendarView::CalendarView(frmCalendar& form, HandlerGate& gate)
     : form_(form), binder_(gate, kWordings) {
-  const int space = Spacing(*this);
-  auto* rows = new QVBoxLayout(this);
-  rows->setContentsMargins(space, space, space, space);
-  rows->setSpacing(space);
+  QVBoxLayout* rows = MakeSections(*this);
   rows->addWidget(MakePage(), 1);
   rows->addWidget(MakeButtons());
   resize(sizeHint());
@@ -156,10 +154,8 @@ QWidget* CalendarView::MakeCell(std::size_t index, QWidget* page) {
 }
 
 QWidget* CalendarView::MakeButtons() {
-  auto* area = new QWidget(this);
-  auto* row = new QHBoxLayout(area);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(Spacing(*this));
+  QWidget* area = MakeArea(Spacing(*this), this);
+  auto* row = static_cast<QHBoxLayout*>(area->layout());
   for (Button& button : form_.cmdShowPreviousOrNext) {
     row->addWidget(MakeButton(binder_, button, area));
   }

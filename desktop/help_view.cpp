@@ -10,6 +10,7 @@
 #include "desktop/bound_widgets.h"
 #include "desktop/link_label.h"
 #include "desktop/look.h"
+#include "desktop/panel.h"
 
 namespace tarnwick {
 namespace {
@@ -37,18 +38,10 @@ QTextBrowser* MakePage(Binder& binder, Label& text, QWidget* parent) {
   return page;
 }
 
-QVBoxLayout* MakeRows(QWidget& window) {
-  const int space = Spacing(window);
-  auto* rows = new QVBoxLayout(&window);
-  rows->setContentsMargins(space, space, space, space);
-  rows->setSpacing(space);
-  return rows;
-}
-
 }  // namespace
 
 HelpView::HelpView(frmHelp& form, HandlerGate& gate) : form_(form), binder_(gate, kHelpWordings) {
-  QVBoxLayout* rows = MakeRows(*this);
+  QVBoxLayout* rows = MakeSections(*this);
   rows->addWidget(MakePages(), 1);
   rows->addWidget(MakeButtons());
   resize(kHelpSize * fontMetrics().height());
@@ -56,10 +49,8 @@ HelpView::HelpView(frmHelp& form, HandlerGate& gate) : form_(form), binder_(gate
 }
 
 QWidget* HelpView::MakePages() {
-  auto* area = new QWidget(this);
-  auto* columns = new QHBoxLayout(area);
-  columns->setContentsMargins(0, 0, 0, 0);
-  columns->setSpacing(Spacing(*this));
+  QWidget* area = MakeArea(Spacing(*this), this);
+  auto* columns = static_cast<QHBoxLayout*>(area->layout());
   auto* pages = new QListWidget(area);
   pages->setSpacing(Spacing(*this) / 4);
   binder_.Bind(form_.lstPages, *pages);
@@ -70,9 +61,8 @@ QWidget* HelpView::MakePages() {
 }
 
 QWidget* HelpView::MakeButtons() {
-  auto* area = new QWidget(this);
-  auto* row = new QHBoxLayout(area);
-  row->setContentsMargins(0, 0, 0, 0);
+  QWidget* area = MakeArea(Spacing(*this), this);
+  auto* row = static_cast<QHBoxLayout*>(area->layout());
   row->addWidget(MakeButton(binder_, form_.cmdCredits, area));
   row->addStretch();
   row->addWidget(MakeButton(binder_, form_.cmdClose, area));
@@ -80,7 +70,7 @@ QWidget* HelpView::MakeButtons() {
 }
 
 CreditsView::CreditsView(frmCredits& form, HandlerGate& gate) : binder_(gate, kCreditsWordings) {
-  QVBoxLayout* rows = MakeRows(*this);
+  QVBoxLayout* rows = MakeSections(*this);
   rows->addWidget(MakePage(binder_, form.lblText, this), 1);
   auto* row = new QHBoxLayout;
   row->addWidget(MakeButton(binder_, form.cmdWebPage, this));

@@ -35,10 +35,7 @@ constexpr Wording kWordings[] = {
 
 LogPreferencesView::LogPreferencesView(frmLogPreferences& form, HandlerGate& gate)
     : form_(form), binder_(gate, kWordings) {
-  const int space = Spacing(*this);
-  auto* sections = new QVBoxLayout(this);
-  sections->setContentsMargins(space, space, space, space);
-  sections->setSpacing(space);
+  QVBoxLayout* sections = MakeSections(*this);
   sections->addWidget(MakeIncludePanel(), 1);
   sections->addWidget(MakeFormatPanel());
   sections->addWidget(MakeButtons());

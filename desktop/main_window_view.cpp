@@ -85,9 +85,7 @@ QString WidestCalendar(const QFontMetrics& font) {
 MainWindowView::MainWindowView(frmMain& form, HandlerGate& gate)
     : form_(form), binder_(gate, kWordings) {
   const int space = Spacing(*this);
-  auto* sections = new QVBoxLayout(this);
-  sections->setContentsMargins(space, space, space, space);
-  sections->setSpacing(space);
+  QVBoxLayout* sections = MakeSections(*this);
   sections->addWidget(MakeConvertPanel());
 
   auto* moment = new QHBoxLayout;

@@ -39,6 +39,14 @@ void Panel::paintEvent(QPaintEvent* /*event*/) {
   painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }
 
+QVBoxLayout* MakeSections(QWidget& window) {
+  const int space = Spacing(window);
+  auto* sections = new QVBoxLayout(&window);
+  sections->setContentsMargins(space, space, space, space);
+  sections->setSpacing(space);
+  return sections;
+}
+
 QWidget* MakeArea(int spacing, QWidget* parent) {
   auto* area = new QWidget(parent);
   auto* row = new QHBoxLayout(area);

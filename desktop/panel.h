@@ -28,6 +28,9 @@ class Panel : public QWidget {
   QVBoxLayout* content_;
 };
 
+// The column in which the sections of a window stand.
+QVBoxLayout* MakeSections(QWidget& window);
+
 // A row of widgets that are disabled and hidden together; option buttons in it exclude each other.
 QWidget* MakeArea(int spacing, QWidget* parent);
 
