@@ -1,9 +1,9 @@
 // Entry of a moment: the date box, the days to add or subtract, Compute and Clear.
 #include <cmath>
 
-#include "app/entry_parser.h"
 #include "app/main_window.h"
 #include "calendars/date_processing.h"
+#include "calendars/entry_parser.h"
 #include "calendars/text.h"
 #include "controls/keys.h"
 

@@ -1,7 +1,7 @@
 // The current moment in every calendar, and the labels that copy a date back to the entry box.
-#include "app/date_texts.h"
 #include "app/main_window.h"
 #include "calendars/date_processing.h"
+#include "calendars/date_texts.h"
 #include "calendars/text.h"
 
 namespace tarnwick {

@@ -1,8 +1,8 @@
 #include "app/main_window.h"
 
-#include "app/product.h"
-#include "app/time_zone.h"
+#include "controls/product.h"
 #include "lunation_view/month_calendar.h"
+#include "moment/time_zone.h"
 #include "moon/syzyg.h"
 #include "navigation/step.h"
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "app/calendar_table.h"
+#include "calendars/calendar_table.h"
 #include "controls/control_array.h"
 #include "controls/controls.h"
 #include "controls/desktop.h"

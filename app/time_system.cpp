@@ -1,8 +1,8 @@
 // Greenwich or local time, the time zone, and the running clock.
 #include "app/main_window.h"
-#include "app/time_zone.h"
 #include "calendars/date_processing.h"
 #include "calendars/text.h"
+#include "moment/time_zone.h"
 
 namespace tarnwick {
 namespace {

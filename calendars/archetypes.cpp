@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-#include "calendars/checked_arithmetic.h"
+#include "engines/checked_arithmetic.h"
 #include "engines/floor_division.h"
 
 namespace tarnwick {

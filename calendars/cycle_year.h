@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "calendars/checked_arithmetic.h"
+#include "engines/checked_arithmetic.h"
 
 namespace tarnwick {
 

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <cstddef>
 
-#include "calendars/checked_arithmetic.h"
 #include "calendars/text.h"
+#include "engines/checked_arithmetic.h"
 
 namespace tarnwick {
 namespace {

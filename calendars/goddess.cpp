@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <utility>
 
-#include "calendars/checked_arithmetic.h"
 #include "calendars/date_processing.h"
 #include "calendars/text.h"
+#include "engines/checked_arithmetic.h"
 #include "engines/date_fields.h"
 #include "engines/floor_division.h"
 

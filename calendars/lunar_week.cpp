@@ -4,9 +4,9 @@
 #include <cmath>
 #include <cstddef>
 
-#include "calendars/checked_arithmetic.h"
 #include "calendars/equinoxes.h"
 #include "calendars/text.h"
+#include "engines/checked_arithmetic.h"
 #include "engines/date_engine.h"
 #include "engines/date_fields.h"
 #include "moon/syzyg.h"

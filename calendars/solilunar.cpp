@@ -4,9 +4,9 @@
 #include <array>
 #include <cstddef>
 
-#include "calendars/checked_arithmetic.h"
 #include "calendars/cycle_year.h"
 #include "calendars/text.h"
+#include "engines/checked_arithmetic.h"
 
 namespace tarnwick {
 namespace {

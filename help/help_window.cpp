@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/product.h"
+#include "controls/product.h"
 #include "help/help_text.h"
 
 namespace tarnwick {

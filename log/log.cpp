@@ -1,7 +1,7 @@
 // The log, as the main window writes and opens it.
 #include "app/main_window.h"
-#include "app/product.h"
-#include "calendars/checked_arithmetic.h"
+#include "controls/product.h"
+#include "engines/checked_arithmetic.h"
 #include "log/log_entry.h"
 
 namespace tarnwick {

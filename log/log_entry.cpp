@@ -1,7 +1,7 @@
 #include "log/log_entry.h"
 
-#include "app/calendar_table.h"
-#include "calendars/checked_arithmetic.h"
+#include "calendars/calendar_table.h"
+#include "engines/checked_arithmetic.h"
 
 namespace tarnwick {
 namespace {

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "app/main_window.h"
-#include "app/save_path.h"
-#include "app/text_file.h"
+#include "controls/save_path.h"
+#include "controls/text_file.h"
 
 namespace tarnwick {
 namespace {

@@ -4,8 +4,8 @@
 #include <system_error>
 
 #include "app/main_window.h"
-#include "app/save_path.h"
 #include "calendars/date_processing.h"
+#include "controls/save_path.h"
 
 namespace tarnwick {
 namespace {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <vector>
 
-#include "app/calendar_table.h"
-#include "app/date_texts.h"
+#include "calendars/calendar_table.h"
 #include "calendars/date_processing.h"
+#include "calendars/date_texts.h"
 #include "lunation_view/month_calendar.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"

@@ -1,6 +1,6 @@
 #include "lunation_view/month_calendar.h"
 
-#include "app/calendar_table.h"
+#include "calendars/calendar_table.h"
 #include "calendars/day_date.h"
 
 namespace tarnwick {

@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-#include "calendars/checked_arithmetic.h"
+#include "engines/checked_arithmetic.h"
 #include "engines/date_engine.h"
 #include "moon/phase_cache.h"
 

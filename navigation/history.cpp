@@ -2,10 +2,10 @@
 #include <cmath>
 #include <string_view>
 
-#include "app/entry_parser.h"
 #include "app/main_window.h"
-#include "app/time_zone.h"
+#include "calendars/entry_parser.h"
 #include "calendars/text.h"
+#include "moment/time_zone.h"
 #include "moon/phase_cache.h"
 #include "navigation/step.h"
 

@@ -2,10 +2,10 @@
 #include <cmath>
 #include <initializer_list>
 
-#include "app/entry_parser.h"
 #include "app/main_window.h"
-#include "calendars/checked_arithmetic.h"
+#include "calendars/entry_parser.h"
 #include "calendars/text.h"
+#include "engines/checked_arithmetic.h"
 #include "navigation/step.h"
 
 namespace tarnwick {

@@ -3,10 +3,10 @@
 #include <string_view>
 
 #include "app/main_window.h"
-#include "calendars/checked_arithmetic.h"
 #include "calendars/date_processing.h"
 #include "calendars/text.h"
 #include "controls/keys.h"
+#include "engines/checked_arithmetic.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
 #include "navigation/eclipse_description.h"

@@ -4,10 +4,10 @@
 #include <array>
 #include <cstddef>
 
-#include "app/calendar_table.h"
-#include "calendars/checked_arithmetic.h"
+#include "calendars/calendar_table.h"
 #include "calendars/date_processing.h"
 #include "calendars/day_date.h"
+#include "engines/checked_arithmetic.h"
 #include "engines/date_engine.h"
 
 namespace tarnwick {

@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <initializer_list>
 
-#include "calendars/checked_arithmetic.h"
 #include "calendars/day_date.h"
+#include "engines/checked_arithmetic.h"
 #include "moon/syzyg.h"
 
 namespace tarnwick {

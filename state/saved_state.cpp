@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "app/main_window.h"
-#include "app/text_file.h"
+#include "controls/text_file.h"
 #include "state/state_record.h"
 
 namespace tarnwick {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "app/time_zone.h"
+#include "moment/time_zone.h"
 #include "tools/driver/driver.h"
 
 namespace tarnwick {

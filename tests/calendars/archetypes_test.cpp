@@ -5,7 +5,7 @@
 #include <limits>
 #include <string>
 
-#include "calendars/checked_arithmetic.h"
+#include "engines/checked_arithmetic.h"
 
 namespace tarnwick {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "calendars/checked_arithmetic.h"
+#include "engines/checked_arithmetic.h"
 
 namespace tarnwick {
 namespace {

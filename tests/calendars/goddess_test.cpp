@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "calendars/checked_arithmetic.h"
+#include "engines/checked_arithmetic.h"
 
 namespace tarnwick {
 namespace {

@@ -6,8 +6,8 @@
 #include <sstream>
 #include <string>
 
-#include "calendars/checked_arithmetic.h"
 #include "calendars/equinoxes.h"
+#include "engines/checked_arithmetic.h"
 #include "engines/phase_engine.h"
 #include "moon/syzyg.h"
 #include "tests/reference_data.h"

@@ -5,7 +5,7 @@
 #include <limits>
 #include <vector>
 
-#include "calendars/checked_arithmetic.h"
+#include "engines/checked_arithmetic.h"
 #include "moon/phase_cache.h"
 #include "tests/record_bytes.h"
 

@@ -4,14 +4,14 @@
 #include <iterator>
 #include <string>
 
-#include "app/calendar_table.h"
 #include "calendars/archetypes.h"
-#include "calendars/checked_arithmetic.h"
+#include "calendars/calendar_table.h"
 #include "calendars/date_processing.h"
 #include "calendars/goddess.h"
 #include "calendars/lunar_week.h"
 #include "calendars/solilunar.h"
 #include "calendars/triday.h"
+#include "engines/checked_arithmetic.h"
 #include "engines/date_engine.h"
 #include "moon/syzyg.h"
 

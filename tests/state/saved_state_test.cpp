@@ -15,7 +15,7 @@
 #include <utility>
 #include <vector>
 
-#include "app/text_file.h"
+#include "controls/text_file.h"
 #include "tools/driver/driver.h"
 
 #ifndef _WIN32

@@ -6,9 +6,9 @@
 #include <ostream>
 #include <string>
 
-#include "app/calendar_table.h"
-#include "app/date_texts.h"
+#include "calendars/calendar_table.h"
 #include "calendars/date_processing.h"
+#include "calendars/date_texts.h"
 #include "calendars/text.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"

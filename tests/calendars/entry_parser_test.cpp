@@ -1,11 +1,11 @@
-#include "app/entry_parser.h"
+#include "calendars/entry_parser.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 #include <string>
 
-#include "app/calendar_table.h"
+#include "calendars/calendar_table.h"
 
 namespace tarnwick {
 namespace {

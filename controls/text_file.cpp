@@ -1,4 +1,4 @@
-#include "app/text_file.h"
+#include "controls/text_file.h"
 
 #include <cerrno>
 #include <fstream>

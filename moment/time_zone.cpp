@@ -1,4 +1,4 @@
-#include "app/time_zone.h"
+#include "moment/time_zone.h"
 
 #include <cstdlib>
 

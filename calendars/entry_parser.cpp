@@ -1,18 +1,18 @@
-#include "app/entry_parser.h"
+#include "calendars/entry_parser.h"
 
 #include <array>
 #include <cctype>
 #include <optional>
 
-#include "app/calendar_table.h"
 #include "calendars/archetypes.h"
-#include "calendars/checked_arithmetic.h"
+#include "calendars/calendar_table.h"
 #include "calendars/date_processing.h"
 #include "calendars/goddess.h"
 #include "calendars/lunar_week.h"
 #include "calendars/solilunar.h"
 #include "calendars/text.h"
 #include "calendars/triday.h"
+#include "engines/checked_arithmetic.h"
 
 namespace tarnwick {
 namespace {

@@ -1,4 +1,4 @@
-#include "app/save_path.h"
+#include "controls/save_path.h"
 
 #include <system_error>
 

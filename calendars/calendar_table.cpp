@@ -1,4 +1,4 @@
-#include "app/calendar_table.h"
+#include "calendars/calendar_table.h"
 
 namespace tarnwick {
 

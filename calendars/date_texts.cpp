@@ -1,6 +1,6 @@
-#include "app/date_texts.h"
+#include "calendars/date_texts.h"
 
-#include "app/calendar_table.h"
+#include "calendars/calendar_table.h"
 #include "calendars/date_processing.h"
 #include "calendars/day_date.h"
 #include "calendars/text.h"
