@@ -2,6 +2,7 @@
 #include "app/main_window.h"
 #include "calendars/date_processing.h"
 #include "calendars/date_texts.h"
+#include "calendars/lunar_week.h"
 #include "calendars/text.h"
 
 namespace tarnwick {

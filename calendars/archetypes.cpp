@@ -5,6 +5,7 @@
 
 #include "engines/checked_arithmetic.h"
 #include "engines/floor_division.h"
+#include "engines/names.h"
 
 namespace tarnwick {
 namespace {
@@ -163,9 +164,7 @@ std::string_view ARCDayName(std::int32_t day) {
   return kDayNames[static_cast<std::size_t>(FloorModulo(std::int64_t{day} - 1, 10))];
 }
 
-std::string_view ARCMonthName(std::int32_t month) {
-  return month < 1 || month > 13 ? "" : kMonthNames[static_cast<std::size_t>(month - 1)];
-}
+std::string_view ARCMonthName(std::int32_t month) { return NameOf(kMonthNames, month); }
 
 std::string ARCDateString(const ARCDate& record, std::int32_t style) {
   std::string numbers = std::to_string(record.year) + "-" + TwoDigits(record.month) + "-" +

@@ -35,9 +35,6 @@ constexpr std::string_view AbbreviationOf(std::int16_t calendar) {
 // The index of the calendar with exactly this abbreviation, or -1.
 std::int16_t CalendarIndex(std::string_view abbreviation);
 
-// An OLW day begins so much later than the civil day, at 6 o'clock; in days.
-inline constexpr double kOLWDayShift = 0.25;
-
 // Whether its dates are plain day counts, with the time of day in their fraction.
 constexpr bool IsDayCount(std::int16_t calendar) { return calendar == kCJD || calendar == kAJD; }
 

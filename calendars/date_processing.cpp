@@ -7,12 +7,11 @@
 
 #include "calendars/text.h"
 #include "engines/checked_arithmetic.h"
+#include "engines/names.h"
+#include "engines/time_units.h"
 
 namespace tarnwick {
 namespace {
-
-constexpr std::int32_t kSecondsPerDay = 86400;
-constexpr std::int32_t kMinutesPerDay = 1440;
 
 using WeekdayNames = std::array<std::string_view, 7>;
 constexpr WeekdayNames kWeekdays{"Sunday",   "Monday", "Tuesday", "Wednesday",
@@ -101,7 +100,8 @@ std::int32_t ClockSeconds(std::string_view text) {
   const bool afternoon = text.find("PM") != std::string_view::npos;
   if (morning && hours == 12) hours = 0;
   if (afternoon && hours != 12) hours += 12;
-  return (hours * 60 + ClockField(text, minutes + 1, 2)) * 60 + ClockField(text, seconds + 1, 2);
+  return hours * kSecondsPerHour + ClockField(text, minutes + 1, 2) * kSecondsPerMinute +
+         ClockField(text, seconds + 1, 2);
 }
 
 double DaysOf(std::int32_t minutes) { return static_cast<double>(minutes) / kMinutesPerDay; }
@@ -148,18 +148,15 @@ std::int32_t ParseDateString(std::string_view text, DateRecord& record) {
 }
 
 std::string WeekdayName(std::int32_t weekday, bool padded, std::int32_t language) {
-  if (weekday < 0 || weekday > 6) return "";
-  const WeekdayNames& names = language == kGerman ? kGermanWeekdays : kWeekdays;
-  std::string name(names[static_cast<std::size_t>(weekday)]);
+  std::string name(NameOf(language == kGerman ? kGermanWeekdays : kWeekdays, weekday, 0));
   constexpr std::size_t kWidth = std::string_view("Wednesday").size();
-  if (padded && name.size() < kWidth) name.resize(kWidth, ' ');
+  if (padded && !name.empty() && name.size() < kWidth) name.resize(kWidth, ' ');
   return name;
 }
 
 std::string_view MonthName(std::int32_t month, std::int32_t language, bool abbreviated) {
   if (month == 13) return "Intercalarius";
-  if (month < 1 || month > 12) return "";
-  return MonthTable(language == kGerman, abbreviated)[static_cast<std::size_t>(month - 1)];
+  return NameOf(MonthTable(language == kGerman, abbreviated), month);
 }
 
 std::string_view AnnusNovusDayName(std::int32_t day) {
@@ -188,16 +185,22 @@ std::string DayOfYearText(const DateRecord& record) {
       .append(" Calendar");
 }
 
+std::string ClockText(std::int32_t seconds, bool with_seconds) {
+  const std::int32_t minutes = seconds / kSecondsPerMinute;
+  const std::string text =
+      TwoDigits(minutes / kMinutesPerHour) + ":" + TwoDigits(minutes % kMinutesPerHour);
+  return with_seconds ? text + ":" + TwoDigits(seconds % kSecondsPerMinute) : text;
+}
+
 std::string TimeOfDayText(double fraction, bool with_seconds) {
   if (!(fraction >= 0 && fraction <= 1)) return "XX:XX:XX";
   const auto rounded = static_cast<std::int32_t>(std::lround(fraction * kSecondsPerDay));
-  const std::int32_t seconds = std::min(rounded, kSecondsPerDay - 1);
-  const std::string text = TwoDigits(seconds / 3600) + ":" + TwoDigits(seconds / 60 % 60);
-  return with_seconds ? text + ":" + TwoDigits(seconds % 60) : text;
+  return ClockText(std::min(rounded, kSecondsPerDay - 1), with_seconds);
 }
 
 std::string DurationText(std::int32_t minutes, bool long_form) {
-  const Duration duration{minutes / kMinutesPerDay, minutes % kMinutesPerDay / 60, minutes % 60};
+  const Duration duration{minutes / kMinutesPerDay, minutes % kMinutesPerDay / kMinutesPerHour,
+                          minutes % kMinutesPerHour};
   return long_form ? LongDurationText(duration) : ShortDurationText(duration);
 }
 

@@ -60,6 +60,9 @@ std::string DateText(const DateRecord& record);
 // the calendar's name empty. Years as in DateText, but never with separators in Annus Novus.
 std::string DayOfYearText(const DateRecord& record);
 
+// So many seconds after midnight as a clock shows it: "15:55", "15:55:07".
+std::string ClockText(std::int32_t seconds, bool with_seconds);
+
 // The time of day of a fraction of the day, [0:1], rounded to a whole second: "15:55" or
 // "15:55:07". What rounds to the next midnight is still this day's last second; a fraction outside
 // 0 to 1 gives "XX:XX:XX".

@@ -9,10 +9,7 @@ namespace tarnwick {
 namespace {
 
 DateTexts EuroTexts(std::int32_t day_number, char letter, const std::string& abbreviation) {
-  DateRecord date;
-  date.calendar = letter;
-  date.jdn = day_number;
-  jdn_to_euro_date(date);
+  const DateRecord date = CivilDateOf(day_number, letter);
   const std::string short_form = DateText(date) + " " + abbreviation;
   return {short_form,
           short_form + " (" + WeekdayName(euro_day_of_week(day_number)) + ", " +

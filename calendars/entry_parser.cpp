@@ -13,6 +13,7 @@
 #include "calendars/text.h"
 #include "calendars/triday.h"
 #include "engines/checked_arithmetic.h"
+#include "engines/time_units.h"
 
 namespace tarnwick {
 namespace {
@@ -54,7 +55,7 @@ DayResult FailedDay(std::int16_t code) { return {code, 0}; }
 DayResult ParseEuroDay(std::string_view date, char letter, std::int16_t failure) {
   DateRecord record;
   record.calendar = letter;
-  if (ParseDateString(date, record) != 1) return FailedDay(failure);
+  if (ParseDateString(date, record) != kDateParsed) return FailedDay(failure);
   return {kEntryOk, euro_date_to_jdn(record)};
 }
 
@@ -64,7 +65,7 @@ DayResult ParseJCDay(std::string_view date) { return ParseEuroDay(date, 'J', kIn
 DayResult ParseARCDay(std::string_view date) {
   DateRecord record;
   record.calendar = 'R';
-  if (ParseDateString(date, record) != 1) return FailedDay(kInvalidARC);
+  if (ParseDateString(date, record) != kDateParsed) return FailedDay(kInvalidARC);
   ARCDate arc;
   arc.year = record.year;
   arc.month = record.month;
@@ -167,7 +168,7 @@ DateAndTime SplitTime(std::string text) {
   time.append(text, begin, colon - begin + 3);
   const double hours = LeadingNumber(std::string_view(time).substr(0, 2));
   const double minutes = LeadingNumber(std::string_view(time).substr(3));
-  return {text.substr(0, begin), (hours * 60 + minutes) / 1440};
+  return {text.substr(0, begin), (hours * kMinutesPerHour + minutes) / kMinutesPerDay};
 }
 
 Entry Failed(std::int16_t code) {

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <numbers>
 
+#include "engines/time_units.h"
+
 namespace tarnwick {
 namespace {
 
@@ -56,7 +58,7 @@ double CosDegrees(double degrees) {
 
 double SeasonInstant(std::int32_t year, Season season) {
   const double mean = MeanInstant(year, season);
-  const double t = (mean - 2451545.0) / 36525;
+  const double t = (mean - kJ2000) / kDaysPerCentury;
   const double w = 35999.373 * t - 2.47;
   const double longitude_rate = 1 + 0.0334 * CosDegrees(w) + 0.0007 * CosDegrees(2 * w);
   double sum = 0;

@@ -4,11 +4,13 @@
 #include <cstddef>
 #include <utility>
 
+#include "calendars/cycle_year.h"
 #include "calendars/date_processing.h"
 #include "calendars/text.h"
 #include "engines/checked_arithmetic.h"
 #include "engines/date_fields.h"
 #include "engines/floor_division.h"
+#include "engines/names.h"
 
 namespace tarnwick {
 namespace {
@@ -43,15 +45,8 @@ bool DateExists(const KSGDate& record) {
          record.day <= KSGMonthLength(record.year, record.month);
 }
 
-// Moves by a year; the years of a cycle end in the next or the previous one.
 void MoveYear(KSGDate& record, bool forward) {
-  const std::int16_t year = CheckedAdd(record.year, forward ? 1 : -1);
-  if (forward ? year > kCycleYears : year < 1) {
-    StepKSGCycle(record, forward);
-    record.year = forward ? 1 : kCycleYears;
-  } else {
-    record.year = year;
-  }
+  StepYearOfCycle(record.cycle, record.year, kCycleYears, forward);
 }
 
 void MoveMonth(KSGDate& record, bool forward) {
@@ -134,9 +129,7 @@ void StepKSGMonth(KSGDate& record, bool forward) {
   if (record.day == 30) record.day = KSGMonthLength(record.year, record.month);
 }
 
-std::string_view KSGMonthName(std::int32_t month) {
-  return month < 1 || month > 13 ? "" : kMonthNames[static_cast<std::size_t>(month - 1)];
-}
+std::string_view KSGMonthName(std::int32_t month) { return NameOf(kMonthNames, month); }
 
 bool ParseKSGDate(std::string_view text, KSGDate& record) {
   const DateFields fields = ParseDateFields(text, '-');

@@ -9,6 +9,9 @@
 #include "engines/checked_arithmetic.h"
 #include "engines/date_engine.h"
 #include "engines/date_fields.h"
+#include "engines/names.h"
+#include "engines/phases.h"
+#include "engines/time_units.h"
 #include "moon/syzyg.h"
 
 namespace tarnwick {
@@ -20,6 +23,7 @@ constexpr std::int32_t kMonths = 13;
 constexpr std::int32_t kWeeks = 4;
 constexpr std::int32_t kLongestWeek = 9;
 constexpr std::int32_t kDaysNamedFromBeginning = 5;
+constexpr double kStartBeforeNoon = 0.5 - kOLWDayShift;  // of a day
 
 constexpr std::array<std::string_view, kLongestWeek> kDayNames{"Dayone",  "Daytwo",  "Daythree",
                                                                "Dayfour", "Dayfive", "Nineday",
@@ -32,13 +36,6 @@ constexpr std::array<std::string_view, kMonths> kMonthNames{
 constexpr std::array<std::string_view, kMonths> kShortMonthNames{
     "Artaud", "Benjam", "Clark",   "De Quin", "Ellis", "Furst", "Grof",
     "Hoffm",  "Izumi",  "Janiger", "Kesey",   "Lilly", "Kestr"};
-
-// The name with that number, from 1; empty where there is none.
-template <std::size_t N>
-std::string_view NameOf(const std::array<std::string_view, N>& names, std::int32_t number) {
-  if (number < 1 || number > static_cast<std::int32_t>(N)) return "";
-  return names[static_cast<std::size_t>(number - 1)];
-}
 
 // The lunation of month 1 of the year tied to a Gregorian year.
 std::int32_t FirstLunation(std::int32_t gregorian_year) {
@@ -66,7 +63,7 @@ WeekEnds WeekEndsOf(std::int32_t lunation) {
   for (std::int16_t phase = 0; phase < kWeeks; ++phase) {
     ends[static_cast<std::size_t>(phase)] = OLWDayNumber(PhaseTime(lunation, phase));
   }
-  ends.back() = OLWDayNumber(PhaseTime(CheckedAdd(lunation, 1), 0));
+  ends.back() = OLWDayNumber(PhaseTime(CheckedAdd(lunation, 1), kNewMoon));
   return ends;
 }
 
@@ -92,20 +89,20 @@ std::int16_t Validate(const OLWDate& record) {
 
 }  // namespace
 
-double OLWDayStart(double ajd) { return std::floor(ajd + 0.25) - 0.25; }
+double OLWDayStart(double ajd) { return std::floor(ajd + kStartBeforeNoon) - kStartBeforeNoon; }
 
-std::int32_t OLWDayNumber(double ajd) { return CheckedFloor<std::int32_t>(ajd + 0.25); }
+std::int32_t OLWDayNumber(double ajd) { return CheckedFloor<std::int32_t>(ajd + kStartBeforeNoon); }
 
 double OLWYearReference(std::int32_t gregorian_year) {
   return SeasonInstant(gregorian_year, Season::kMarchEquinox) -
-         DeltaTForYear(gregorian_year) / (24 * 60);
+         DeltaTForYear(gregorian_year) / kMinutesPerDay;
 }
 
 void NearestNewMoon(double t, double& instant, std::int32_t& lunation) {
   lunation = LunationOf(t);
-  instant = PhaseTime(lunation, 0);
+  instant = PhaseTime(lunation, kNewMoon);
   const std::int32_t next = CheckedAdd(lunation, 1);
-  const double next_instant = PhaseTime(next, 0);
+  const double next_instant = PhaseTime(next, kNewMoon);
   if (next_instant - t >= t - instant) return;
   lunation = next;
   instant = next_instant;
@@ -124,17 +121,13 @@ void OLWDateToJDN(OLWDate& record, std::int16_t& error) {
 }
 
 std::int16_t JDNToOLWDate(OLWDate& record) {
-  DateRecord date;
-  date.calendar = 'G';
-  date.jdn = record.jdn;
-  jdn_to_euro_date(date);
-  std::int32_t year = date.year;
-  if (record.jdn <= OLWDayNumber(PhaseTime(FirstLunation(year), 0))) {
+  std::int32_t year = CivilDateOf(record.jdn).year;
+  if (record.jdn <= OLWDayNumber(PhaseTime(FirstLunation(year), kNewMoon))) {
     year = CheckedSubtract(year, 1);
   }
   const std::int32_t first = FirstLunation(year);
   std::int32_t lunation = first;
-  while (OLWDayNumber(PhaseTime(CheckedAdd(lunation, 1), 0)) < record.jdn) ++lunation;
+  while (OLWDayNumber(PhaseTime(CheckedAdd(lunation, 1), kNewMoon)) < record.jdn) ++lunation;
 
   const WeekEnds ends = WeekEndsOf(lunation);
   std::size_t week = 1;

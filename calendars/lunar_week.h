@@ -15,6 +15,8 @@
 #include <string>
 #include <string_view>
 
+#include "engines/time_units.h"
+
 namespace tarnwick {
 
 struct OLWDate {
@@ -25,6 +27,10 @@ struct OLWDate {
   std::int32_t reserved = 0;
   std::int32_t jdn = 0;  // OLW day number
 };
+
+// A day begins so much later than the civil day.
+inline constexpr std::int32_t kOLWDayShiftHours = 6;
+inline constexpr double kOLWDayShift = static_cast<double>(kOLWDayShiftHours) / kHoursPerDay;
 
 // What validation says of a date.
 inline constexpr std::int16_t kOLWValid = 0;

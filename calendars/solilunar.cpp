@@ -7,6 +7,7 @@
 #include "calendars/cycle_year.h"
 #include "calendars/text.h"
 #include "engines/checked_arithmetic.h"
+#include "engines/names.h"
 
 namespace tarnwick {
 namespace {
@@ -55,9 +56,7 @@ bool ParseSDDate(std::string_view text, SDDate& record) {
   return sdslc_datestr_to_sdslc_date(text, record) == 1;
 }
 
-std::string_view SDMonthName(std::int32_t month) {
-  return month < 1 || month > 13 ? "" : kMonthNames[static_cast<std::size_t>(month - 1)];
-}
+std::string_view SDMonthName(std::int32_t month) { return NameOf(kMonthNames, month); }
 
 bool IsLongSDYear(std::int32_t year, std::int32_t cycle) {
   return is_long_sdslc_year(year, cycle) == 1;

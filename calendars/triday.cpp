@@ -1,11 +1,11 @@
 #include "calendars/triday.h"
 
 #include <array>
-#include <cstddef>
 
 #include "calendars/cycle_year.h"
 #include "calendars/text.h"
 #include "engines/checked_arithmetic.h"
+#include "engines/names.h"
 
 namespace tarnwick {
 namespace {
@@ -14,12 +14,6 @@ constexpr std::array<std::string_view, 3> kDayNames{"Sophiesday", "Zoesday", "No
 constexpr std::array<std::string_view, 12> kMonthNames{
     "Armedon",      "Nousanios", "Harmozel", "Phaionios", "Ainios",  "Oraiel",
     "Mellephaneus", "Loios",     "Davithe",  "Mousanios", "Amethes", "Eleleth"};
-
-template <std::size_t count>
-std::string_view NameOf(const std::array<std::string_view, count>& names, std::int32_t number) {
-  if (number < 1 || static_cast<std::size_t>(number) > count) return "";
-  return names[static_cast<std::size_t>(number - 1)];
-}
 
 void MoveYear(LLTDate& record, bool forward) {
   StepYearOfCycle(record.cycle, record.year, kLLTCycleYears, forward);

@@ -15,12 +15,13 @@
 #include "desktop/characters.h"
 #include "desktop/look.h"
 #include "desktop/platform.h"
+#include "desktop/program_folder.h"
+#include "engines/time_units.h"
 #include "state/state_file.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr int kSecondsPerMinute = 60;
 constexpr int kImageResolution = 2;  // pixels of a saved image for one of the screen, each way
 
 QMessageBox::Icon IconOf(MessageIcon icon) {
@@ -125,9 +126,7 @@ std::optional<std::filesystem::path> QtDesktop::StateFile() const {
   return StateFileIn(platform::UserDataFolder());
 }
 
-std::filesystem::path QtDesktop::ProgramFolder() const {
-  return QFileInfo(QCoreApplication::applicationDirPath()).filesystemFilePath();
-}
+std::filesystem::path QtDesktop::ProgramFolder() const { return tarnwick::ProgramFolder(); }
 
 void QtDesktop::OpenWebPage(const std::string& address) { platform::OpenWebPage(address); }
 

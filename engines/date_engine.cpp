@@ -8,6 +8,7 @@
 
 #include "engines/date_fields.h"
 #include "engines/floor_division.h"
+#include "engines/time_units.h"
 
 namespace tarnwick {
 namespace {
@@ -90,7 +91,8 @@ bool DateCanBeRead(DateRecord record) {
 
 std::int64_t MinutesOf(const std::tm& time) {
   const CivilDate date{std::int64_t{time.tm_year} + 1900, time.tm_mon + 1, time.tm_mday};
-  return (DayNumber(kGregorian, date) * 24 + time.tm_hour) * 60 + time.tm_min;
+  return DayNumber(kGregorian, date) * kMinutesPerDay + time.tm_hour * kMinutesPerHour +
+         time.tm_min;
 }
 
 }  // namespace
@@ -106,6 +108,14 @@ void jdn_to_euro_date(DateRecord& record) {
   record.year = static_cast<std::int32_t>(date.year);
   record.month = date.month;
   record.day = date.day;
+}
+
+DateRecord CivilDateOf(std::int32_t jdn, std::int32_t letter) {
+  DateRecord record;
+  record.calendar = letter;
+  record.jdn = jdn;
+  jdn_to_euro_date(record);
+  return record;
 }
 
 std::int32_t euro_day_of_week(std::int32_t jdn) {

@@ -56,6 +56,9 @@ std::int32_t euro_date_to_jdn(DateRecord& record);
 // Fills year, month and day from jdn, in calendar "J", or "G" for any other letter.
 void jdn_to_euro_date(DateRecord& record);
 
+// The date of a day number in calendar "J", or "G" for any other letter.
+DateRecord CivilDateOf(std::int32_t jdn, std::int32_t letter = 'G');
+
 // The weekday of a day number, [0:6], 0 = Sunday.
 std::int32_t euro_day_of_week(std::int32_t jdn);
 

@@ -8,13 +8,12 @@
 #include "engines/ephemeris/eclipse.h"
 #include "engines/ephemeris/positions.h"
 #include "engines/ephemeris/saros.h"
+#include "engines/phases.h"
+#include "engines/time_units.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr double kJ2000 = 2451545.0;
-constexpr std::int32_t kNewMoon = 0;
-constexpr std::int32_t kFullMoon = 2;
 constexpr double kQuarterTurn = std::numbers::pi / 2;
 
 // |sin F| of the mean argument of latitude at the mean syzygy beyond which no shadow falls.
@@ -64,7 +63,7 @@ void FillRecord(const Eclipse& eclipse, std::int32_t saros, EclipseRecord& recor
 void FindEclipse(std::int32_t lunation, std::int32_t phase, double instant, EclipseRecord& record) {
   const bool solar = phase == kNewMoon;
   const Eclipse eclipse = solar ? SolarEclipseAt(instant) : LunarEclipseAt(instant);
-  if (eclipse.type == 0) return;
+  if (eclipse.type == kNotEclipsed) return;
   FillRecord(eclipse, solar ? SolarSaros(lunation) : LunarSaros(lunation), record);
 }
 
@@ -75,12 +74,13 @@ double syzyg(std::int32_t lunation, std::int32_t phase, EclipseRecord& record) {
   const double instant = PhaseInstant(mean, phase);
   record = {};
   record.lunation = lunation;
-  const bool syzygy = phase == kNewMoon || phase == kFullMoon;
-  if (syzygy && MayHaveEclipse(mean)) FindEclipse(lunation, phase, instant, record);
+  if (IsSyzygy(phase) && MayHaveEclipse(mean)) FindEclipse(lunation, phase, instant, record);
   return instant;
 }
 
-double deltat(double year, std::int32_t /*model*/) { return DeltaTSeconds(year + 0.5) / 60; }
+double deltat(double year, std::int32_t /*model*/) {
+  return DeltaTSeconds(year + 0.5) / kSecondsPerMinute;
+}
 
 double moonpos(double days, double& latitude, double& distance) {
   const Position moon = PositionsAt(kJ2000 + days).moon;

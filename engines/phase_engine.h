@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "engines/eclipse_type.h"
+
 namespace tarnwick {
 
 // The eclipse at a syzygy, as it is stored: 100 bytes, little-endian on every platform we build
@@ -15,7 +17,7 @@ struct EclipseRecord {
   std::int32_t lunation;
   std::int32_t unused1;
   std::int32_t saros;
-  std::int32_t type;           // 0 none; 1 to 7 solar, 8 to 10 lunar
+  EclipseType type;
   double greatest;             // instant of greatest eclipse, AJD, Terrestrial Time
   double gamma;                // least distance of the shadow's axis, equatorial radii, north +
   double magnitude;            // lunar: umbral, negative for a penumbral eclipse
@@ -36,8 +38,8 @@ static_assert(offsetof(EclipseRecord, penumbral_minutes) == 64);
 static_assert(offsetof(EclipseRecord, umbral_minutes) == 72);
 static_assert(offsetof(EclipseRecord, total_minutes) == 80);
 
-// The instant (AJD, Terrestrial Time) of a principal phase of a lunation: 0 new moon, 1 first
-// quarter, 2 full moon, 3 last quarter; lunation 0 begins with the new moon of 2000 January 6.
+// The instant (AJD, Terrestrial Time) of a principal phase of a lunation, by its index in phases.h;
+// lunation 0 begins with the new moon of 2000 January 6.
 // Within 1.05 s of JPL DE431 from -3200 to 6000. Fills the record with the eclipse at that syzygy.
 // Any lunation has an answer, far from the span of the series a smooth one. Phases other than 0 to
 // 3 count on into the neighbouring lunations: phase 4 is the next new moon.

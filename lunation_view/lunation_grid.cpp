@@ -6,6 +6,8 @@
 #include "calendars/calendar_table.h"
 #include "calendars/date_processing.h"
 #include "calendars/date_texts.h"
+#include "calendars/lunar_week.h"
+#include "engines/phases.h"
 #include "lunation_view/month_calendar.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
@@ -18,8 +20,8 @@ constexpr int kLastCell = kGridCells - 1;
 constexpr int kLongLunation = 30;
 // The place that the OLW calendar would have in the list; its day begins six hours late.
 constexpr int kOLWMonthCalendar = 4;
-constexpr std::array<std::string_view, 4> kPhaseNames{"Dark moon", "1st quarter", "Full moon",
-                                                      "Last quarter"};
+constexpr std::array<std::string_view, kPhaseCount> kPhaseNames{"Dark moon", "1st quarter",
+                                                                "Full moon", "Last quarter"};
 
 // The day of a moment, and its time of day.
 DayAndTime DayOf(double ajd, const GridReading& reading) {
@@ -28,7 +30,7 @@ DayAndTime DayOf(double ajd, const GridReading& reading) {
 }
 
 std::int32_t FirstDayOf(std::int32_t lunation, const GridReading& reading) {
-  return DayOf(FindPhaseEvent(lunation, 0).ut, reading).day_number;
+  return DayOf(FindPhaseEvent(lunation, kNewMoon).ut, reading).day_number;
 }
 
 // Something that happens on one of the days.
@@ -42,7 +44,7 @@ void AddPhase(std::vector<DayEvent>& events, std::int32_t lunation, std::int16_t
   const PhaseEvent& event = FindPhaseEvent(lunation, phase);
   events.push_back(
       {DayOf(event.ut, reading), std::string(kPhaseNames[static_cast<std::size_t>(phase)])});
-  if (event.eclipse.type == 0) return;
+  if (event.eclipse.type == kNotEclipsed) return;
   events.push_back({DayOf(UniversalTime(event.eclipse.greatest), reading),
                     std::string(EclipseTypeText(static_cast<std::int16_t>(event.eclipse.type)))});
 }
@@ -50,8 +52,9 @@ void AddPhase(std::vector<DayEvent>& events, std::int32_t lunation, std::int16_t
 // With the new moon after the last day: its eclipse can be greatest before the midnight between.
 std::vector<DayEvent> EventsOf(std::int32_t lunation, const GridReading& reading) {
   std::vector<DayEvent> events;
-  for (std::int16_t phase = 0; phase < 4; ++phase) AddPhase(events, lunation, phase, reading);
-  AddPhase(events, lunation + 1, 0, reading);
+  for (std::int16_t phase = 0; phase < kPhaseCount; ++phase)
+    AddPhase(events, lunation, phase, reading);
+  AddPhase(events, lunation + 1, kNewMoon, reading);
   return events;
 }
 

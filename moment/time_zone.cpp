@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "calendars/text.h"
+#include "engines/time_units.h"
 
 namespace tarnwick {
 
@@ -18,8 +19,8 @@ std::int16_t TimeZoneOffset(std::string_view text) {
   constexpr std::size_t kHours = 6;
   constexpr std::size_t kMinutes = 9;
   if (text == "Greenwich" || text.size() < kMinutes) return 0;
-  const double minutes =
-      60 * LeadingNumber(text.substr(kHours, 2)) + LeadingNumber(text.substr(kMinutes));
+  const double minutes = kMinutesPerHour * LeadingNumber(text.substr(kHours, 2)) +
+                         LeadingNumber(text.substr(kMinutes));
   const auto offset = static_cast<std::int16_t>(minutes);
   return text.find('-') == std::string_view::npos ? offset : static_cast<std::int16_t>(-offset);
 }

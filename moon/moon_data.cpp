@@ -5,15 +5,12 @@
 #include <string_view>
 
 #include "engines/phase_engine.h"
+#include "engines/phases.h"
+#include "engines/time_units.h"
 #include "moon/syzyg.h"
 
 namespace tarnwick {
 namespace {
-
-constexpr std::int64_t kMinutesPerHour = 60;
-constexpr std::int64_t kMinutesPerDay = 1440;
-
-bool IsWaxing(std::int16_t phase) { return phase <= 1; }
 
 bool HasPositions(double ajd) {
   double latitude = 0;
@@ -47,8 +44,9 @@ double FractionFromPositions(double ajd) {
 // As if the elongation grew evenly from phase to phase.
 double FractionFromPhases(double ajd, std::int32_t lunation, std::int16_t phase) {
   const double begin = PhaseTime(lunation, phase);
-  const double end = phase < 3 ? PhaseTime(lunation, static_cast<std::int16_t>(phase + 1))
-                               : PhaseTime(lunation + 1, 0);
+  const double end = phase < kLastQuarter
+                         ? PhaseTime(lunation, static_cast<std::int16_t>(phase + 1))
+                         : PhaseTime(lunation + 1, kNewMoon);
   const double quarters = phase + (ajd - begin) / (end - begin);
   return IlluminatedFraction(quarters * std::numbers::pi / 2);
 }
@@ -56,9 +54,9 @@ double FractionFromPhases(double ajd, std::int32_t lunation, std::int16_t phase)
 MoonData MoonDataAt(double ajd) {
   MoonData data;
   data.lunation = LunationOf(ajd);
-  const double new_moon = PhaseTime(data.lunation, 0);
+  const double new_moon = PhaseTime(data.lunation, kNewMoon);
   data.age = ajd - new_moon;
-  data.length = PhaseTime(data.lunation + 1, 0) - new_moon;
+  data.length = PhaseTime(data.lunation + 1, kNewMoon) - new_moon;
   bool exact = false;
   data.phase = GetPhase(data.lunation, ajd, exact);
   if (data.phase < 0) return data;

@@ -5,18 +5,19 @@
 
 #include "engines/checked_arithmetic.h"
 #include "engines/date_engine.h"
+#include "engines/names.h"
+#include "engines/phases.h"
+#include "engines/time_units.h"
 #include "moon/phase_cache.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr double kMinutesPerDay = 24 * 60;
 constexpr double kExactness = 0.00005;         // days
 constexpr double kFirstPositionDay = 2305448;  // 1600-01-01 CE
 constexpr double kLastPositionDay = 2488069;   // 2099-12-31 CE
 
-constexpr std::array<std::string_view, 11> kEclipseTypes{
-    "",
+constexpr std::array<std::string_view, kTotalLunar> kEclipseTypes{
     "Partial solar eclipse",
     "Central annular solar eclipse",
     "Central total solar eclipse",
@@ -34,8 +35,8 @@ using PhaseInstant = double (*)(std::int32_t n, std::int16_t phase, EclipseRecor
 // The phase in effect at t, both instants and t in one time scale.
 std::int16_t PhaseInEffect(std::int32_t n, double t, bool& exact, PhaseInstant instant) {
   exact = false;
-  if (instant(CheckedAdd(n, 1), 0, EclipseData) <= t) return -1;
-  for (std::int16_t phase = 3; phase >= 0; --phase) {
+  if (instant(CheckedAdd(n, 1), kNewMoon, EclipseData) <= t) return -1;
+  for (std::int16_t phase = kLastQuarter; phase >= kNewMoon; --phase) {
     const double begin = instant(n, phase, EclipseData);
     if (begin > t) continue;
     exact = t - begin < kExactness;
@@ -49,16 +50,12 @@ std::int16_t PhaseInEffect(std::int32_t n, double t, bool& exact, PhaseInstant i
 double LunationBase = 0;
 EclipseRecord EclipseData{};
 
-void InitLunations() { LunationBase = PhaseTime(0, 0); }
+void InitLunations() { LunationBase = PhaseTime(0, kNewMoon); }
 
 double DeltaTForYear(std::int32_t year) { return deltat(year, kDeltaTModel); }
 
 double DeltaT(double ajd) {
-  DateRecord date;
-  date.calendar = 'G';
-  date.jdn = CheckedFloor<std::int32_t>(std::nearbyint(ajd));
-  jdn_to_euro_date(date);
-  return DeltaTForYear(date.year);
+  return DeltaTForYear(CivilDateOf(CheckedFloor<std::int32_t>(std::nearbyint(ajd))).year);
 }
 
 double UniversalTime(double ajd_tt) { return ajd_tt - DeltaT(ajd_tt) / kMinutesPerDay; }
@@ -78,9 +75,9 @@ double PhaseTime(std::int32_t n, std::int16_t phase, EclipseRecord& record) {
 std::int32_t LunationOf(double ajd) {
   auto n = CheckedFloor<std::int32_t>((ajd - LunationBase) / SynodicMonth);
   for (;;) {
-    if (PhaseTime(n, 0) > ajd) {
+    if (PhaseTime(n, kNewMoon) > ajd) {
       n = CheckedSubtract(n, 1);
-    } else if (ajd >= PhaseTime(CheckedAdd(n, 1), 0)) {
+    } else if (ajd >= PhaseTime(CheckedAdd(n, 1), kNewMoon)) {
       n = CheckedAdd(n, 1);
     } else {
       return n;
@@ -97,8 +94,7 @@ std::int16_t GetPhase(std::int32_t n, double ajd, bool& exact) {
 }
 
 std::string_view EclipseTypeText(std::int16_t code) {
-  if (code < 0 || static_cast<std::size_t>(code) >= kEclipseTypes.size()) return "";
-  return kEclipseTypes[static_cast<std::size_t>(code)];
+  return NameOf(kEclipseTypes, code, kPartialSolar);
 }
 
 double MoonPosition(double ajd, double& latitude) {
@@ -106,7 +102,7 @@ double MoonPosition(double ajd, double& latitude) {
   if (day < kFirstPositionDay) return kBeforePositions;
   if (day > kLastPositionDay) return kAfterPositions;
   double distance = 0;
-  return moonpos(ajd - 2451545.0, latitude, distance);
+  return moonpos(ajd - kJ2000, latitude, distance);
 }
 
 }  // namespace tarnwick

@@ -1,22 +1,19 @@
 #include "navigation/eclipse_description.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <string_view>
 
-#include "calendars/text.h"
+#include "calendars/date_processing.h"
+#include "engines/time_units.h"
 #include "moon/syzyg.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr std::size_t kFirstPhaseLine = 3;
-constexpr double kMinutesPerDay = 24 * 60;
-constexpr std::int32_t kSecondsPerDay = 24 * 60 * 60;
 constexpr double kTimeMargin = 1e-8;  // days, so that 59.9999 seconds are not cut to 59
-constexpr std::int32_t kPenumbralLunar = 8;
-constexpr std::int32_t kPartialLunar = 9;
-constexpr std::int32_t kTotalLunar = 10;
 
 // The line of a phase that lasts from so many minutes before `cjd` until as many after it.
 std::string PhaseLine(std::string_view name, double semi_minutes, double cjd) {
@@ -63,17 +60,15 @@ std::string EclipseSentence(const std::vector<std::string>& lines) {
 std::string TruncatedTimeText(double fraction, bool with_seconds) {
   if (!(fraction >= 0 && fraction < 1)) return "XX:XX:XX";
   if (fraction != 0 && fraction < 1 - kTimeMargin) fraction += kTimeMargin;
-  auto seconds = static_cast<std::int32_t>(kSecondsPerDay * fraction);
-  if (seconds == kSecondsPerDay) seconds = kSecondsPerDay - 1;
-  std::string text = TwoDigits(seconds / 3600) + ":" + TwoDigits(seconds / 60 % 60);
-  return with_seconds ? text + ":" + TwoDigits(seconds % 60) : text;
+  const auto seconds = static_cast<std::int32_t>(kSecondsPerDay * fraction);
+  return ClockText(std::min(seconds, kSecondsPerDay - 1), with_seconds);
 }
 
 std::string EclipseDurationText(std::int32_t minutes) {
-  constexpr std::int32_t kDay = 24 * 60;
-  const std::string days = minutes >= kDay ? std::to_string(minutes / kDay) + "d " : "";
-  const std::int32_t rest = minutes % kDay;
-  return days + std::to_string(rest / 60) + "h " + std::to_string(rest % 60) + "m";
+  const std::int32_t days = minutes / kMinutesPerDay;
+  const std::int32_t rest = minutes % kMinutesPerDay;
+  return (days > 0 ? std::to_string(days) + "d " : "") + std::to_string(rest / kMinutesPerHour) +
+         "h " + std::to_string(rest % kMinutesPerHour) + "m";
 }
 
 }  // namespace tarnwick

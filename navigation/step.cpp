@@ -9,6 +9,7 @@
 #include "calendars/day_date.h"
 #include "engines/checked_arithmetic.h"
 #include "engines/date_engine.h"
+#include "engines/time_units.h"
 
 namespace tarnwick {
 namespace {
@@ -86,7 +87,7 @@ void StepLLTCycle(LLTDate& record, bool forward) {
 
 template <int minutes>
 double StepTime(const Start& start, bool forward) {
-  constexpr double kDays = minutes / 1440.0;
+  constexpr double kDays = static_cast<double>(minutes) / kMinutesPerDay;
   return forward ? start.ajd + kDays : start.ajd - kDays;
 }
 
@@ -130,8 +131,8 @@ constexpr std::int16_t kUnchanged = -1;
 
 constexpr std::array<Step, kStepCount> kSteps{{
     {"1 minute", kUnchanged, StepTime<1>},
-    {"1 hour", kUnchanged, StepTime<60>},
-    {"1 day", kUnchanged, StepTime<1440>},
+    {"1 hour", kUnchanged, StepTime<kMinutesPerHour>},
+    {"1 day", kUnchanged, StepTime<kMinutesPerDay>},
     {"1 CE month", kCE, StepDate<DateRecord, StepCEMonth>},
     {"1 CE year", kCE, StepDate<DateRecord, StepCEYears<1>>},
     {"1 CE century", kCE, StepDate<DateRecord, StepCEYears<100>>},

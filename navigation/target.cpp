@@ -5,31 +5,40 @@
 
 #include "calendars/day_date.h"
 #include "engines/checked_arithmetic.h"
+#include "engines/phases.h"
 #include "moon/syzyg.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr std::int16_t kNewMoon = 0;
-constexpr std::int16_t kFullMoon = 2;
-constexpr std::int16_t kLastQuarter = 3;
-
 // A set of eclipse types, a bit each.
 using EclipseTypes = std::uint32_t;
 
-constexpr EclipseTypes TypeSet(std::initializer_list<int> types) {
+constexpr EclipseTypes TypeSet(std::initializer_list<EclipseType> types) {
   EclipseTypes set = 0;
-  for (const int type : types) set |= EclipseTypes{1} << type;
+  for (const EclipseType type : types) set |= EclipseTypes{1} << type;
   return set;
 }
 
-constexpr EclipseTypes kSolarTypes = TypeSet({1, 2, 3, 4, 5, 6, 7});
-constexpr EclipseTypes kLunarTypes = TypeSet({8, 9, 10});
+constexpr EclipseTypes kBothTypes =
+    TypeSet({kCentralAnnularTotalSolar, kNonCentralAnnularTotalSolar});
+constexpr EclipseTypes kTotalTypes =
+    TypeSet({kCentralTotalSolar, kNonCentralTotalSolar}) | kBothTypes;
+constexpr EclipseTypes kAnnularTypes =
+    TypeSet({kCentralAnnularSolar, kNonCentralAnnularSolar}) | kBothTypes;
+constexpr EclipseTypes kSolarTypes = TypeSet({kPartialSolar}) | kTotalTypes | kAnnularTypes;
+constexpr EclipseTypes kUmbralTypes = TypeSet({kPartialLunar, kTotalLunar});
+constexpr EclipseTypes kLunarTypes = TypeSet({kPenumbralLunar}) | kUmbralTypes;
 
 // What the targets from kAnyEclipseTarget on accept. Annular-total eclipses are both.
 constexpr std::array<EclipseTypes, 7> kAcceptedTypes{
-    kSolarTypes | kLunarTypes, kLunarTypes,           TypeSet({10}), TypeSet({9, 10}), kSolarTypes,
-    TypeSet({3, 4, 6, 7}),     TypeSet({2, 5, 6, 7}),
+    kSolarTypes | kLunarTypes,
+    kLunarTypes,
+    TypeSet({kTotalLunar}),
+    kUmbralTypes,
+    kSolarTypes,
+    kTotalTypes,
+    kAnnularTypes,
 };
 
 EclipseTypes AcceptedTypes(int target) {
@@ -83,7 +92,7 @@ bool IsFirstOfKSGMonth(std::int32_t day_number) { return DateOfDay<KSGDate>(day_
 constexpr std::array<TargetRow, kTargetCount> kTargets{{
     {"Full moon", kFullMoon},
     {"Dark moon", kNewMoon},
-    {"Half moon (1st quarter)", 1},
+    {"Half moon (1st quarter)", kFirstQuarter},
     {"Half moon (last quarter)", kLastQuarter},
     {"Quarter"},
     {""},
@@ -108,7 +117,8 @@ PhaseNumber FindPhase(int target, bool forward, const PhaseNumber& at, bool exac
 }
 
 bool AcceptsEclipse(int target, std::int32_t type) {
-  return type >= 1 && type <= 10 && (AcceptedTypes(target) >> type & 1) != 0;
+  const bool eclipse = IsSolarEclipse(type) || IsLunarEclipse(type);
+  return eclipse && (AcceptedTypes(target) >> type & 1) != 0;
 }
 
 std::optional<FoundEclipse> FindEclipse(int target, bool forward, const PhaseNumber& at,

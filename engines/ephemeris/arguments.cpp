@@ -4,11 +4,11 @@
 #include <cmath>
 #include <numbers>
 
+#include "engines/time_units.h"
+
 namespace tarnwick {
 namespace {
 
-constexpr double kJ2000 = 2451545.0;
-constexpr double kDaysPerCentury = 36525.0;
 constexpr double kSpanBegin = 550000.0;
 constexpr double kSpanEnd = 3914990.0;
 constexpr double kRadiansPerDegree = std::numbers::pi / 180;

@@ -1,12 +1,12 @@
 // What the geometry of a syzygy says about an eclipse.
 #pragma once
 
-#include <cstdint>
+#include "engines/eclipse_type.h"
 
 namespace tarnwick {
 
 struct Eclipse {
-  std::int32_t type = 0;           // 0 none; 1 to 7 solar, 8 to 10 lunar
+  EclipseType type = kNotEclipsed;
   double greatest = 0;             // instant of greatest eclipse, AJD, Terrestrial Time
   double gamma = 0;                // least distance of the axis, equatorial Earth radii, north +
   double magnitude = 0;            // lunar: umbral, negative for a penumbral eclipse
@@ -16,8 +16,8 @@ struct Eclipse {
   double total_minutes = 0;
 };
 
-// The eclipse at a new or full moon, whose instant (AJD, Terrestrial Time) is given. Type 0, and
-// all else 0, where there is none.
+// The eclipse at a new or full moon, whose instant (AJD, Terrestrial Time) is given. Type
+// kNotEclipsed, and all else 0, where there is none.
 Eclipse SolarEclipseAt(double new_moon);
 Eclipse LunarEclipseAt(double full_moon);
 

@@ -17,18 +17,16 @@
 #include "engines/ephemeris/bounded_search.h"
 #include "engines/ephemeris/eclipse.h"
 #include "engines/ephemeris/moon_sun_track.h"
+#include "engines/time_units.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr double kMinutesPerDay = 1440;
 constexpr double kMoonRadius = 0.272488;
 constexpr double kDanjonEnlargement = 1.01;
 // No eclipse when the Moon's centre passes farther from the axis, in Earth radii: the penumbra
 // reaches to 1.583 at most.
 constexpr double kFarthestGamma = 1.7;
-
-enum Type : std::int32_t { kPenumbral = 8, kPartial = 9, kTotal = 10 };
 
 // Moon and shadow at one instant, as seen from the Earth's centre.
 struct ShadowCircles {
@@ -102,18 +100,18 @@ Eclipse LunarEclipseAt(double full_moon) {
   Eclipse eclipse;
   eclipse.penumbral_magnitude = Magnitude(circles, circles.penumbra);
   if (eclipse.penumbral_magnitude <= 0) return {};
-  eclipse.type = kPenumbral;
+  eclipse.type = kPenumbralLunar;
   eclipse.greatest = full_moon + greatest;
   eclipse.gamma = Gamma(track.At(greatest), circles);
   eclipse.magnitude = Magnitude(circles, circles.umbra);
   eclipse.penumbral_minutes =
       SemiDuration(track, greatest, [](const ShadowCircles& c) { return c.penumbra + c.moon; });
   if (eclipse.magnitude <= 0) return eclipse;
-  eclipse.type = kPartial;
+  eclipse.type = kPartialLunar;
   eclipse.umbral_minutes =
       SemiDuration(track, greatest, [](const ShadowCircles& c) { return c.umbra + c.moon; });
   if (eclipse.magnitude < 1) return eclipse;
-  eclipse.type = kTotal;
+  eclipse.type = kTotalLunar;
   eclipse.total_minutes =
       SemiDuration(track, greatest, [](const ShadowCircles& c) { return c.umbra - c.moon; });
   return eclipse;

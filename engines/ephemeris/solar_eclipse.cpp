@@ -34,17 +34,6 @@ constexpr double kHalfCentralLine = 0.12;
 constexpr double kContactShift = 0.003;
 constexpr double kContactDeepening = 1e-3;
 
-enum Type : std::int32_t {
-  kNone = 0,
-  kPartial = 1,
-  kCentralAnnular = 2,
-  kCentralTotal = 3,
-  kNonCentralTotal = 4,
-  kNonCentralAnnular = 5,
-  kCentralAnnularTotal = 6,
-  kNonCentralAnnularTotal = 7
-};
-
 bool MayMeetEarth(const MoonAndSunVectors& places) {
   if (Dot(places.moon.value, places.sun.value) < 0) return false;
   const MovingVector foot = ShadowAxisFoot(places);
@@ -62,7 +51,7 @@ class Passage {
 
   double Greatest() const { return greatest_; }
   double Gamma() const;
-  Type FindType() const;
+  EclipseType FindType() const;
   double Magnitude() const;
 
  private:
@@ -74,8 +63,8 @@ class Passage {
   template <class SelectCone>
   bool Meets(const SelectCone& select) const;
 
-  Type CentralType(double on_line) const;
-  Type NonCentralType() const;
+  EclipseType CentralType(double on_line) const;
+  EclipseType NonCentralType() const;
   double UmbraRadius(double offset, double Spheroid::Chord::*height) const;
 
   MoonSunTrack track_;
@@ -106,7 +95,7 @@ bool Passage::Meets(const SelectCone& select) const {
   return gap(Deepest(gap)) <= 0;
 }
 
-Type Passage::FindType() const {
+EclipseType Passage::FindType() const {
   const auto axis_excess = [this](double offset) { return AxisExcess(offset); };
   const double deepest = Deepest(axis_excess);
   return axis_excess(deepest) <= 0 ? CentralType(deepest) : NonCentralType();
@@ -119,26 +108,26 @@ double Passage::UmbraRadius(double offset, double Spheroid::Chord::*height) cons
   return RadiusAt(shadow.antumbra, earth_.ChordOf(shadow.axis).*height);
 }
 
-Type Passage::CentralType(double on_line) const {
+EclipseType Passage::CentralType(double on_line) const {
   const auto axis_excess = [this](double offset) { return AxisExcess(offset); };
   const auto umbra = [this](double offset) { return UmbraRadius(offset, &Spheroid::Chord::upper); };
   const double begin = RootBetween(axis_excess, on_line, on_line - kHalfCentralLine);
   const double end = RootBetween(axis_excess, on_line, on_line + kHalfCentralLine);
   const bool annular_begin = UmbraRadius(begin, &Spheroid::Chord::middle) > 0;
   const bool annular_end = UmbraRadius(end, &Spheroid::Chord::middle) > 0;
-  if (annular_begin != annular_end) return kCentralAnnularTotal;
-  if (!annular_begin) return kCentralTotal;
+  if (annular_begin != annular_end) return kCentralAnnularTotalSolar;
+  if (!annular_begin) return kCentralTotalSolar;
   const bool annular_between = umbra(MinimumBetween(umbra, begin, end)) > 0;
-  return annular_between ? kCentralAnnular : kCentralAnnularTotal;
+  return annular_between ? kCentralAnnularSolar : kCentralAnnularTotalSolar;
 }
 
-Type Passage::NonCentralType() const {
+EclipseType Passage::NonCentralType() const {
   const bool annular = Meets([](const Shadow& shadow) { return shadow.antumbra; });
   const bool total = Meets([](const Shadow& shadow) { return Opposite(shadow.antumbra); });
-  if (annular && total) return kNonCentralAnnularTotal;
-  if (annular) return kNonCentralAnnular;
-  if (total) return kNonCentralTotal;
-  return Meets([](const Shadow& shadow) { return shadow.penumbra; }) ? kPartial : kNone;
+  if (annular && total) return kNonCentralAnnularTotalSolar;
+  if (annular) return kNonCentralAnnularSolar;
+  if (total) return kNonCentralTotalSolar;
+  return Meets([](const Shadow& shadow) { return shadow.penumbra; }) ? kPartialSolar : kNotEclipsed;
 }
 
 // On the central line at greatest eclipse, or at the point of the limb nearest to the axis.
@@ -165,7 +154,7 @@ Eclipse SolarEclipseAt(double new_moon) {
   const Passage passage(new_moon, middle);
   Eclipse eclipse;
   eclipse.type = passage.FindType();
-  if (eclipse.type == kNone) return {};
+  if (eclipse.type == kNotEclipsed) return {};
   eclipse.greatest = new_moon + passage.Greatest();
   eclipse.gamma = passage.Gamma();
   eclipse.magnitude = passage.Magnitude();

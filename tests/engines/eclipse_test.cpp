@@ -12,16 +12,14 @@
 #include "engines/ephemeris/moon_sun_track.h"
 #include "engines/ephemeris/shadow_axis.h"
 #include "engines/phase_engine.h"
+#include "engines/phases.h"
 #include "tests/error_statistics.h"
 #include "tests/reference_data.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr std::int32_t kNewMoon = 0;
-constexpr std::int32_t kFullMoon = 2;
 constexpr double kSecondsPerDay = 86400;
-constexpr std::int32_t kHighestType = 10;
 
 double Syzygy(std::int32_t lunation, std::int32_t phase) {
   EclipseRecord record;
@@ -226,7 +224,7 @@ TEST(MoonSunTrack, StraysLessThanAMillionthOfTheEarthsRadius) {
 
 bool IsSound(const Eclipse& eclipse, double syzygy) {
   if (eclipse.type == 0) return eclipse.greatest == 0 && eclipse.gamma == 0;
-  return eclipse.type > 0 && eclipse.type <= kHighestType &&
+  return (IsSolarEclipse(eclipse.type) || IsLunarEclipse(eclipse.type)) &&
          std::abs(eclipse.greatest - syzygy) < 0.03 && std::abs(eclipse.gamma) < 1.6 &&
          std::abs(eclipse.magnitude) < 2 && eclipse.penumbral_magnitude >= 0 &&
          eclipse.penumbral_magnitude < 3 && eclipse.penumbral_minutes >= 0 &&

@@ -10,7 +10,7 @@ using Lines = std::vector<std::string>;
 // 01:30 of some day.
 constexpr double kCJD = 2451545 + 1.5 / 24;
 
-EclipseRecord Eclipse(std::int32_t type, double penumbral, double umbral, double total) {
+EclipseRecord Eclipse(EclipseType type, double penumbral, double umbral, double total) {
   EclipseRecord record{};
   record.lunation = -17;
   record.saros = 124;
@@ -22,7 +22,7 @@ EclipseRecord Eclipse(std::int32_t type, double penumbral, double umbral, double
 }
 
 TEST(EclipseDescription, OfATotalLunarEclipse) {
-  const Lines lines = EclipseLines(Eclipse(10, 157, 106.25, 30.75), kCJD);
+  const Lines lines = EclipseLines(Eclipse(kTotalLunar, 157, 106.25, 30.75), kCJD);
   EXPECT_EQ(lines, (Lines{"Total lunar eclipse", "Lunation number = -17", "Saros number = 124",
                           "Penumbral phase starts 22:53 and lasts 5h 14m",
                           "Umbral phase starts 23:43 and lasts 3h 32m",
@@ -40,14 +40,14 @@ TEST(EclipseDescription, OfATotalLunarEclipse) {
 }
 
 TEST(EclipseDescription, HasALineForEachPhase) {
-  EXPECT_EQ(EclipseLines(Eclipse(9, 30, 20, 0), kCJD),
+  EXPECT_EQ(EclipseLines(Eclipse(kPartialLunar, 30, 20, 0), kCJD),
             (Lines{"Partial lunar eclipse", "Lunation number = -17", "Saros number = 124",
                    "Penumbral phase starts 01:00 and lasts 1h 0m",
                    "Umbral phase starts 01:10 and lasts 0h 40m"}));
-  EXPECT_EQ(EclipseLines(Eclipse(8, 30, 0, 0), kCJD),
+  EXPECT_EQ(EclipseLines(Eclipse(kPenumbralLunar, 30, 0, 0), kCJD),
             (Lines{"Penumbral lunar eclipse", "Lunation number = -17", "Saros number = 124",
                    "Penumbral phase starts 01:00 and lasts 1h 0m"}));
-  const Lines solar = EclipseLines(Eclipse(7, 0, 0, 0), kCJD);
+  const Lines solar = EclipseLines(Eclipse(kNonCentralAnnularTotalSolar, 0, 0, 0), kCJD);
   EXPECT_EQ(solar, (Lines{"Non-central annular-total solar eclipse", "Lunation number = -17",
                           "Saros number = 124"}));
   EXPECT_EQ(EclipseSentence(solar),
@@ -55,9 +55,9 @@ TEST(EclipseDescription, HasALineForEachPhase) {
 }
 
 TEST(EclipseDescription, RoundsHalfMinutesToEven) {
-  EXPECT_EQ(EclipseLines(Eclipse(8, 30.25, 0, 0), kCJD)[3],
+  EXPECT_EQ(EclipseLines(Eclipse(kPenumbralLunar, 30.25, 0, 0), kCJD)[3],
             "Penumbral phase starts 00:59 and lasts 1h 0m");
-  EXPECT_EQ(EclipseLines(Eclipse(8, 30.75, 0, 0), kCJD)[3],
+  EXPECT_EQ(EclipseLines(Eclipse(kPenumbralLunar, 30.75, 0, 0), kCJD)[3],
             "Penumbral phase starts 00:59 and lasts 1h 2m");
 }
 

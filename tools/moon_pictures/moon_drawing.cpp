@@ -17,20 +17,20 @@ Shades Sky() { return {kMoonSky & 0xffU, (kMoonSky >> 8U) & 0xffU, (kMoonSky >> 
 
 // Slopes that lean to the Sun are brighter, those that lean away darker, the more so the lower the
 // Sun stands. The full Moon is flat: its Sun stands behind us, and no shadow is seen.
-double ReliefAt(Vector place, Vector sun) {
+double ReliefAt(Vector3 place, Vector3 sun) {
   constexpr double kStep = 0.004;
   const double altitude = Dot(place, sun);
   const double aside = std::abs(sun.x);
   if (altitude < 0 || aside < 0.01) return 0;
-  const Vector level = sun - place * altitude;
+  const Vector3 level = sun - altitude * place;
   const double length = Length(level);
-  const Vector ahead = place + level * (kStep / std::max(length, 0.01));
+  const Vector3 ahead = place + kStep / std::max(length, 0.01) * level;
   const double slope = (HeightAt(ahead) - HeightAt(place)) / kStep;
   const double strength = aside * length / (altitude + 0.2);
   return std::clamp(-0.18 * slope * strength, -0.4, 0.25);
 }
 
-Shades ColorAt(Vector place, Vector sun) {
+Shades ColorAt(Vector3 place, Vector3 sun) {
   const Ground ground = GroundAt(place);
   const double limb = 0.86 + 0.14 * std::sqrt(place.z);
   const double relief = 1 + ground.roughness * ReliefAt(place, sun);
@@ -40,20 +40,20 @@ Shades ColorAt(Vector place, Vector sun) {
 }
 
 // The direction of the Sun. Its angle from the Earth's follows from the fraction that it lights.
-Vector SunAt(MoonPhase phase) {
+Vector3 SunAt(MoonPhase phase) {
   const double cosine = 2 * phase.fraction - 1;
   const double sine = std::sqrt(1 - cosine * cosine);
   return {phase.waxing ? sine : -sine, 0, cosine};
 }
 
 // A point in the plane of the picture, in radii to the right and up from the middle of the disc.
-Shades SampleAt(double x, double y, Vector sun) {
+Shades SampleAt(double x, double y, Vector3 sun) {
   const double beyond = 1 - x * x - y * y;
   return beyond < 0 ? Sky() : ColorAt({x, y, std::sqrt(beyond)}, sun);
 }
 
 // The mean of the samples of a pixel.
-std::uint32_t PixelAt(int width, int column, int row, Vector sun) {
+std::uint32_t PixelAt(int width, int column, int row, Vector3 sun) {
   const double radius = kMoonDiscRadius * width;
   Shades sum{};
   const auto offset = [&](int pixel, int sample) {
@@ -75,7 +75,7 @@ std::uint32_t PixelAt(int width, int column, int row, Vector sun) {
 }  // namespace
 
 std::vector<std::uint32_t> DrawMoon(int width, MoonPhase phase) {
-  const Vector sun = SunAt(phase);
+  const Vector3 sun = SunAt(phase);
   std::vector<std::uint32_t> pixels;
   for (int row = 0; row < width; ++row) {
     for (int column = 0; column < width; ++column) {

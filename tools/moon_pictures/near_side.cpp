@@ -109,9 +109,9 @@ constexpr Crater kBrightCraters[] = {
 
 // Where the sky stands above a place.
 struct Frame {
-  Vector up;
-  Vector east;
-  Vector north;
+  Vector3 up;
+  Vector3 east;
+  Vector3 north;
 };
 
 Frame FrameOf(double latitude, double longitude) {
@@ -140,7 +140,7 @@ struct Offset {
   double north = 0;
 };
 
-Offset OffsetFrom(const Frame& origin, Vector place) {
+Offset OffsetFrom(const Frame& origin, Vector3 place) {
   const double east = Dot(place, origin.east);
   const double north = Dot(place, origin.north);
   const double sine = std::hypot(east, north);
@@ -161,7 +161,7 @@ struct Mare {
 };
 
 // Shores are ragged: `wander` moves them, in degrees of arc.
-Mare MareAt(Vector place, double wander) {
+Mare MareAt(Vector3 place, double wander) {
   Mare mare;
   for (std::size_t i = 0; i < std::size(kMaria); ++i) {
     const Patch& patch = kMaria[i];
@@ -195,8 +195,8 @@ double RaysAt(const Crater& crater, std::int32_t number, double distance, double
   return std::min(light, 1.1) * crater.ray_strength;
 }
 
-double GlowAt(Vector place) {
-  const double patchy = 0.1 + 1.6 * FractalNoise(place * 18, 3, 61);
+double GlowAt(Vector3 place) {
+  const double patchy = 0.1 + 1.6 * FractalNoise(18 * place, 3, 61);
   double light = 0;
   for (std::size_t i = 0; i < std::size(kBrightCraters); ++i) {
     const Crater& crater = kBrightCraters[i];
@@ -221,8 +221,8 @@ double BowlHeight(double from_middle) {
 }
 
 // Craters scattered over a grid of cells, `fineness` of them to the Moon's radius.
-double CraterField(Vector place, double fineness, std::uint32_t salt) {
-  const Vector at = place * fineness;
+double CraterField(Vector3 place, double fineness, std::uint32_t salt) {
+  const Vector3 at = fineness * place;
   double height = 0;
   for (int step = 0; step < 27; ++step) {
     const auto cell = [&](double value, int offset) {
@@ -232,7 +232,7 @@ double CraterField(Vector place, double fineness, std::uint32_t salt) {
     const std::int32_t y = cell(at.y, step / 3 % 3);
     const std::int32_t z = cell(at.z, step / 9);
     const auto random = [&](std::uint32_t use) { return HashNoise(x, y, z, salt + use); };
-    const Vector middle{x + random(1), y + random(2), z + random(3)};
+    const Vector3 middle{x + random(1), y + random(2), z + random(3)};
     const double distance = Length(at - middle);
     if (distance > 0.96) continue;  // beyond the slopes of the largest
     const double radius = 0.12 + 0.48 * random(4) * random(5) * random(6);
@@ -243,13 +243,13 @@ double CraterField(Vector place, double fineness, std::uint32_t salt) {
 
 }  // namespace
 
-Ground GroundAt(Vector place) {
-  const double coarse = FractalNoise(place * 5, 4, 1) - 0.5;
-  const double fine = FractalNoise(place * 18, 4, 2) - 0.5;
+Ground GroundAt(Vector3 place) {
+  const double coarse = FractalNoise(5 * place, 4, 1) - 0.5;
+  const double fine = FractalNoise(18 * place, 4, 2) - 0.5;
   const Mare mare = MareAt(place, 12 * coarse + 9 * fine);
 
   const double highland = 0.74 + 0.22 * coarse + 0.34 * fine + 0.06 * Step(-0.1, 0.8, -place.y);
-  const double flow = FractalNoise(place * 6, 4, 3) - 0.5;
+  const double flow = FractalNoise(6 * place, 4, 3) - 0.5;
   const double lava = 0.37 + 0.30 * flow + 0.16 * fine;
   Ground ground;
   ground.brightness = std::lerp(highland, lava, mare.depth) + GlowAt(place);
@@ -258,9 +258,9 @@ Ground GroundAt(Vector place) {
   return ground;
 }
 
-double HeightAt(Vector place) {
+double HeightAt(Vector3 place) {
   return CraterField(place, 10, 101) + CraterField(place, 20, 201) + CraterField(place, 36, 301) +
-         0.03 * FractalNoise(place * 14, 4, 401);
+         0.03 * FractalNoise(14 * place, 4, 401);
 }
 
 }  // namespace tarnwick

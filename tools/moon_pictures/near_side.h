@@ -14,9 +14,9 @@ struct Ground {
   double roughness = 0;   // 0 in the maria, 1 in the highlands
 };
 
-Ground GroundAt(Vector place);
+Ground GroundAt(Vector3 place);
 
 // The height of the ground above the mean in the highlands, in an arbitrary measure.
-double HeightAt(Vector place);
+double HeightAt(Vector3 place);
 
 }  // namespace tarnwick

@@ -13,7 +13,7 @@ std::uint32_t Mix(std::uint32_t value) {
 }
 
 // Turned about an oblique axis, so that the grids of several octaves do not show.
-Vector Turned(Vector at) {
+Vector3 Turned(Vector3 at) {
   return {0.36 * at.x + 0.48 * at.y - 0.80 * at.z, -0.80 * at.x + 0.60 * at.y,
           0.48 * at.x + 0.64 * at.y + 0.60 * at.z};
 }
@@ -22,18 +22,15 @@ double Ease(double t) { return t * t * (3 - 2 * t); }
 
 }  // namespace
 
-double Dot(Vector a, Vector b) { return a.x * b.x + a.y * b.y + a.z * b.z; }
-double Length(Vector a) { return std::sqrt(Dot(a, a)); }
-
 double HashNoise(std::int32_t x, std::int32_t y, std::int32_t z, std::uint32_t salt) {
   std::uint32_t hash = Mix(salt + 0x9e3779b9U);
   for (const std::int32_t part : {x, y, z}) hash = Mix(hash ^ static_cast<std::uint32_t>(part));
   return hash / 4294967295.0;
 }
 
-double SmoothNoise(Vector at, std::uint32_t salt) {
-  const Vector floor{std::floor(at.x), std::floor(at.y), std::floor(at.z)};
-  const Vector t{Ease(at.x - floor.x), Ease(at.y - floor.y), Ease(at.z - floor.z)};
+double SmoothNoise(Vector3 at, std::uint32_t salt) {
+  const Vector3 floor{std::floor(at.x), std::floor(at.y), std::floor(at.z)};
+  const Vector3 t{Ease(at.x - floor.x), Ease(at.y - floor.y), Ease(at.z - floor.z)};
   const auto x = static_cast<std::int32_t>(floor.x);
   const auto y = static_cast<std::int32_t>(floor.y);
   const auto z = static_cast<std::int32_t>(floor.z);
@@ -44,14 +41,14 @@ double SmoothNoise(Vector at, std::uint32_t salt) {
   return std::lerp(plane(0), plane(1), t.z);
 }
 
-double FractalNoise(Vector at, int octaves, std::uint32_t salt) {
+double FractalNoise(Vector3 at, int octaves, std::uint32_t salt) {
   double sum = 0;
   double weight = 0;
   double strength = 1;
   for (int i = 0; i < octaves; ++i, strength /= 2) {
     sum += strength * SmoothNoise(at, salt + static_cast<std::uint32_t>(i));
     weight += strength;
-    at = Turned(at) * 2;
+    at = 2 * Turned(at);
   }
   return sum / weight;
 }

@@ -10,6 +10,7 @@
 #include "calendars/date_processing.h"
 #include "calendars/date_texts.h"
 #include "calendars/text.h"
+#include "engines/phases.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
 
@@ -90,7 +91,8 @@ template <class Visit>
 bool VisitPhases(const Period& period, std::int16_t step, const Visit& visit) {
   const std::int32_t last = LunationOf(period.end) + 1;
   for (std::int32_t lunation = LunationOf(period.begin) - 1; lunation <= last; ++lunation) {
-    for (std::int16_t phase = 0; phase < 4; phase = static_cast<std::int16_t>(phase + step)) {
+    for (std::int16_t phase = 0; phase < kPhaseCount;
+         phase = static_cast<std::int16_t>(phase + step)) {
       if (!visit(lunation, phase, FindPhaseEvent(lunation, phase))) return false;
     }
   }
@@ -135,7 +137,7 @@ bool PrintEclipses(const Period& period, Printer& printer) {
   if (!printer.Print(period.begin, header)) return false;
   return VisitPhases(period, 2, [&](std::int32_t lunation, std::int16_t phase, const auto& event) {
     const EclipseRecord& eclipse = event.eclipse;
-    if (eclipse.type == 0) return true;
+    if (eclipse.type == kNotEclipsed) return true;
     const double ut = UniversalTime(eclipse.greatest);
     if (!Contains(period, ut)) return true;
     return printer.Print(ut, EclipseRow(lunation, phase, eclipse, ut));
