@@ -103,7 +103,7 @@ void frmMain::ParseDateEntry(const std::string& text, std::int16_t& error_code, 
   }
   error_code = entry.code;
   if (entry.code != kEntryOk) return;
-  intCalendar = entry.calendar;
+  intCalendar = *entry.calendar;
   MarkCurrentCalendar();
   ajd = entry.ajd;
 }

@@ -2,7 +2,6 @@
 #include "app/main_window.h"
 #include "calendars/date_processing.h"
 #include "calendars/date_texts.h"
-#include "calendars/lunar_week.h"
 #include "calendars/text.h"
 
 namespace tarnwick {
@@ -10,7 +9,7 @@ double frmMain::AJDToCJD(double ajd) const { return tarnwick::AJDToCJD(ajd, Read
 
 // The time of day of the current moment, as its current calendar counts the day.
 std::string frmMain::MomentTimeText() const {
-  const double cjd = AJDToCJD(dblMoment) - (intCalendar == kOLW ? kOLWDayShift : 0);
+  const double cjd = AJDToCJD(dblMoment) - RowOf(intCalendar).day_shift;
   return TimeOfDayText(SplitCJD(cjd).fraction, false);
 }
 
@@ -27,7 +26,7 @@ void frmMain::DisplayTime() {
 
 std::string frmMain::DisplayAllDates() {
   std::string summary;
-  for (std::int16_t calendar = 0; calendar < kCalendarCount; ++calendar) {
+  for (const Calendar calendar : kCalendars) {
     const DateTexts texts = DateTextsOf(calendar, dblMoment, ReadingOffset());
     Label& label = DateLabelOf(calendar)[1];
     label.SetCaption(texts.long_form);
@@ -48,7 +47,7 @@ std::string frmMain::DisplayMoment() {
 }
 
 void frmMain::MarkCurrentCalendar() {
-  for (std::int16_t calendar = 0; calendar < kCalendarCount; ++calendar) {
+  for (const Calendar calendar : kCalendars) {
     DateLabelOf(calendar)[1].SetForeColor(calendar == intCalendar ? kSelectedColor
                                                                   : kUnselectedColor);
   }

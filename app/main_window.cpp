@@ -28,7 +28,7 @@ frmMain::frmMain(Desktop& desktop, Screen& screen)
 }
 
 void frmMain::NameLabels() {
-  for (std::int16_t calendar = 0; calendar < kCalendarCount; ++calendar) {
+  for (const Calendar calendar : kCalendars) {
     DateLabelOf(calendar)[0].SetCaption(std::string(AbbreviationOf(calendar)));
   }
   lblTime[0].SetCaption("Time");

@@ -144,7 +144,7 @@ class frmMain final : public Form {
   void Form_KeyPress(int& key) override;
 
   // The label array of a calendar of the calendar table.
-  DateLabel& DateLabelOf(std::int16_t calendar) {
+  DateLabel& DateLabelOf(Calendar calendar) {
     return *date_labels_[static_cast<std::size_t>(calendar)];
   }
 
@@ -298,7 +298,7 @@ class frmMain final : public Form {
   std::array<DateLabel*, kCalendarCount> date_labels_;
 
   double dblMoment = 0;              // the current moment, AJD in Universal Time
-  std::int16_t intCalendar = kCE;    // the current calendar
+  Calendar intCalendar = kCE;        // the current calendar
   std::int16_t intStoredOffset = 0;  // of the zone when the moment was last set, minutes
   std::int16_t intClockSeconds = 5;  // between two readings of the running clock
   bool blnClockRunning = false;      // the moment is the present one and follows the clock

@@ -1,12 +1,136 @@
 #include "calendars/calendar_table.h"
 
-namespace tarnwick {
+#include <algorithm>
+#include <cstddef>
 
-std::int16_t CalendarIndex(std::string_view abbreviation) {
-  for (std::int16_t i = 0; i < kCalendarCount; ++i) {
-    if (kCalendarTable[static_cast<std::size_t>(i)].abbreviation == abbreviation) return i;
+#include "calendars/date_processing.h"
+#include "calendars/day_date.h"
+#include "calendars/text.h"
+
+namespace tarnwick {
+namespace {
+
+DateTexts EuroTexts(std::int32_t day_number, char letter, Calendar calendar) {
+  const DateRecord date = CivilDateOf(day_number, letter);
+  const std::string short_form = DateText(date) + " " + std::string(AbbreviationOf(calendar));
+  return {short_form,
+          short_form + " (" + WeekdayName(euro_day_of_week(day_number)) + ", " +
+              std::string(MonthName(date.month)) + " " + std::to_string(date.day) + ", " +
+              YearText(date.year) + ")",
+          DayOfYearText(date)};
+}
+
+DateTexts CETexts(std::int32_t day_number) { return EuroTexts(day_number, 'G', kCE); }
+DateTexts JCTexts(std::int32_t day_number) { return EuroTexts(day_number, 'J', kJC); }
+
+DateTexts ARCTexts(std::int32_t day_number) {
+  const ARCDate date = DateOfDay<ARCDate>(day_number);
+  return {ARCDateString(date, 1), ARCDateString(date, 2), ARCDateString(date, 4)};
+}
+
+DateTexts SDTexts(std::int32_t day_number) {
+  const SDDate date = DateOfDay<SDDate>(day_number);
+  return {SDDateString(date, 1), SDDateString(date, 2), SDDateString(date, 4)};
+}
+
+DateTexts LLTTexts(std::int32_t day_number) {
+  const LLTDate date = DateOfDay<LLTDate>(day_number);
+  return {LLTDateString(date, 1), LLTDateString(date, 2), LLTDateString(date, 3)};
+}
+
+DateTexts KSGTexts(std::int32_t day_number) {
+  const KSGDate date = DateOfDay<KSGDate>(day_number);
+  return {KSGDateString(date, 1, true), KSGDateString(date, 2, true), KSGDateString(date, 3, true)};
+}
+
+DateTexts OLWTexts(std::int32_t day_number) {
+  const OLWDate date = DateOfDay<OLWDate>(day_number);
+  const std::string short_form = OLWDateString(date, 1);
+  return {short_form, short_form + " (" + OLWDateString(date, 2) + ")", ""};
+}
+
+ReadDay ReadEuroDay(std::string_view date, char letter, EntryCode failure) {
+  DateRecord record;
+  record.calendar = letter;
+  if (ParseDateString(date, record) != kDateParsed) return {failure};
+  return {kEntryOk, euro_date_to_jdn(record)};
+}
+
+ReadDay ReadCEDay(std::string_view date) { return ReadEuroDay(date, 'G', kInvalidCE); }
+ReadDay ReadJCDay(std::string_view date) { return ReadEuroDay(date, 'J', kInvalidJC); }
+
+ReadDay ReadARCDay(std::string_view date) {
+  DateRecord record;
+  record.calendar = 'R';
+  if (ParseDateString(date, record) != kDateParsed) return {kInvalidARC};
+  ARCDate arc{record.year, record.month, record.day};
+  if (!ARCDateToJDN(arc)) return {kInvalidARC};
+  return {kEntryOk, arc.jdn};
+}
+
+// For a calendar whose own module reads its texts.
+template <typename Record>
+ReadDay ReadOwnDay(std::string_view date, bool (*parse)(std::string_view, Record&),
+                   bool (*to_jdn)(Record&), EntryCode failure) {
+  Record record;
+  if (!parse(date, record) || !to_jdn(record)) return {failure};
+  return {kEntryOk, record.jdn};
+}
+
+ReadDay ReadSDDay(std::string_view date) {
+  return ReadOwnDay(date, ParseSDDate, SDDateToJDN, kInvalidSD);
+}
+ReadDay ReadLLTDay(std::string_view date) {
+  return ReadOwnDay(date, ParseLLTDate, LLTToJDN, kInvalidLLT);
+}
+ReadDay ReadKSGDay(std::string_view date) {
+  return ReadOwnDay(date, ParseKSGDate, KSGDateToJDN, kInvalidKSG);
+}
+
+ReadDay ReadOLWDay(std::string_view date) {
+  OLWDate olw;
+  switch (ParseOLWDate(date, olw)) {
+    case kOLWValid:
+      return {kEntryOk, olw.jdn};
+    case kOLWBadMonth:
+      return {kInvalidOLWMonth};
+    case kOLWBadWeek:
+      return {kInvalidOLWWeek};
+    case kOLWBadDay:
+      return {kInvalidOLWDay};
+    default:
+      return {kInvalidOLW};
   }
-  return -1;
+}
+
+constexpr std::array<CalendarRow, kCalendarCount> kRows{{
+    {"CE", "Common Era date", "Common Era date", 0, kInvalidCE, CETexts, ReadCEDay},
+    {"JC", "Julian date", "Julian date", 0, kInvalidJC, JCTexts, ReadJCDay},
+    {"ARC", "Archetypes Calendar date", "Archetypes Calendar date", 0, kInvalidARC, ARCTexts,
+     ReadARCDay},
+    {"SD", "Sarvik-Dolmer Solilunar Calendar date", "Sarvik-Dolmer Solilunar Calendar date", 0,
+     kInvalidSD, SDTexts, ReadSDDay},
+    {"LLT", "Lunar Liberalia Triday Calendar date", "Lunar Liberalia Triday Calendar date", 0,
+     kInvalidLLT, LLTTexts, ReadLLTDay},
+    {"KSG", "Kestrin-Sarvik Goddess Calendar date", "Kestrin-Sarvik Goddess Calendar date", 0,
+     kInvalidKSG, KSGTexts, ReadKSGDay},
+    {"CJD", "chronological Julian date", "Chronological Julian date", 0, kInvalidDayCount, nullptr,
+     nullptr},
+    {"AJD", "astronomical Julian date", "Astronomical Julian date", 0, kInvalidDayCount, nullptr,
+     nullptr},
+    {"OLW", "Ostrel Lunar Week Calendar", "Ostrel Lunar Week Calendar date", kOLWDayShift,
+     kInvalidOLW, OLWTexts, ReadOLWDay},
+}};
+
+}  // namespace
+
+const CalendarRow& RowOf(Calendar calendar) { return kRows[static_cast<std::size_t>(calendar)]; }
+
+std::optional<Calendar> CalendarIndex(std::string_view abbreviation) {
+  const auto found = std::find_if(kCalendars.begin(), kCalendars.end(), [&](Calendar calendar) {
+    return AbbreviationOf(calendar) == abbreviation;
+  });
+  return found == kCalendars.end() ? std::nullopt : std::optional(*found);
 }
 
 }  // namespace tarnwick

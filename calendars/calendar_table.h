@@ -1,41 +1,59 @@
+// The nine calendars and day counts that a moment is read and shown in, and what the program knows
+// of each.
 #pragma once
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
+
+#include "calendars/entry_code.h"
 
 namespace tarnwick {
 
-// The nine calendars and day counts, by their index in the calendar table.
-enum Calendar : std::int16_t { kCE, kJC, kARC, kSD, kLLT, kKSG, kCJD, kAJD, kOLW };
+// By their numbers in the saved state.
+enum class Calendar : std::int16_t { kCE, kJC, kARC, kSD, kLLT, kKSG, kCJD, kAJD, kOLW };
+using enum Calendar;
 
 inline constexpr std::int16_t kCalendarCount = 9;
-
-struct CalendarName {
-  std::string_view abbreviation;
-  std::string_view long_name;
-};
-
-inline constexpr std::array<CalendarName, kCalendarCount> kCalendarTable{{
-    {"CE", "Common Era date"},
-    {"JC", "Julian date"},
-    {"ARC", "Archetypes Calendar date"},
-    {"SD", "Sarvik-Dolmer Solilunar Calendar date"},
-    {"LLT", "Lunar Liberalia Triday Calendar date"},
-    {"KSG", "Kestrin-Sarvik Goddess Calendar date"},
-    {"CJD", "chronological Julian date"},
-    {"AJD", "astronomical Julian date"},
-    {"OLW", "Ostrel Lunar Week Calendar"},
-}};
-
-constexpr std::string_view AbbreviationOf(std::int16_t calendar) {
-  return kCalendarTable[static_cast<std::size_t>(calendar)].abbreviation;
-}
-
-// The index of the calendar with exactly this abbreviation, or -1.
-std::int16_t CalendarIndex(std::string_view abbreviation);
+inline constexpr std::array<Calendar, kCalendarCount> kCalendars{kCE,  kJC,  kARC, kSD, kLLT,
+                                                                 kKSG, kCJD, kAJD, kOLW};
 
 // Whether its dates are plain day counts, with the time of day in their fraction.
-constexpr bool IsDayCount(std::int16_t calendar) { return calendar == kCJD || calendar == kAJD; }
+constexpr bool IsDayCount(Calendar calendar) { return calendar == kCJD || calendar == kAJD; }
+
+// How one calendar shows a moment.
+struct DateTexts {
+  std::string short_form;  // "2003-12-31 CE": what the history and the entry box take
+  std::string long_form;   // "2003-12-31 CE (Wednesday, December 31, 2003)": the label's caption
+  std::string tool_tip;  // "The 31st day of December in the year 2003 ..."; empty if there is none
+};
+
+// What a date text says: its day, or why there is none.
+struct ReadDay {
+  EntryCode code = kEntryOk;
+  std::int32_t day_number = 0;
+};
+
+// Day numbers are the calendar's own: a day of OLW begins later than the civil day of its number.
+struct CalendarRow {
+  std::string_view abbreviation;
+  std::string_view long_name;    // in the middle of a sentence
+  std::string_view spoken_name;  // of its date on display, for who does not see it
+  double day_shift;              // of the beginning of its days after midnight, in days
+  EntryCode failure;             // why a text is refused that is none of its dates
+  // Nothing for a day count:
+  DateTexts (*texts)(std::int32_t day_number);
+  // The text is a date without abbreviation. Throws RuntimeError when a number is too large.
+  ReadDay (*read)(std::string_view date);
+};
+
+const CalendarRow& RowOf(Calendar calendar);
+
+inline std::string_view AbbreviationOf(Calendar calendar) { return RowOf(calendar).abbreviation; }
+
+// The calendar with exactly this abbreviation.
+std::optional<Calendar> CalendarIndex(std::string_view abbreviation);
 
 }  // namespace tarnwick

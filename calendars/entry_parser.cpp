@@ -1,143 +1,32 @@
 #include "calendars/entry_parser.h"
 
-#include <array>
 #include <cctype>
 #include <optional>
 
-#include "calendars/archetypes.h"
-#include "calendars/calendar_table.h"
 #include "calendars/date_processing.h"
-#include "calendars/goddess.h"
-#include "calendars/lunar_week.h"
-#include "calendars/solilunar.h"
 #include "calendars/text.h"
-#include "calendars/triday.h"
 #include "engines/checked_arithmetic.h"
 #include "engines/time_units.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr std::array<std::string_view, 20> kErrorTexts{
-    "",
-    "Invalid date entry.",
-    "Calendar must be specified (one of CE, JC, ARC, SD, LLT, OLW, CJD and AJD).",
-    "Time specification not permitted with CJD or AJD.",
-    "Invalid time specification.  Times must be, e.g., 23:50.",
-    "Date separator must be a dash, '-'.",
-    "Invalid CE date.  CE dates must be in ISO 8601 format: year-month-day",
-    "Invalid JC date.  JC dates must be in ISO 8601 format: year-month-day",
-    "Invalid ARC date.  ARC dates must be in the form: year-month-day",
-    "Invalid SD date.  SD dates must be in the form: cycle-year-month-day",
-    "Invalid LLT date.  LLT dates must be in the form: cycle-year-month-triday-day or "
-    "year-month-triday-day",
-    "Invalid KSG date.  KSG dates must be in the form: cycle-year-month-day or year-month-day",
-    "Invalid CJD or AJD date.  These must be, e.g., 999999.99 CJD or 2,111,111 AJD.",
-    "Error when parsing date string.",
-    "Value for addition or subtraction is invalid.",
-    "Invalid OLW date.  OWL dates must be in the form: year-month-week-day",
-    "Invalid month value in OLW date.",
-    "Invalid week value in OLW date.",
-    "Invalid day value in OLW date.",
-    "No date given.",
-};
-
 bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
-// A date text on its way to a day number.
-struct DayResult {
-  std::int16_t code = kEntryOk;
-  std::int32_t day_number = 0;
-};
+enum class Sought { kAny, kWithDates };
 
-DayResult FailedDay(std::int16_t code) { return {code, 0}; }
-
-DayResult ParseEuroDay(std::string_view date, char letter, std::int16_t failure) {
-  DateRecord record;
-  record.calendar = letter;
-  if (ParseDateString(date, record) != kDateParsed) return FailedDay(failure);
-  return {kEntryOk, euro_date_to_jdn(record)};
-}
-
-DayResult ParseCEDay(std::string_view date) { return ParseEuroDay(date, 'G', kInvalidCE); }
-DayResult ParseJCDay(std::string_view date) { return ParseEuroDay(date, 'J', kInvalidJC); }
-
-DayResult ParseARCDay(std::string_view date) {
-  DateRecord record;
-  record.calendar = 'R';
-  if (ParseDateString(date, record) != kDateParsed) return FailedDay(kInvalidARC);
-  ARCDate arc;
-  arc.year = record.year;
-  arc.month = record.month;
-  arc.day = record.day;
-  if (!ARCDateToJDN(arc)) return FailedDay(kInvalidARC);
-  return {kEntryOk, arc.jdn};
-}
-
-// For a calendar whose own module reads its texts.
-template <typename Record>
-DayResult ParseOwnDay(std::string_view date, bool (*parse)(std::string_view, Record&),
-                      bool (*to_jdn)(Record&), std::int16_t failure) {
-  Record record;
-  if (!parse(date, record) || !to_jdn(record)) return FailedDay(failure);
-  return {kEntryOk, record.jdn};
-}
-
-DayResult ParseSDDay(std::string_view date) {
-  return ParseOwnDay(date, ParseSDDate, SDDateToJDN, kInvalidSD);
-}
-DayResult ParseLLTDay(std::string_view date) {
-  return ParseOwnDay(date, ParseLLTDate, LLTToJDN, kInvalidLLT);
-}
-DayResult ParseKSGDay(std::string_view date) {
-  return ParseOwnDay(date, ParseKSGDate, KSGDateToJDN, kInvalidKSG);
-}
-
-DayResult ParseOLWDay(std::string_view date) {
-  OLWDate olw;
-  const std::int16_t status = ParseOLWDate(date, olw);
-  switch (status) {
-    case kOLWValid:
-      return {kEntryOk, olw.jdn};
-    case kOLWBadMonth:
-      return FailedDay(kInvalidOLWMonth);
-    case kOLWBadWeek:
-      return FailedDay(kInvalidOLWWeek);
-    case kOLWBadDay:
-      return FailedDay(kInvalidOLWDay);
-    default:
-      return FailedDay(kInvalidOLW);
-  }
-}
-
-// How each calendar with a day number reads its date texts.
-struct DayParser {
-  Calendar calendar;
-  std::int16_t failure;
-  DayResult (*parse)(std::string_view date);
-};
-
-// In the order in which a text is searched for their abbreviations.
-constexpr std::array kDayParsers{
-    DayParser{kCE, kInvalidCE, ParseCEDay},    DayParser{kJC, kInvalidJC, ParseJCDay},
-    DayParser{kARC, kInvalidARC, ParseARCDay}, DayParser{kSD, kInvalidSD, ParseSDDay},
-    DayParser{kLLT, kInvalidLLT, ParseLLTDay}, DayParser{kKSG, kInvalidKSG, ParseKSGDay},
-    DayParser{kOLW, kInvalidOLW, ParseOLWDay},
-};
-
-const DayParser* FindDayParser(std::string_view text) {
-  for (const DayParser& parser : kDayParsers) {
-    if (Contains(text, AbbreviationOf(parser.calendar))) return &parser;
-  }
-  return nullptr;
-}
-
-// The first abbreviation of the calendar table that occurs anywhere in the text.
-std::optional<std::int16_t> FindCalendar(std::string_view text) {
-  for (std::int16_t i = 0; i < kCalendarCount; ++i) {
-    if (Contains(text, AbbreviationOf(i))) return i;
+// The first calendar whose abbreviation occurs anywhere in the text.
+std::optional<Calendar> FindCalendar(std::string_view text, Sought sought) {
+  for (const Calendar calendar : kCalendars) {
+    if (sought == Sought::kWithDates && IsDayCount(calendar)) continue;
+    if (Contains(text, AbbreviationOf(calendar))) return calendar;
   }
   return std::nullopt;
+}
+
+// What stands before the abbreviation.
+std::string_view BeforeAbbreviation(std::string_view text, Calendar calendar) {
+  return text.substr(0, text.find(AbbreviationOf(calendar)));
 }
 
 // After the abbreviation come the time, a remark in parentheses, or nothing.
@@ -146,7 +35,9 @@ bool IsFollowedProperly(std::string_view text, std::string_view abbreviation) {
   return next == text.size() || IsDigit(text[next]) || text[next] == '(';
 }
 
-bool HasDayCount(std::string_view text) { return Contains(text, "CJD") || Contains(text, "AJD"); }
+bool HasDayCount(std::string_view text) {
+  return Contains(text, AbbreviationOf(kCJD)) || Contains(text, AbbreviationOf(kAJD));
+}
 
 std::int16_t CheckSeparators(std::string_view text) {
   if (HasDayCount(text)) return CountOf(text, "-") > 1 ? kInvalidDayCount : kEntryOk;
@@ -177,49 +68,38 @@ Entry Failed(std::int16_t code) {
   return entry;
 }
 
-// The number at the beginning of a day-count entry, as it stands before the abbreviation.
-double DayCount(std::string_view text, std::int16_t calendar) {
-  return LeadingNumber(text.substr(0, text.find(AbbreviationOf(calendar))));
-}
-
 Entry ParseDayCount(std::string_view text, const EntryContext& context) {
   if (!context.history_recall && Contains(text, ":")) return Failed(kTimeNotPermitted);
   // Another calendar named beside the day count goes first, and no date of one has a single dash.
-  const DayParser* parser = FindDayParser(text);
-  if (parser != nullptr && parser->calendar != kOLW) return Failed(parser->failure);
+  const auto named = FindCalendar(text, Sought::kWithDates);
+  if (named && *named != kOLW) return Failed(RowOf(*named).failure);
+  const Calendar calendar = Contains(text, AbbreviationOf(kCJD)) ? kCJD : kAJD;
+  const double count = LeadingNumber(BeforeAbbreviation(text, calendar));
   Entry entry;
-  if (Contains(text, "CJD")) {
-    entry.calendar = kCJD;
-    entry.ajd = CJDToAJD(DayCount(text, kCJD), context.offset_minutes);
-  } else {
-    entry.calendar = kAJD;
-    entry.ajd = DayCount(text, kAJD);
-  }
+  entry.calendar = calendar;
+  entry.ajd = calendar == kCJD ? CJDToAJD(count, context.offset_minutes) : count;
   return entry;
 }
 
-DayResult ParseDay(const DayParser& parser, std::string_view date) {
+ReadDay ParseDay(Calendar calendar, std::string_view date) {
   try {
-    return parser.parse(date);
+    return RowOf(calendar).read(date);
   } catch (const RuntimeError&) {  // a number too large for the calendar's arithmetic
-    return FailedDay(parser.failure);
+    return {RowOf(calendar).failure};
   }
 }
 
 Entry ParseDateAndTime(const std::string& text, const EntryContext& context) {
   const DateAndTime parts = SplitTime(text);
   if (parts.fraction < 0 || parts.fraction >= 1) return Failed(kInvalidTime);
-  const DayParser* parser = FindDayParser(parts.date);
-  if (parser == nullptr) return Failed(kUnparsable);
-
-  const std::string_view date(parts.date);
-  const DayResult day =
-      ParseDay(*parser, date.substr(0, date.find(AbbreviationOf(parser->calendar))));
+  const auto calendar = FindCalendar(parts.date, Sought::kWithDates);
+  if (!calendar) return Failed(kUnparsable);
+  const ReadDay day = ParseDay(*calendar, BeforeAbbreviation(parts.date, *calendar));
   if (day.code != kEntryOk) return Failed(day.code);
   Entry entry;
-  entry.calendar = parser->calendar;
-  const double shift = parser->calendar == kOLW ? kOLWDayShift : 0;
-  entry.ajd = CJDToAJD(day.day_number + (parts.fraction + shift), context.offset_minutes);
+  entry.calendar = *calendar;
+  const double time = parts.fraction + RowOf(*calendar).day_shift;
+  entry.ajd = CJDToAJD(day.day_number + time, context.offset_minutes);
   return entry;
 }
 
@@ -231,17 +111,12 @@ Entry ParseWithCalendar(const std::string& text, const EntryContext& context) {
 
 }  // namespace
 
-std::string_view EntryErrorText(std::int16_t code) {
-  if (code < 1 || static_cast<std::size_t>(code) >= kErrorTexts.size()) return "Unknown error.";
-  return kErrorTexts[static_cast<std::size_t>(code)];
-}
-
 Entry ParseEntry(std::string_view text, const EntryContext& context) {
   std::string working = RemoveChars(text, ", ");
   if (working.empty() || (working.front() != '-' && !IsDigit(working.front()))) {
     return Failed(kInvalidEntry);
   }
-  const std::optional<std::int16_t> named = FindCalendar(working);
+  const std::optional<Calendar> named = FindCalendar(working, Sought::kAny);
   if (named) {
     return IsFollowedProperly(working, AbbreviationOf(*named)) ? ParseWithCalendar(working, context)
                                                                : Failed(kCalendarMissing);

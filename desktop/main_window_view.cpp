@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "calendars/calendar_table.h"
 #include "desktop/bound_widgets.h"
 #include "desktop/characters.h"
 #include "desktop/look.h"
@@ -15,7 +16,7 @@
 namespace tarnwick {
 namespace {
 
-constexpr Wording kWordings[] = {
+const Wording kWordings[] = {
     {"txbDate", 0, "Date and time"},
     {"optPlus", 'p', ""},
     {"optMinus", 'm', ""},
@@ -30,15 +31,15 @@ constexpr Wording kWordings[] = {
     {"lblTimeZone", 'z', ""},
     {"cboTimeZone", 0, "Time zone"},
     {"lblTime(1)", 0, "Time"},
-    {"lblCommonEraDate(1)", 0, "Common Era date"},
-    {"lblJulianCalendarDate(1)", 0, "Julian date"},
-    {"lblArchetypesDate(1)", 0, "Archetypes Calendar date"},
-    {"lblSarvikDolmerSLCDate(1)", 0, "Sarvik-Dolmer Solilunar Calendar date"},
-    {"lblLTCLunarDate(1)", 0, "Lunar Liberalia Triday Calendar date"},
-    {"lblKSGDate(1)", 0, "Kestrin-Sarvik Goddess Calendar date"},
-    {"lblOstrelLWCDate(1)", 0, "Ostrel Lunar Week Calendar date"},
-    {"lblChronologicalJulianDate(1)", 0, "Chronological Julian date"},
-    {"lblAstronomicalJulianDate(1)", 0, "Astronomical Julian date"},
+    {"lblCommonEraDate(1)", 0, RowOf(kCE).spoken_name},
+    {"lblJulianCalendarDate(1)", 0, RowOf(kJC).spoken_name},
+    {"lblArchetypesDate(1)", 0, RowOf(kARC).spoken_name},
+    {"lblSarvikDolmerSLCDate(1)", 0, RowOf(kSD).spoken_name},
+    {"lblLTCLunarDate(1)", 0, RowOf(kLLT).spoken_name},
+    {"lblKSGDate(1)", 0, RowOf(kKSG).spoken_name},
+    {"lblOstrelLWCDate(1)", 0, RowOf(kOLW).spoken_name},
+    {"lblChronologicalJulianDate(1)", 0, RowOf(kCJD).spoken_name},
+    {"lblAstronomicalJulianDate(1)", 0, RowOf(kAJD).spoken_name},
     {"picMoon", 0, "The Moon at the moment"},
     {"lblPhaseOfMoon(1)", 0, "Phase of the Moon"},
     {"lblAgeOfMoon(1)", 0, "Age of the Moon"},

@@ -30,8 +30,8 @@ std::string_view BeforeBlankAnd(std::string_view caption, std::string_view mark)
 // A date as the layout without calendar names shows it. In the CE and JC labels the first comma
 // stands behind the weekday, which the log has always shown so.
 std::string_view DateText(const LogDate& date) {
-  const std::int16_t calendar = CalendarIndex(date.calendar);
-  if (IsDayCount(calendar)) return date.caption;
+  const auto calendar = CalendarIndex(date.calendar);
+  if (calendar && IsDayCount(*calendar)) return date.caption;
   if (calendar == kCE || calendar == kJC) return Before(date.caption, ",");
   return BeforeBlankAnd(date.caption, "(");
 }

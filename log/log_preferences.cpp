@@ -31,11 +31,11 @@ LogLayout frmLogPreferences::Layout() const {
   return optLogFormat[1].Value() ? LogLayout::kDateOnly : LogLayout::kCalendarAndDate;
 }
 
-const CheckBox& frmLogPreferences::IncludeOf(std::int16_t calendar) const {
+const CheckBox& frmLogPreferences::IncludeOf(Calendar calendar) const {
   const CheckBox* const boxes[] = {&chkIncludeCE,  &chkIncludeJC,  &chkIncludeARC,
                                    &chkIncludeSD,  &chkIncludeLLT, &chkIncludeKSG,
                                    &chkIncludeCJD, &chkIncludeAJD, &chkIncludeOLWC};
-  return *boxes[calendar];
+  return *boxes[static_cast<std::size_t>(calendar)];
 }
 
 void frmLogPreferences::Form_Activate() { cmdClose.SetFocus(); }

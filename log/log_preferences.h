@@ -1,8 +1,8 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 
+#include "calendars/calendar_table.h"
 #include "controls/closable_form.h"
 #include "controls/control_array.h"
 #include "controls/controls.h"
@@ -43,7 +43,7 @@ class frmLogPreferences final : public ClosableForm {
   void SetDefaults();
   LogLayout Layout() const;
   // The check box of a calendar of the calendar table.
-  const CheckBox& IncludeOf(std::int16_t calendar) const;
+  const CheckBox& IncludeOf(Calendar calendar) const;
 
   void Form_Activate() override;
   void Form_Unload(bool& cancel) override;

@@ -66,10 +66,11 @@ GridCell CellOf(std::int32_t day_number, const GridReading& reading,
                 const std::vector<DayEvent>& events) {
   const double noon = CJDToAJD(day_number + 0.5, reading.offset_minutes);
   const DateTexts ce = DateTextsOf(kCE, noon, reading.offset_minutes);
-  GridCell cell{
-      day_number, CalendarDayOf(reading.calendar, day_number).day, ce.short_form, "",
-      DateTextsOf(CalendarTableIndex(reading.calendar), noon, reading.offset_minutes).long_form +
-          "\n" + ce.long_form};
+  const auto calendar = PageCalendar(reading.calendar);
+  const std::string date =
+      calendar ? DateTextsOf(*calendar, noon, reading.offset_minutes).long_form : "";
+  GridCell cell{day_number, CalendarDayOf(reading.calendar, day_number).day, ce.short_form, "",
+                date + "\n" + ce.long_form};
   for (const DayEvent& event : events) {
     if (event.when.day_number != day_number) continue;
     cell.event += (cell.event.empty() ? "" : "\n") + event.name;
@@ -102,7 +103,7 @@ std::string TitleOf(const LunationDays& days, const std::vector<PageMonth>& mont
       std::max_element(months.begin(), months.end(),
                        [](const PageMonth& a, const PageMonth& b) { return a.days < b.days; });
   const std::string text =
-      CalendarTableIndex(calendar) < 0 ? "Undefined calendar" : longest->name + " " + longest->year;
+      PageCalendar(calendar) ? longest->name + " " + longest->year : "Undefined calendar";
   return "Lunation " + std::to_string(days.lunation) + " (" + text + ")";
 }
 

@@ -1,6 +1,5 @@
 #include "lunation_view/month_calendar.h"
 
-#include "calendars/calendar_table.h"
 #include "calendars/day_date.h"
 
 namespace tarnwick {
@@ -40,13 +39,13 @@ CalendarDay LLTDay(std::int32_t day_number) {
 }
 
 struct MonthCalendar {
-  std::int16_t table_index;
+  Calendar calendar;
   CalendarDay (*day)(std::int32_t day_number);
 };
 constexpr std::array<MonthCalendar, kMonthCalendars.size()> kRows{
     {{kARC, ARCDay}, {kSD, SDDay}, {kKSG, KSGDay}, {kLLT, LLTDay}}};
 
-const MonthCalendar* RowOf(int calendar) {
+const MonthCalendar* FindRow(int calendar) {
   const auto index = static_cast<std::size_t>(calendar);
   return index < kRows.size() ? &kRows[index] : nullptr;
 }
@@ -54,13 +53,13 @@ const MonthCalendar* RowOf(int calendar) {
 }  // namespace
 
 CalendarDay CalendarDayOf(int calendar, std::int32_t day_number) {
-  const MonthCalendar* row = RowOf(calendar);
+  const MonthCalendar* row = FindRow(calendar);
   return row == nullptr ? CalendarDay() : row->day(day_number);
 }
 
-std::int16_t CalendarTableIndex(int calendar) {
-  const MonthCalendar* row = RowOf(calendar);
-  return row == nullptr ? std::int16_t{-1} : row->table_index;
+std::optional<Calendar> PageCalendar(int calendar) {
+  const MonthCalendar* row = FindRow(calendar);
+  return row == nullptr ? std::nullopt : std::optional(row->calendar);
 }
 
 }  // namespace tarnwick

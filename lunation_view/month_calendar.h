@@ -3,8 +3,11 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "calendars/calendar_table.h"
 
 namespace tarnwick {
 
@@ -20,7 +23,7 @@ struct CalendarDay {
 };
 CalendarDay CalendarDayOf(int calendar, std::int32_t day_number);
 
-// The index of the calendar in the calendar table, or -1.
-std::int16_t CalendarTableIndex(int calendar);
+// The calendar that an index of the list names.
+std::optional<Calendar> PageCalendar(int calendar);
 
 }  // namespace tarnwick

@@ -103,7 +103,7 @@ std::string frmMain::MakeStep() {
   const std::string& olw = lblOstrelLWCDate[1].Caption();
   dblMoment = StepMoment(step, optMoveDirection[0].Value(), dblMoment, ReadingOffset(),
                          std::string_view(olw).substr(0, olw.find(' ')));
-  if (StepCalendar(step) >= 0) intCalendar = StepCalendar(step);
+  intCalendar = StepCalendar(step).value_or(intCalendar);
   std::string summary = DisplayMoment();
   CopyDateToEntryBox();
   return summary;

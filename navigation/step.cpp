@@ -4,7 +4,6 @@
 #include <array>
 #include <cstddef>
 
-#include "calendars/calendar_table.h"
 #include "calendars/date_processing.h"
 #include "calendars/day_date.h"
 #include "engines/checked_arithmetic.h"
@@ -123,11 +122,11 @@ double StepOLWDate(const Start& start, bool forward) {
 
 struct Step {
   std::string_view text;
-  std::int16_t calendar;
+  std::optional<Calendar> calendar;
   double (*move)(const Start& start, bool forward);
 };
 
-constexpr std::int16_t kUnchanged = -1;
+constexpr std::nullopt_t kUnchanged = std::nullopt;
 
 constexpr std::array<Step, kStepCount> kSteps{{
     {"1 minute", kUnchanged, StepTime<1>},
@@ -158,7 +157,7 @@ const Step& StepAt(int step) { return kSteps[static_cast<std::size_t>(step)]; }
 
 std::string_view StepText(int step) { return StepAt(step).text; }
 
-std::int16_t StepCalendar(int step) { return StepAt(step).calendar; }
+std::optional<Calendar> StepCalendar(int step) { return StepAt(step).calendar; }
 
 double StepMoment(int step, bool forward, double ajd, int offset_minutes,
                   std::string_view olw_date) {

@@ -1,8 +1,10 @@
 // The steps by which a moment can be moved.
 #pragma once
 
-#include <cstdint>
+#include <optional>
 #include <string_view>
+
+#include "calendars/calendar_table.h"
 
 namespace tarnwick {
 
@@ -12,8 +14,8 @@ inline constexpr int kOneDayStep = 2;
 // "1 minute", "1 CE month" ... "1 OLW year".
 std::string_view StepText(int step);
 
-// The calendar that a step makes the current one, -1 if it leaves that as it is.
-std::int16_t StepCalendar(int step);
+// The calendar that a step makes the current one; nothing if it leaves that as it is.
+std::optional<Calendar> StepCalendar(int step);
 
 // The moment (AJD) one step on or back, read and written `offset_minutes` east of Greenwich. Steps
 // of minutes, hours and days are plain; the others change the date and keep the time of day. A date

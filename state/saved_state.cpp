@@ -41,11 +41,11 @@ StateRecord frmMain::MomentRecord() {
 }
 
 StateRecord frmMain::CalendarRecord() {
-  return {[this] { return NumberRecord(intCalendar); },
+  return {[this] { return NumberRecord(static_cast<std::int16_t>(intCalendar)); },
           [this](StateReader& reader) {
             const auto calendar = reader.ReadInteger();
             if (!calendar || *calendar < 0 || *calendar >= kCalendarCount) return false;
-            intCalendar = *calendar;
+            intCalendar = static_cast<Calendar>(*calendar);
             return true;
           }};
 }

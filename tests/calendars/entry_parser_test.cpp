@@ -96,7 +96,7 @@ TEST(ParseEntry, RefusesWithTheCodeOfTheFirstFault) {
     SCOPED_TRACE(expected.text);
     const Entry entry = ParseEntry(expected.text, {});
     EXPECT_EQ(entry.code, expected.code);
-    EXPECT_EQ(entry.calendar, -1);
+    EXPECT_EQ(entry.calendar, std::nullopt);
   }
 }
 
@@ -149,7 +149,7 @@ TEST(ParseEntry, SurvivesAnyText) {
     SCOPED_TRACE(text.substr(0, 20));
     const Entry entry = ParseEntry(text, {kKSG, 720, false});
     EXPECT_FALSE(std::isnan(entry.ajd));
-    EXPECT_EQ(entry.code == kEntryOk, entry.calendar >= 0);
+    EXPECT_EQ(entry.code == kEntryOk, entry.calendar.has_value());
   }
   EXPECT_EQ(ParseEntry(digits + " AJD", {}).ajd, std::numeric_limits<double>::infinity());
 }

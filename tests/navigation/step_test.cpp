@@ -100,10 +100,11 @@ int StepNamed(const std::string& text) {
 TEST_F(Steps, AreListedInOrder) {
   struct Row {
     std::string text;
-    int calendar;
+    std::optional<Calendar> calendar;
   };
+  const std::nullopt_t none = std::nullopt;
   const Row rows[] = {
-      {"1 minute", -1},      {"1 hour", -1},        {"1 day", -1},         {"1 CE month", kCE},
+      {"1 minute", none},    {"1 hour", none},      {"1 day", none},       {"1 CE month", kCE},
       {"1 CE year", kCE},    {"1 CE century", kCE}, {"1 ARC month", kARC}, {"1 ARC year", kARC},
       {"1 SD month", kSD},   {"1 SD year", kSD},    {"1 SD cycle", kSD},   {"1 KSG month", kKSG},
       {"1 KSG year", kKSG},  {"1 KSG cycle", kKSG}, {"1 LLT month", kLLT}, {"1 LLT year", kLLT},
