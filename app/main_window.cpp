@@ -3,7 +3,6 @@
 #include "controls/product.h"
 #include "lunation_view/month_calendar.h"
 #include "moment/time_zone.h"
-#include "moon/syzyg.h"
 #include "navigation/step.h"
 
 namespace tarnwick {
@@ -111,7 +110,6 @@ void frmMain::Form_Load() {
 
 // Sets the choices of a first start; each runs its handler, which sets the colours.
 void frmMain::Initialise() {
-  InitLunations();
   dblMoment = PresentMoment();
   FillLists();
   ClearValueLabels();

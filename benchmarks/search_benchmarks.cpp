@@ -16,8 +16,7 @@ constexpr double kLastMoment = 3912515.0;
 // which is not found again.
 FoundEclipse NextEclipse(int target, double ajd, const PhaseNumber& displayed) {
   const std::int32_t lunation = LunationOf(ajd);
-  bool exact = false;
-  const PhaseNumber at{lunation, GetPhase(lunation, ajd, exact)};
+  const PhaseNumber at{lunation, GetPhase(lunation, ajd).phase};
   return *FindEclipse(
       target, true, at, [&](const FoundEclipse& eclipse) { return eclipse.at != displayed; },
       [] { return true; });
@@ -26,7 +25,6 @@ FoundEclipse NextEclipse(int target, double ajd, const PhaseNumber& displayed) {
 // From the lower limit to the upper; `state.range(0)` is the target.
 void SearchAllEclipses(benchmark::State& state) {
   std::int64_t count = 0;
-  InitLunations();
   for ([[maybe_unused]] auto _ : state) {
     ClearPhaseCache();
     PhaseNumber displayed{-10000000, 0};

@@ -67,6 +67,13 @@ WeekEnds WeekEndsOf(std::int32_t lunation) {
   return ends;
 }
 
+// The lunation whose month holds an OLW day. The day of a new moon ends the month before, even if
+// it begins with that new moon.
+std::int32_t LunationOfDay(std::int32_t day_number) {
+  const std::int32_t lunation = LunationOf(day_number - kStartBeforeNoon);
+  return OLWDayNumber(PhaseTime(lunation, kNewMoon)) < day_number ? lunation : lunation - 1;
+}
+
 std::int32_t LunationOfMonth(const OLWDate& record) {
   return CheckedAdd(FirstLunation(GregorianYear(record.year)), record.month - 1);
 }
@@ -125,15 +132,12 @@ std::int16_t JDNToOLWDate(OLWDate& record) {
   if (record.jdn <= OLWDayNumber(PhaseTime(FirstLunation(year), kNewMoon))) {
     year = CheckedSubtract(year, 1);
   }
-  const std::int32_t first = FirstLunation(year);
-  std::int32_t lunation = first;
-  while (OLWDayNumber(PhaseTime(CheckedAdd(lunation, 1), kNewMoon)) < record.jdn) ++lunation;
-
+  const std::int32_t lunation = LunationOfDay(record.jdn);
   const WeekEnds ends = WeekEndsOf(lunation);
   std::size_t week = 1;
   while (week < kWeeks && record.jdn > ends[week]) ++week;
   record.year = CheckedAdd(year, kYearsBeforeCE);
-  record.month = lunation - first + 1;
+  record.month = lunation - FirstLunation(year) + 1;
   record.week = static_cast<std::int32_t>(week);
   record.day = record.jdn - ends[week - 1];
   return CheckedNarrow<std::int16_t>(ends.back() - ends.front());

@@ -6,8 +6,8 @@
 // of the Gregorian year (OLW year - 3000) and has 12 or 13 months. A day begins at 6 hours; its
 // number is the whole part of CJD - 0.25, rounded down.
 //
-// Phases come in Universal Time from moon/syzyg.h, whose InitLunations must have been called. A
-// number that does not fit 32 bits throws RuntimeError.
+// Phases come in Universal Time from moon/syzyg.h. A number that does not fit 32 bits throws
+// RuntimeError.
 #pragma once
 
 #include <array>

@@ -41,7 +41,7 @@ struct DayEvent {
 
 void AddPhase(std::vector<DayEvent>& events, std::int32_t lunation, std::int16_t phase,
               const GridReading& reading) {
-  const PhaseEvent& event = FindPhaseEvent(lunation, phase);
+  const PhaseEvent event = FindPhaseEvent(lunation, phase);
   events.push_back(
       {DayOf(event.ut, reading), std::string(kPhaseNames[static_cast<std::size_t>(phase)])});
   if (event.eclipse.type == kNotEclipsed) return;

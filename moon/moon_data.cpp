@@ -57,8 +57,7 @@ MoonData MoonDataAt(double ajd) {
   const double new_moon = PhaseTime(data.lunation, kNewMoon);
   data.age = ajd - new_moon;
   data.length = PhaseTime(data.lunation + 1, kNewMoon) - new_moon;
-  bool exact = false;
-  data.phase = GetPhase(data.lunation, ajd, exact);
+  data.phase = GetPhase(data.lunation, ajd).phase;
   if (data.phase < 0) return data;
   data.waxing = IsWaxing(data.phase);
   data.fraction = HasPositions(ajd) ? FractionFromPositions(ajd)

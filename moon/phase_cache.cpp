@@ -32,7 +32,7 @@ PhaseEvent NewEvent(std::int32_t lunation, std::int16_t phase) {
 
 }  // namespace
 
-const PhaseEvent& FindPhaseEvent(std::int32_t lunation, std::int16_t phase) {
+PhaseEvent FindPhaseEvent(std::int32_t lunation, std::int16_t phase) {
   const std::size_t number =
       static_cast<std::uint32_t>(lunation) * std::size_t{4} + static_cast<std::uint16_t>(phase);
   Place& place = Places()[number % kPlaces];

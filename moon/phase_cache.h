@@ -14,8 +14,8 @@ struct PhaseEvent {
 };
 
 // The event of a lunation and phase, from a bounded store of those asked for last. It is what the
-// engine answers, whether it was stored or not. The reference holds until the next call.
-const PhaseEvent& FindPhaseEvent(std::int32_t lunation, std::int16_t phase);
+// engine answers, whether it was stored or not.
+PhaseEvent FindPhaseEvent(std::int32_t lunation, std::int16_t phase);
 
 // Forgets everything stored.
 void ClearPhaseCache();

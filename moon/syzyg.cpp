@@ -5,7 +5,9 @@
 
 #include "engines/checked_arithmetic.h"
 #include "engines/date_engine.h"
+#include "engines/eclipse_type.h"
 #include "engines/names.h"
+#include "engines/phase_engine.h"
 #include "engines/phases.h"
 #include "engines/time_units.h"
 #include "moon/phase_cache.h"
@@ -14,6 +16,7 @@ namespace tarnwick {
 namespace {
 
 constexpr double kExactness = 0.00005;         // days
+constexpr double kFarOff = 2 * SynodicMonth;   // days, more than a lunation can last
 constexpr double kFirstPositionDay = 2305448;  // 1600-01-01 CE
 constexpr double kLastPositionDay = 2488069;   // 2099-12-31 CE
 
@@ -30,27 +33,27 @@ constexpr std::array<std::string_view, kTotalLunar> kEclipseTypes{
     "Total lunar eclipse",
 };
 
-using PhaseInstant = double (*)(std::int32_t n, std::int16_t phase, EclipseRecord& record);
+using PhaseInstant = double (*)(std::int32_t n, std::int16_t phase);
 
 // The phase in effect at t, both instants and t in one time scale.
-std::int16_t PhaseInEffect(std::int32_t n, double t, bool& exact, PhaseInstant instant) {
-  exact = false;
-  if (instant(CheckedAdd(n, 1), kNewMoon, EclipseData) <= t) return -1;
+PhaseInEffect FindPhaseInEffect(std::int32_t n, double t, PhaseInstant instant) {
+  if (instant(CheckedAdd(n, 1), kNewMoon) <= t) return {kInLaterLunation};
   for (std::int16_t phase = kLastQuarter; phase >= kNewMoon; --phase) {
-    const double begin = instant(n, phase, EclipseData);
-    if (begin > t) continue;
-    exact = t - begin < kExactness;
-    return phase;
+    const double begin = instant(n, phase);
+    if (begin <= t) return {phase, t - begin < kExactness};
   }
-  return -2;
+  return {kInEarlierLunation};
 }
+
+// How many mean months fit between two moments.
+std::int32_t MeanLunations(double days) { return CheckedFloor<std::int32_t>(days / SynodicMonth); }
 
 }  // namespace
 
-double LunationBase = 0;
-EclipseRecord EclipseData{};
-
-void InitLunations() { LunationBase = PhaseTime(0, kNewMoon); }
+double LunationBase() {
+  static const double base = PhaseTime(0, kNewMoon);
+  return base;
+}
 
 double DeltaTForYear(std::int32_t year) { return deltat(year, kDeltaTModel); }
 
@@ -60,22 +63,19 @@ double DeltaT(double ajd) {
 
 double UniversalTime(double ajd_tt) { return ajd_tt - DeltaT(ajd_tt) / kMinutesPerDay; }
 
-double Syzygy(std::int32_t n, std::int16_t phase, EclipseRecord& record) {
-  const PhaseEvent& event = FindPhaseEvent(n, phase);
-  record = event.eclipse;
-  return event.tt;
-}
+double Syzygy(std::int32_t n, std::int16_t phase) { return FindPhaseEvent(n, phase).tt; }
 
-double PhaseTime(std::int32_t n, std::int16_t phase, EclipseRecord& record) {
-  const PhaseEvent& event = FindPhaseEvent(n, phase);
-  record = event.eclipse;
-  return event.ut;
-}
+double PhaseTime(std::int32_t n, std::int16_t phase) { return FindPhaseEvent(n, phase).ut; }
 
+// Mean months lead to the lunation or one beside it; but far away months are no longer what they
+// are near lunation 0, so that the next estimate starts from where the one before has led.
 std::int32_t LunationOf(double ajd) {
-  auto n = CheckedFloor<std::int32_t>((ajd - LunationBase) / SynodicMonth);
+  std::int32_t n = MeanLunations(ajd - LunationBase());
   for (;;) {
-    if (PhaseTime(n, kNewMoon) > ajd) {
+    const double age = ajd - PhaseTime(n, kNewMoon);
+    if (std::abs(age) > kFarOff) {
+      n = CheckedAdd(n, MeanLunations(age));
+    } else if (age < 0) {
       n = CheckedSubtract(n, 1);
     } else if (ajd >= PhaseTime(CheckedAdd(n, 1), kNewMoon)) {
       n = CheckedAdd(n, 1);
@@ -85,13 +85,11 @@ std::int32_t LunationOf(double ajd) {
   }
 }
 
-std::int16_t PhaseAt(std::int32_t n, double ajd_tt, bool& exact) {
-  return PhaseInEffect(n, ajd_tt, exact, Syzygy);
+PhaseInEffect PhaseAt(std::int32_t n, double ajd_tt) {
+  return FindPhaseInEffect(n, ajd_tt, Syzygy);
 }
 
-std::int16_t GetPhase(std::int32_t n, double ajd, bool& exact) {
-  return PhaseInEffect(n, ajd, exact, PhaseTime);
-}
+PhaseInEffect GetPhase(std::int32_t n, double ajd) { return FindPhaseInEffect(n, ajd, PhaseTime); }
 
 std::string_view EclipseTypeText(std::int16_t code) {
   return NameOf(kEclipseTypes, code, kPartialSolar);

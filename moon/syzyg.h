@@ -10,16 +10,10 @@
 #include <cstdint>
 #include <string_view>
 
-#include "engines/phase_engine.h"
-
 namespace tarnwick {
 
 inline constexpr double SynodicMonth = 29.5305888531;  // mean length of a lunation, days
-extern double LunationBase;                            // new moon of lunation 0
-extern EclipseRecord EclipseData;  // of the syzygy that was asked for last, by whomever
-
-// Fills LunationBase; called once before any other routine here.
-void InitLunations();
+double LunationBase();                                 // new moon of lunation 0
 
 double DeltaTForYear(std::int32_t year);
 double DeltaT(double ajd);
@@ -27,23 +21,29 @@ double DeltaT(double ajd);
 // An instant given in Terrestrial Time, in Universal Time.
 double UniversalTime(double ajd_tt);
 
-// The instant of a phase in Terrestrial Time, and in Universal Time. Both fill the record with the
-// eclipse at it.
-double Syzygy(std::int32_t n, std::int16_t phase, EclipseRecord& record = EclipseData);
-double PhaseTime(std::int32_t n, std::int16_t phase, EclipseRecord& record = EclipseData);
+// The instant of a phase in Terrestrial Time, and in Universal Time. FindPhaseEvent has both, and
+// the eclipse at it.
+double Syzygy(std::int32_t n, std::int16_t phase);
+double PhaseTime(std::int32_t n, std::int16_t phase);
 
-// The lunation that contains the moment.
+// The lunation that contains the moment. It takes no longer far away than near.
 std::int32_t LunationOf(double ajd);
 
-// The phase in effect at a moment of lunation n, the last principal phase at or before it; `exact`
-// tells whether the moment is the instant of that phase, to 0.00005 days. -1 when the moment lies
-// in a later lunation, -2 when in an earlier one.
+// The phase in effect at a moment of a lunation: the last principal phase at or before it.
+struct PhaseInEffect {
+  std::int16_t phase = 0;  // or one of the codes below
+  bool exact = false;      // the moment is the instant of that phase, to 0.00005 days
+};
+inline constexpr std::int16_t kInLaterLunation = -1;
+inline constexpr std::int16_t kInEarlierLunation = -2;
+
+// The phase in effect at a moment of lunation n, or where the moment lies if not in it.
 //
 // PhaseAt takes the moment in Terrestrial Time. GetPhase takes it in Universal Time and compares it
 // with PhaseTime, so that the two agree to the bit even where delta T changes between the instant
 // in one scale and in the other.
-std::int16_t PhaseAt(std::int32_t n, double ajd_tt, bool& exact);
-std::int16_t GetPhase(std::int32_t n, double ajd, bool& exact);
+PhaseInEffect PhaseAt(std::int32_t n, double ajd_tt);
+PhaseInEffect GetPhase(std::int32_t n, double ajd);
 
 // "Total lunar eclipse" and so on for the types 1 to 10, else empty.
 std::string_view EclipseTypeText(std::int16_t code);

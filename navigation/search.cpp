@@ -105,7 +105,9 @@ void frmMain::RunSearch(int target, const std::string& shown_eclipse) {
 std::optional<PhaseNumber> frmMain::PhaseOfMoment(const std::string& routine) {
   PhaseNumber at;
   at.lunation = LunationOf(dblMoment);
-  at.phase = GetPhase(at.lunation, dblMoment, blnAtPhase);
+  const PhaseInEffect in_effect = GetPhase(at.lunation, dblMoment);
+  at.phase = in_effect.phase;
+  blnAtPhase = in_effect.exact;
   if (at.phase >= 0) return at;
   ReportPhaseError(at.phase, routine);
   return std::nullopt;
@@ -147,7 +149,9 @@ std::optional<frmMain::SearchResult> frmMain::SearchSameSaros(const std::string&
   const double moment = dblMoment + (forward ? kAlmostASaros : -kAlmostASaros);
   PhaseNumber at;
   at.lunation = LunationOf(moment);
-  at.phase = GetPhase(at.lunation, moment, blnAtPhase);
+  const PhaseInEffect in_effect = GetPhase(at.lunation, moment);
+  at.phase = in_effect.phase;
+  blnAtPhase = in_effect.exact;
   // From a lunation before or behind, lest an eclipse is missed whose greatest phase lies beyond
   // the moment although its syzygy does not.
   at.lunation += forward ? -1 : 1;

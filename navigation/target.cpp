@@ -6,7 +6,7 @@
 #include "calendars/day_date.h"
 #include "engines/checked_arithmetic.h"
 #include "engines/phases.h"
-#include "moon/syzyg.h"
+#include "moon/phase_cache.h"
 
 namespace tarnwick {
 namespace {
@@ -129,7 +129,7 @@ std::optional<FoundEclipse> FindEclipse(int target, bool forward, const PhaseNum
   for (;; found.at = NeighbourSyzygy(found.at, forward)) {
     if ((types & (found.at.phase == kNewMoon ? kSolarTypes : kLunarTypes)) == 0) continue;
     if (!keep_searching()) return std::nullopt;
-    Syzygy(found.at.lunation, found.at.phase, found.record);
+    found.record = FindPhaseEvent(found.at.lunation, found.at.phase).eclipse;
     if (AcceptsEclipse(target, found.record.type) && wanted(found)) return found;
   }
 }

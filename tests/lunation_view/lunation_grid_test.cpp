@@ -15,14 +15,9 @@ namespace {
 constexpr int kOffset = 330;  // minutes east of Greenwich
 constexpr double kNearMidnight = 3.0 / 86400;
 
-class LunationGridTest : public testing::Test {
- protected:
-  static void SetUpTestSuite() { InitLunations(); }
-};
-
 double Noon(std::int32_t day_number, int offset) { return CJDToAJD(day_number + 0.5, offset); }
 
-TEST_F(LunationGridTest, HoldsTheDaysOfItsLunation) {
+TEST(LunationGridTest, HoldsTheDaysOfItsLunation) {
   std::set<std::int32_t> lengths;
   for (std::int32_t lunation = kFirstLunation; lunation <= kLastLunation; lunation += 37) {
     const GridReading reading{lunation % 4 < 0 ? lunation % 4 + 4 : lunation % 4, kOffset};
@@ -45,7 +40,7 @@ TEST_F(LunationGridTest, HoldsTheDaysOfItsLunation) {
   EXPECT_EQ(lengths, (std::set<std::int32_t>{29, 30}));
 }
 
-TEST_F(LunationGridTest, OpensWithinTheBounds) {
+TEST(LunationGridTest, OpensWithinTheBounds) {
   EXPECT_EQ(LunationOfDay(552283.0 - 1000, {}), kFirstLunation);
   EXPECT_EQ(LunationOfDay(3912515.0 + 1000, {}), kLastLunation);
 }
@@ -67,7 +62,7 @@ int CountNaming(double tt, const std::string& name) {
   return count;
 }
 
-TEST_F(LunationGridTest, NamesPhasesAndEclipsesOnTheirDays) {
+TEST(LunationGridTest, NamesPhasesAndEclipsesOnTheirDays) {
   const auto phases = ReadReferenceData("phases.csv");
   for (std::size_t i = 1; i + 1 < phases.size(); ++i) {
     for (const auto& [column, name] :
@@ -86,7 +81,7 @@ TEST_F(LunationGridTest, NamesPhasesAndEclipsesOnTheirDays) {
   }
 }
 
-TEST_F(LunationGridTest, IsTitledByTheMonthOfMostOfItsDays) {
+TEST(LunationGridTest, IsTitledByTheMonthOfMostOfItsDays) {
   struct Case {
     std::int32_t lunation;
     int calendar;
@@ -110,7 +105,7 @@ TEST_F(LunationGridTest, IsTitledByTheMonthOfMostOfItsDays) {
 }
 
 // A fifth calendar in the list would be OLW, whose days begin six hours after midnight.
-TEST_F(LunationGridTest, FifthCalendarBeginsItsDaysAtSix) {
+TEST(LunationGridTest, FifthCalendarBeginsItsDaysAtSix) {
   int earlier = 0;
   for (std::int32_t lunation = 0; lunation < 60; ++lunation) {
     const double cjd = AJDToCJD(PhaseTime(lunation, 0), 0);

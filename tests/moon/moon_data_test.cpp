@@ -37,20 +37,16 @@ TEST(PhaseOfMoonText, ChangesAtItsThresholds) {
   }
 }
 
-struct MoonDataTest : testing::Test {
-  MoonDataTest() { InitLunations(); }
-};
-
 // The two ways agree where both can be taken: the Moon's uneven motion within a week and its
 // latitude make a few hundredths.
-TEST_F(MoonDataTest, BothFractionsTellTheSameMoon) {
+TEST(MoonData, BothFractionsTellTheSameMoon) {
   for (double t = 2400000.0; t < 2480000.0; t += 1234.567) {
     const MoonData moon = MoonDataAt(t);
     EXPECT_NEAR(moon.fraction, FractionFromPhases(t, moon.lunation, moon.phase), 0.04) << t;
   }
 }
 
-TEST_F(MoonDataTest, PhasesHaveTheirFractionsInEveryAge) {
+TEST(MoonData, PhasesHaveTheirFractionsInEveryAge) {
   const double fractions[] = {0, 0.5, 1, 0.5};
   for (const std::int32_t lunation : {-60000, -4900, 0, 300, 1200, 1300, 49000}) {
     for (std::int16_t phase = 0; phase < 4; ++phase) {
@@ -67,7 +63,7 @@ TEST_F(MoonDataTest, PhasesHaveTheirFractionsInEveryAge) {
   }
 }
 
-TEST_F(MoonDataTest, TheWayChangesAtTheEdgesOf1600To2099) {
+TEST(MoonData, TheWayChangesAtTheEdgesOf1600To2099) {
   for (const double midnight : {2305447.5, 2488069.5}) {
     const double before = MoonDataAt(midnight - 1e-6).fraction;
     const double after = MoonDataAt(midnight + 1e-6).fraction;

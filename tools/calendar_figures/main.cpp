@@ -5,7 +5,6 @@
 #include <iostream>
 #include <string>
 
-#include "moon/syzyg.h"
 #include "tools/calendar_figures/drift.h"
 #include "tools/calendar_figures/svg.h"
 
@@ -39,7 +38,6 @@ int main(int argc, char** argv) {
     std::cerr << "usage: tarnwick_calendar_figures FOLDER\n";
     return 2;
   }
-  tarnwick::InitLunations();
   const std::filesystem::path folder(argv[1]);
   const auto months = tarnwick::MonthDrifts();
   const auto years = tarnwick::YearDrifts();

@@ -211,7 +211,6 @@ int RunTables(std::span<const std::string_view> arguments, std::ostream& out, st
   if (from < kFirstYear || to > kLastYear) return Refuse(err, "years run from -3200 to 6001");
   if (from >= to) return Refuse(err, "FROM must be before TO");
 
-  InitLunations();
   const Period period{NewYear(from), NewYear(to)};
   Printer printer(period, out, shows_progress ? &err : nullptr);
   const bool done = command->print(period, printer) && out.flush().good();
