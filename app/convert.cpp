@@ -54,7 +54,7 @@ void frmMain::TakeMoment(double ajd, const std::string& operation) {
 
 void frmMain::TakeDay(std::int32_t day_number) {
   if (IsBusy()) return;
-  const double noon = CJDToAJD(day_number + 0.5, ReadingOffset());
+  const double noon = NoonOf(DayNumber(day_number), ReadingOffset()).days;
   if (!DateOutOfRange(noon)) TakeMoment(noon, "Lunation calendar");
 }
 
@@ -105,7 +105,7 @@ void frmMain::ParseDateEntry(const std::string& text, std::int16_t& error_code, 
   if (entry.code != kEntryOk) return;
   intCalendar = *entry.calendar;
   MarkCurrentCalendar();
-  ajd = entry.ajd;
+  ajd = entry.ajd.days;
 }
 
 void frmMain::ReportDateEntryError(std::int16_t code) {

@@ -5,11 +5,13 @@
 #include "calendars/text.h"
 
 namespace tarnwick {
-double frmMain::AJDToCJD(double ajd) const { return tarnwick::AJDToCJD(ajd, ReadingOffset()); }
+LocalCJD frmMain::AJDToCJD(double ajd) const {
+  return tarnwick::AJDToCJD(UniversalTime(ajd), ReadingOffset());
+}
 
 // The time of day of the current moment, as its current calendar counts the day.
 std::string frmMain::MomentTimeText() const {
-  const double cjd = AJDToCJD(dblMoment) - RowOf(intCalendar).day_shift;
+  const LocalCJD cjd = AJDToCJD(dblMoment) - RowOf(intCalendar).day_shift;
   return TimeOfDayText(SplitCJD(cjd).fraction, false);
 }
 
@@ -27,7 +29,7 @@ void frmMain::DisplayTime() {
 std::string frmMain::DisplayAllDates() {
   std::string summary;
   for (const Calendar calendar : kCalendars) {
-    const DateTexts texts = DateTextsOf(calendar, dblMoment, ReadingOffset());
+    const DateTexts texts = DateTextsOf(calendar, UniversalTime(dblMoment), ReadingOffset());
     Label& label = DateLabelOf(calendar)[1];
     label.SetCaption(texts.long_form);
     label.SetToolTipText(texts.tool_tip);

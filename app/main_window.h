@@ -181,7 +181,7 @@ class frmMain final : public Form {
   bool DateOutOfRange(double ajd);
 
   // Display (display.cpp).
-  double AJDToCJD(double ajd) const;
+  LocalCJD AJDToCJD(double ajd) const;
   std::string MomentTimeText() const;
   std::string TimeSuffix() const;
   void DisplayTime();

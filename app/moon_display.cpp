@@ -26,7 +26,7 @@ std::string OneDecimal(double value) { return FormatFixed(value, 1, false); }
 }  // namespace
 
 void frmMain::DisplayMoonData() {
-  const MoonData moon = MoonDataAt(dblMoment);
+  const MoonData moon = MoonDataAt(UniversalTime(dblMoment));
   lblAgeOfMoon[1].SetCaption("[" + std::to_string(moon.lunation) + "] " + AgeText(moon.age) + " (" +
                              OneDecimal(moon.age * 100 / moon.length) + "%)");
   if (moon.phase < 0) {
@@ -72,6 +72,8 @@ void frmMain::ReportMissingPicture(const std::filesystem::path& file) {
                         MessageIcon::kExclamation});
 }
 
-void frmMain::DisplayDeltaT() { lblDeltaT[1].SetCaption(DeltaTText(DeltaT(dblMoment))); }
+void frmMain::DisplayDeltaT() {
+  lblDeltaT[1].SetCaption(DeltaTText(DeltaT(UniversalTime(dblMoment))));
+}
 
 }  // namespace tarnwick

@@ -27,7 +27,7 @@ int frmMain::ReadingOffset() const { return optGreenwich.Value() ? 0 : TimeZoneO
 
 double frmMain::PresentMoment() const {
   const ClockReading clock = desktop_.ReadClock();
-  return NowAsAJD(clock.date, clock.time, clock.offset_minutes);
+  return NowAsAJD(clock.date, clock.time, clock.offset_minutes).days;
 }
 
 // The time that the computer's clock shows, taken for that of the chosen zone.

@@ -9,14 +9,14 @@
 namespace tarnwick {
 namespace {
 
-constexpr double kFirstMoment = 552283.0;
-constexpr double kLastMoment = 3912515.0;
+constexpr UniversalTime kFirstMoment(552283.0);
+constexpr UniversalTime kLastMoment(3912515.0);
 
 // The next eclipse as the search button finds it: from the greatest phase of the one on display,
 // which is not found again.
-FoundEclipse NextEclipse(int target, double ajd, const PhaseNumber& displayed) {
-  const std::int32_t lunation = LunationOf(ajd);
-  const PhaseNumber at{lunation, GetPhase(lunation, ajd).phase};
+FoundEclipse NextEclipse(int target, UniversalTime moment, const PhaseNumber& displayed) {
+  const std::int32_t lunation = LunationOf(moment);
+  const PhaseNumber at{lunation, GetPhase(lunation, moment).phase};
   return *FindEclipse(
       target, true, at, [&](const FoundEclipse& eclipse) { return eclipse.at != displayed; },
       [] { return true; });
@@ -28,12 +28,12 @@ void SearchAllEclipses(benchmark::State& state) {
   for ([[maybe_unused]] auto _ : state) {
     ClearPhaseCache();
     PhaseNumber displayed{-10000000, 0};
-    double ajd = kFirstMoment;
+    UniversalTime moment = kFirstMoment;
     for (;;) {
-      const FoundEclipse found = NextEclipse(static_cast<int>(state.range(0)), ajd, displayed);
+      const FoundEclipse found = NextEclipse(static_cast<int>(state.range(0)), moment, displayed);
       displayed = found.at;
-      ajd = found.record.greatest - DeltaT(found.record.greatest) / 1440;
-      if (ajd > kLastMoment) break;
+      moment = GreatestEclipse(found.record);
+      if (moment > kLastMoment) break;
       ++count;
     }
   }

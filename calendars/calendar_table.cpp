@@ -10,40 +10,40 @@
 namespace tarnwick {
 namespace {
 
-DateTexts EuroTexts(std::int32_t day_number, char letter, Calendar calendar) {
-  const DateRecord date = CivilDateOf(day_number, letter);
+DateTexts EuroTexts(DayNumber day_number, char letter, Calendar calendar) {
+  const DateRecord date = CivilDateOf(day_number.value, letter);
   const std::string short_form = DateText(date) + " " + std::string(AbbreviationOf(calendar));
   return {short_form,
-          short_form + " (" + WeekdayName(euro_day_of_week(day_number)) + ", " +
+          short_form + " (" + WeekdayName(euro_day_of_week(day_number.value)) + ", " +
               std::string(MonthName(date.month)) + " " + std::to_string(date.day) + ", " +
               YearText(date.year) + ")",
           DayOfYearText(date)};
 }
 
-DateTexts CETexts(std::int32_t day_number) { return EuroTexts(day_number, 'G', kCE); }
-DateTexts JCTexts(std::int32_t day_number) { return EuroTexts(day_number, 'J', kJC); }
+DateTexts CETexts(DayNumber day_number) { return EuroTexts(day_number, 'G', kCE); }
+DateTexts JCTexts(DayNumber day_number) { return EuroTexts(day_number, 'J', kJC); }
 
-DateTexts ARCTexts(std::int32_t day_number) {
+DateTexts ARCTexts(DayNumber day_number) {
   const ARCDate date = DateOfDay<ARCDate>(day_number);
   return {ARCDateString(date, 1), ARCDateString(date, 2), ARCDateString(date, 4)};
 }
 
-DateTexts SDTexts(std::int32_t day_number) {
+DateTexts SDTexts(DayNumber day_number) {
   const SDDate date = DateOfDay<SDDate>(day_number);
   return {SDDateString(date, 1), SDDateString(date, 2), SDDateString(date, 4)};
 }
 
-DateTexts LLTTexts(std::int32_t day_number) {
+DateTexts LLTTexts(DayNumber day_number) {
   const LLTDate date = DateOfDay<LLTDate>(day_number);
   return {LLTDateString(date, 1), LLTDateString(date, 2), LLTDateString(date, 3)};
 }
 
-DateTexts KSGTexts(std::int32_t day_number) {
+DateTexts KSGTexts(DayNumber day_number) {
   const KSGDate date = DateOfDay<KSGDate>(day_number);
   return {KSGDateString(date, 1, true), KSGDateString(date, 2, true), KSGDateString(date, 3, true)};
 }
 
-DateTexts OLWTexts(std::int32_t day_number) {
+DateTexts OLWTexts(DayNumber day_number) {
   const OLWDate date = DateOfDay<OLWDate>(day_number);
   const std::string short_form = OLWDateString(date, 1);
   return {short_form, short_form + " (" + OLWDateString(date, 2) + ")", ""};
@@ -52,8 +52,8 @@ DateTexts OLWTexts(std::int32_t day_number) {
 ReadDay ReadEuroDay(std::string_view date, char letter, EntryCode failure) {
   DateRecord record;
   record.calendar = letter;
-  if (ParseDateString(date, record) != kDateParsed) return {failure};
-  return {kEntryOk, euro_date_to_jdn(record)};
+  if (ParseDateString(date, record) != kDateParsed) return {failure, {}};
+  return {kEntryOk, DayNumber(euro_date_to_jdn(record))};
 }
 
 ReadDay ReadCEDay(std::string_view date) { return ReadEuroDay(date, 'G', kInvalidCE); }
@@ -62,10 +62,10 @@ ReadDay ReadJCDay(std::string_view date) { return ReadEuroDay(date, 'J', kInvali
 ReadDay ReadARCDay(std::string_view date) {
   DateRecord record;
   record.calendar = 'R';
-  if (ParseDateString(date, record) != kDateParsed) return {kInvalidARC};
+  if (ParseDateString(date, record) != kDateParsed) return {kInvalidARC, {}};
   ARCDate arc{record.year, record.month, record.day};
-  if (!ARCDateToJDN(arc)) return {kInvalidARC};
-  return {kEntryOk, arc.jdn};
+  if (!ARCDateToJDN(arc)) return {kInvalidARC, {}};
+  return {kEntryOk, DayNumber(arc.jdn)};
 }
 
 // For a calendar whose own module reads its texts.
@@ -73,8 +73,8 @@ template <typename Record>
 ReadDay ReadOwnDay(std::string_view date, bool (*parse)(std::string_view, Record&),
                    bool (*to_jdn)(Record&), EntryCode failure) {
   Record record;
-  if (!parse(date, record) || !to_jdn(record)) return {failure};
-  return {kEntryOk, record.jdn};
+  if (!parse(date, record) || !to_jdn(record)) return {failure, {}};
+  return {kEntryOk, DayNumber(record.jdn)};
 }
 
 ReadDay ReadSDDay(std::string_view date) {
@@ -91,15 +91,15 @@ ReadDay ReadOLWDay(std::string_view date) {
   OLWDate olw;
   switch (ParseOLWDate(date, olw)) {
     case kOLWValid:
-      return {kEntryOk, olw.jdn};
+      return {kEntryOk, DayNumber(olw.jdn)};
     case kOLWBadMonth:
-      return {kInvalidOLWMonth};
+      return {kInvalidOLWMonth, {}};
     case kOLWBadWeek:
-      return {kInvalidOLWWeek};
+      return {kInvalidOLWWeek, {}};
     case kOLWBadDay:
-      return {kInvalidOLWDay};
+      return {kInvalidOLWDay, {}};
     default:
-      return {kInvalidOLW};
+      return {kInvalidOLW, {}};
   }
 }
 

@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "calendars/entry_code.h"
+#include "engines/instant.h"
 
 namespace tarnwick {
 
@@ -33,7 +34,7 @@ struct DateTexts {
 // What a date text says: its day, or why there is none.
 struct ReadDay {
   EntryCode code = kEntryOk;
-  std::int32_t day_number = 0;
+  DayNumber day_number;
 };
 
 // Day numbers are the calendar's own: a day of OLW begins later than the civil day of its number.
@@ -44,7 +45,7 @@ struct CalendarRow {
   double day_shift;              // of the beginning of its days after midnight, in days
   EntryCode failure;             // why a text is refused that is none of its dates
   // Nothing for a day count:
-  DateTexts (*texts)(std::int32_t day_number);
+  DateTexts (*texts)(DayNumber day_number);
   // The text is a date without abbreviation. Throws RuntimeError when a number is too large.
   ReadDay (*read)(std::string_view date);
 };

@@ -204,29 +204,33 @@ std::string DurationText(std::int32_t minutes, bool long_form) {
   return long_form ? LongDurationText(duration) : ShortDurationText(duration);
 }
 
-double NowAsAJD(std::string_view date_text, std::string_view time_text,
-                std::int32_t offset_minutes) {
+UniversalTime NowAsAJD(std::string_view date_text, std::string_view time_text,
+                       std::int32_t offset_minutes) {
   DateRecord date = ClockDate(date_text);
   const double fraction = static_cast<double>(ClockSeconds(time_text)) / kSecondsPerDay;
-  return CJDToAJD(euro_date_to_jdn(date) + fraction, offset_minutes);
+  return CJDToAJD(LocalCJD(euro_date_to_jdn(date) + fraction), offset_minutes);
 }
 
-double AJDToCJD(double ajd, std::int32_t offset_minutes) {
-  return ajd + 0.5 + DaysOf(offset_minutes);
+LocalCJD AJDToCJD(UniversalTime ajd, std::int32_t offset_minutes) {
+  return LocalCJD(ajd.days + 0.5 + DaysOf(offset_minutes));
 }
 
-double CJDToAJD(double cjd, std::int32_t offset_minutes) {
-  return cjd - 0.5 - DaysOf(offset_minutes);
+UniversalTime CJDToAJD(LocalCJD cjd, std::int32_t offset_minutes) {
+  return UniversalTime(cjd.days - 0.5 - DaysOf(offset_minutes));
 }
 
-DayAndTime SplitCJD(double cjd) {
-  auto day_number = CheckedFloor<std::int32_t>(cjd);
-  long seconds = std::lround((cjd - day_number) * kSecondsPerDay);
+UniversalTime NoonOf(DayNumber day_number, std::int32_t offset_minutes) {
+  return CJDToAJD(LocalCJD(day_number.value + 0.5), offset_minutes);
+}
+
+DayAndTime SplitCJD(LocalCJD cjd) {
+  auto day_number = CheckedFloor<std::int32_t>(cjd.days);
+  long seconds = std::lround((cjd.days - day_number) * kSecondsPerDay);
   if (seconds == kSecondsPerDay) {
     day_number = CheckedAdd(day_number, 1);
     seconds = 0;
   }
-  return {day_number, static_cast<double>(seconds) / kSecondsPerDay};
+  return {DayNumber(day_number), static_cast<double>(seconds) / kSecondsPerDay};
 }
 
 }  // namespace tarnwick

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "engines/date_engine.h"
+#include "engines/instant.h"
 
 namespace tarnwick {
 
@@ -72,19 +73,22 @@ std::string TimeOfDayText(double fraction, bool with_seconds);
 // are left out; nothing at all, or a negative duration, gives "0 minutes" or "0m".
 std::string DurationText(std::int32_t minutes, bool long_form);
 
-// The AJD of what a clock shows in a zone `offset_minutes` east of GMT. The date text is
+// The moment at which a clock shows this in a zone `offset_minutes` east of GMT. The date text is
 // "yyyy-mm-dd" with any separators, or month, day and year ("mm/dd/yyyy") when its third character
 // is "-", "/" or "."; the time text "hh:mm:ss", or "h:mm:ss AM" or "PM". A date that does not exist
-// gives an AJD far below every limit of the program.
-double NowAsAJD(std::string_view date_text, std::string_view time_text,
-                std::int32_t offset_minutes);
+// gives a moment far below every limit of the program.
+UniversalTime NowAsAJD(std::string_view date_text, std::string_view time_text,
+                       std::int32_t offset_minutes);
 
 // cjd = ajd + 0.5 + offset / 1440, and back.
-double AJDToCJD(double ajd, std::int32_t offset_minutes);
-double CJDToAJD(double cjd, std::int32_t offset_minutes);
+LocalCJD AJDToCJD(UniversalTime ajd, std::int32_t offset_minutes);
+UniversalTime CJDToAJD(LocalCJD cjd, std::int32_t offset_minutes);
+
+// The moment at which it is noon of a day there.
+UniversalTime NoonOf(DayNumber day_number, std::int32_t offset_minutes);
 
 struct DayAndTime {
-  std::int32_t day_number = 0;
+  DayNumber day_number;
   double fraction = 0;  // of the day, [0:1), a whole number of seconds / 86400
 };
 
@@ -92,6 +96,6 @@ struct DayAndTime {
 // a few microseconds before midnight, as sums of fractions of a day produce it, belongs to the next
 // day at 00:00. Throws RuntimeError when the day number does not fit 32 bits or the CJD is not
 // finite.
-DayAndTime SplitCJD(double cjd);
+DayAndTime SplitCJD(LocalCJD cjd);
 
 }  // namespace tarnwick

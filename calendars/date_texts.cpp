@@ -13,10 +13,11 @@ DateTexts DayCountTexts(double days, std::string_view abbreviation) {
 
 }  // namespace
 
-DateTexts DateTextsOf(Calendar calendar, double ajd, int offset_minutes) {
+DateTexts DateTextsOf(Calendar calendar, UniversalTime moment, int offset_minutes) {
   const CalendarRow& row = RowOf(calendar);
-  const double cjd = AJDToCJD(ajd, offset_minutes);
-  if (IsDayCount(calendar)) return DayCountTexts(calendar == kAJD ? ajd : cjd, row.abbreviation);
+  const LocalCJD cjd = AJDToCJD(moment, offset_minutes);
+  if (calendar == kAJD) return DayCountTexts(moment.days, row.abbreviation);
+  if (calendar == kCJD) return DayCountTexts(cjd.days, row.abbreviation);
   return row.texts(SplitCJD(cjd - row.day_shift).day_number);
 }
 

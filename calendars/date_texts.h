@@ -4,8 +4,8 @@
 
 namespace tarnwick {
 
-// The texts of a moment (AJD, Universal Time) in a calendar, read at `offset_minutes` east of
+// The texts of a moment in a calendar, read at `offset_minutes` east of
 // Greenwich.
-DateTexts DateTextsOf(Calendar calendar, double ajd, int offset_minutes);
+DateTexts DateTextsOf(Calendar calendar, UniversalTime moment, int offset_minutes);
 
 }  // namespace tarnwick

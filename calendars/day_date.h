@@ -1,13 +1,12 @@
 // The date of a day number, whatever the calendar.
 #pragma once
 
-#include <cstdint>
-
 #include "calendars/archetypes.h"
 #include "calendars/goddess.h"
 #include "calendars/lunar_week.h"
 #include "calendars/solilunar.h"
 #include "calendars/triday.h"
+#include "engines/instant.h"
 
 namespace tarnwick {
 
@@ -18,11 +17,12 @@ inline void FillDate(LLTDate& record) { JDNToLLT(record); }
 inline void FillDate(KSGDate& record) { JDNToKSGDate(record); }
 inline void FillDate(OLWDate& record) { JDNToOLWDate(record); }
 
-// DateOfDay<ARCDate>(2455901) is year 4708, month 11, day 11. An OLWDate takes an OLW day number.
+// DateOfDay<ARCDate>(DayNumber(2455901)) is year 4708, month 11, day 11. An OLWDate takes an OLW
+// day number.
 template <class Date>
-Date DateOfDay(std::int32_t day_number) {
+Date DateOfDay(DayNumber day_number) {
   Date date;
-  date.jdn = day_number;
+  date.jdn = day_number.value;
   FillDate(date);
   return date;
 }

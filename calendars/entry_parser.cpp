@@ -77,7 +77,8 @@ Entry ParseDayCount(std::string_view text, const EntryContext& context) {
   const double count = LeadingNumber(BeforeAbbreviation(text, calendar));
   Entry entry;
   entry.calendar = calendar;
-  entry.ajd = calendar == kCJD ? CJDToAJD(count, context.offset_minutes) : count;
+  entry.ajd =
+      calendar == kCJD ? CJDToAJD(LocalCJD(count), context.offset_minutes) : UniversalTime(count);
   return entry;
 }
 
@@ -85,7 +86,7 @@ ReadDay ParseDay(Calendar calendar, std::string_view date) {
   try {
     return RowOf(calendar).read(date);
   } catch (const RuntimeError&) {  // a number too large for the calendar's arithmetic
-    return {RowOf(calendar).failure};
+    return {RowOf(calendar).failure, {}};
   }
 }
 
@@ -99,7 +100,7 @@ Entry ParseDateAndTime(const std::string& text, const EntryContext& context) {
   Entry entry;
   entry.calendar = *calendar;
   const double time = parts.fraction + RowOf(*calendar).day_shift;
-  entry.ajd = CJDToAJD(day.day_number + time, context.offset_minutes);
+  entry.ajd = CJDToAJD(LocalCJD(day.day_number.value + time), context.offset_minutes);
   return entry;
 }
 

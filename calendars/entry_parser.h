@@ -19,7 +19,7 @@ struct EntryContext {
 struct Entry {
   std::int16_t code = kEntryOk;
   std::optional<Calendar> calendar;  // that was recognised; nothing when the entry fails
-  double ajd = 0;                    // the moment, in Universal Time; 0 when the entry fails
+  UniversalTime ajd;                 // the moment; 0 when the entry fails
   bool calendar_supplied = false;    // the text named no calendar and the current one was taken
 };
 

@@ -56,14 +56,14 @@ double CosDegrees(double degrees) {
 
 }  // namespace
 
-double SeasonInstant(std::int32_t year, Season season) {
+TerrestrialTime SeasonInstant(std::int32_t year, Season season) {
   const double mean = MeanInstant(year, season);
   const double t = (mean - kJ2000) / kDaysPerCentury;
   const double w = 35999.373 * t - 2.47;
   const double longitude_rate = 1 + 0.0334 * CosDegrees(w) + 0.0007 * CosDegrees(2 * w);
   double sum = 0;
   for (const PeriodicTerm& term : kTerms) sum += term.a * CosDegrees(term.b + term.c * t);
-  return mean + 0.00001 * sum / longitude_rate;
+  return TerrestrialTime(mean + 0.00001 * sum / longitude_rate);
 }
 
 }  // namespace tarnwick

@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "engines/instant.h"
+
 namespace tarnwick {
 
 enum class Season {
@@ -12,9 +14,9 @@ enum class Season {
   kDecemberSolstice = 3
 };
 
-// The instant of an equinox or solstice of an astronomical Gregorian year, AJD in Terrestrial Time.
+// The instant of an equinox or solstice of an astronomical Gregorian year.
 // Within a minute from -1000 to 3000; smooth and ever rougher beyond.
 // Source: Meeus, Astronomical Algorithms, 2nd ed., ch. 27.
-double SeasonInstant(std::int32_t year, Season season);
+TerrestrialTime SeasonInstant(std::int32_t year, Season season);
 
 }  // namespace tarnwick

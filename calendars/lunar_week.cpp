@@ -39,7 +39,7 @@ constexpr std::array<std::string_view, kMonths> kShortMonthNames{
 
 // The lunation of month 1 of the year tied to a Gregorian year.
 std::int32_t FirstLunation(std::int32_t gregorian_year) {
-  double instant = 0;
+  UniversalTime instant;
   std::int32_t lunation = 0;
   NearestNewMoon(OLWYearReference(gregorian_year), instant, lunation);
   return lunation;
@@ -56,7 +56,7 @@ std::int32_t MonthsInYear(std::int32_t olw_year) {
 
 // The days on which the weeks of a lunation end: 0 is that of its new moon, before the first week,
 // 1 to 3 those of the other phases, 4 that of the next new moon.
-using WeekEnds = std::array<std::int32_t, kWeeks + 1>;
+using WeekEnds = std::array<DayNumber, kWeeks + 1>;
 
 WeekEnds WeekEndsOf(std::int32_t lunation) {
   WeekEnds ends{};
@@ -69,8 +69,8 @@ WeekEnds WeekEndsOf(std::int32_t lunation) {
 
 // The lunation whose month holds an OLW day. The day of a new moon ends the month before, even if
 // it begins with that new moon.
-std::int32_t LunationOfDay(std::int32_t day_number) {
-  const std::int32_t lunation = LunationOf(day_number - kStartBeforeNoon);
+std::int32_t LunationOfDay(DayNumber day_number) {
+  const std::int32_t lunation = LunationOf(UniversalTime(day_number.value - kStartBeforeNoon));
   return OLWDayNumber(PhaseTime(lunation, kNewMoon)) < day_number ? lunation : lunation - 1;
 }
 
@@ -96,20 +96,25 @@ std::int16_t Validate(const OLWDate& record) {
 
 }  // namespace
 
-double OLWDayStart(double ajd) { return std::floor(ajd + kStartBeforeNoon) - kStartBeforeNoon; }
-
-std::int32_t OLWDayNumber(double ajd) { return CheckedFloor<std::int32_t>(ajd + kStartBeforeNoon); }
-
-double OLWYearReference(std::int32_t gregorian_year) {
-  return SeasonInstant(gregorian_year, Season::kMarchEquinox) -
-         DeltaTForYear(gregorian_year) / kMinutesPerDay;
+UniversalTime OLWDayStart(UniversalTime instant) {
+  return UniversalTime(std::floor(instant.days + kStartBeforeNoon) - kStartBeforeNoon);
 }
 
-void NearestNewMoon(double t, double& instant, std::int32_t& lunation) {
+DayNumber OLWDayNumber(UniversalTime instant) {
+  return DayNumber(CheckedFloor<std::int32_t>(instant.days + kStartBeforeNoon));
+}
+
+// By the delta T of the year that is asked for, wherever the instant falls.
+UniversalTime OLWYearReference(std::int32_t gregorian_year) {
+  return UniversalTime(SeasonInstant(gregorian_year, Season::kMarchEquinox).days -
+                       DeltaTForYear(gregorian_year) / kMinutesPerDay);
+}
+
+void NearestNewMoon(UniversalTime t, UniversalTime& instant, std::int32_t& lunation) {
   lunation = LunationOf(t);
   instant = PhaseTime(lunation, kNewMoon);
   const std::int32_t next = CheckedAdd(lunation, 1);
-  const double next_instant = PhaseTime(next, kNewMoon);
+  const UniversalTime next_instant = PhaseTime(next, kNewMoon);
   if (next_instant - t >= t - instant) return;
   lunation = next;
   instant = next_instant;
@@ -124,22 +129,23 @@ void OLWDateToJDN(OLWDate& record, std::int16_t& error) {
   error = kOLWBadDay;
   if (record.day < 1 || record.day > std::min(kLongestWeek, WeekLength(ends, record.week))) return;
   error = kOLWValid;
-  record.jdn = CheckedAdd(ends[static_cast<std::size_t>(record.week - 1)], record.day);
+  record.jdn = CheckedAdd(ends[static_cast<std::size_t>(record.week - 1)].value, record.day);
 }
 
 std::int16_t JDNToOLWDate(OLWDate& record) {
+  const DayNumber day_number(record.jdn);
   std::int32_t year = CivilDateOf(record.jdn).year;
-  if (record.jdn <= OLWDayNumber(PhaseTime(FirstLunation(year), kNewMoon))) {
+  if (day_number <= OLWDayNumber(PhaseTime(FirstLunation(year), kNewMoon))) {
     year = CheckedSubtract(year, 1);
   }
-  const std::int32_t lunation = LunationOfDay(record.jdn);
+  const std::int32_t lunation = LunationOfDay(day_number);
   const WeekEnds ends = WeekEndsOf(lunation);
   std::size_t week = 1;
-  while (week < kWeeks && record.jdn > ends[week]) ++week;
+  while (week < kWeeks && day_number > ends[week]) ++week;
   record.year = CheckedAdd(year, kYearsBeforeCE);
   record.month = lunation - FirstLunation(year) + 1;
   record.week = static_cast<std::int32_t>(week);
-  record.day = record.jdn - ends[week - 1];
+  record.day = day_number - ends[week - 1];
   return CheckedNarrow<std::int16_t>(ends.back() - ends.front());
 }
 

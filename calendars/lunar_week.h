@@ -15,6 +15,7 @@
 #include <string>
 #include <string_view>
 
+#include "engines/instant.h"
 #include "engines/time_units.h"
 
 namespace tarnwick {
@@ -39,15 +40,15 @@ inline constexpr std::int16_t kOLWBadMonth = -3;  // outside 1 to 13, or the yea
 inline constexpr std::int16_t kOLWBadWeek = -4;
 inline constexpr std::int16_t kOLWBadDay = -5;  // outside 1 to 9, or beyond the week
 
-// The start of the OLW day that contains an instant (AJD), and its day number.
-double OLWDayStart(double ajd);
-std::int32_t OLWDayNumber(double ajd);
+// The start of the OLW day that contains an instant, and its day number.
+UniversalTime OLWDayStart(UniversalTime instant);
+DayNumber OLWDayNumber(UniversalTime instant);
 
-// The March equinox of a Gregorian year, AJD in Universal Time.
-double OLWYearReference(std::int32_t gregorian_year);
+// The March equinox of a Gregorian year.
+UniversalTime OLWYearReference(std::int32_t gregorian_year);
 
-// The new moon nearest to an instant (AJD, Universal Time), the earlier of two equally near.
-void NearestNewMoon(double t, double& instant, std::int32_t& lunation);
+// The new moon nearest to an instant, the earlier of two equally near.
+void NearestNewMoon(UniversalTime t, UniversalTime& instant, std::int32_t& lunation);
 
 // Validates month, week and day, in that order, and computes jdn. `error` is one of the codes
 // above; the record keeps its jdn unless it is kOLWValid.

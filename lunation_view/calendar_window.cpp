@@ -58,7 +58,7 @@ GridReading frmCalendar::Reading() const {
 }
 
 void frmCalendar::ShowCurrentLunation() {
-  lngLunation = LunationOfDay(main_window_.Moment(), Reading());
+  lngLunation = LunationOfDay(UniversalTime(main_window_.Moment()), Reading());
   ShowLunation();
 }
 
@@ -70,8 +70,9 @@ void frmCalendar::ShowLunation() {
   grid_ = MakeLunationGrid(lngLunation, Reading());
   lblTitle.SetCaption(grid_.title);
   lblYearAndMonth.SetCaption(grid_.year_and_month);
-  const std::int32_t current_day =
-      SplitCJD(AJDToCJD(main_window_.Moment(), main_window_.ReadingOffset())).day_number;
+  const DayNumber current_day =
+      SplitCJD(AJDToCJD(UniversalTime(main_window_.Moment()), main_window_.ReadingOffset()))
+          .day_number;
   for (std::size_t i = 0; i < kGridCells; ++i) {
     if (grid_.cells[i]) {
       ShowCell(i, current_day);
@@ -81,7 +82,7 @@ void frmCalendar::ShowLunation() {
   }
 }
 
-void frmCalendar::ShowCell(std::size_t index, std::int32_t current_day) {
+void frmCalendar::ShowCell(std::size_t index, DayNumber current_day) {
   const GridCell& cell = *grid_.cells[index];
   lblDate[index].SetCaption(cell.date);
   lblDate[index].SetForeColor(cell.day_number == current_day ? kSelectedColor : kUnselectedColor);
@@ -102,7 +103,7 @@ void frmCalendar::HideCell(std::size_t index) {
 }
 
 void frmCalendar::Cell_Click(std::size_t index) {
-  if (grid_.cells[index]) main_window_.TakeDay(grid_.cells[index]->day_number);
+  if (grid_.cells[index]) main_window_.TakeDay(grid_.cells[index]->day_number.value);
 }
 
 void frmCalendar::cmdShowPreviousOrNext_Click(int index) {

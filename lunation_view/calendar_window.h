@@ -41,7 +41,7 @@ class frmCalendar final : public ClosableForm {
  private:
   GridReading Reading() const;
   void ShowLunation();
-  void ShowCell(std::size_t index, std::int32_t current_day);
+  void ShowCell(std::size_t index, DayNumber current_day);
   void HideCell(std::size_t index);
   void Cell_Click(std::size_t index);
   void cmdShowPreviousOrNext_Click(int index);

@@ -24,12 +24,12 @@ constexpr std::array<std::string_view, kPhaseCount> kPhaseNames{"Dark moon", "1s
                                                                 "Full moon", "Last quarter"};
 
 // The day of a moment, and its time of day.
-DayAndTime DayOf(double ajd, const GridReading& reading) {
+DayAndTime DayOf(UniversalTime moment, const GridReading& reading) {
   const double shift = reading.calendar == kOLWMonthCalendar ? kOLWDayShift : 0;
-  return SplitCJD(AJDToCJD(ajd, reading.offset_minutes) - shift);
+  return SplitCJD(AJDToCJD(moment, reading.offset_minutes) - shift);
 }
 
-std::int32_t FirstDayOf(std::int32_t lunation, const GridReading& reading) {
+DayNumber FirstDayOf(std::int32_t lunation, const GridReading& reading) {
   return DayOf(FindPhaseEvent(lunation, kNewMoon).ut, reading).day_number;
 }
 
@@ -45,7 +45,7 @@ void AddPhase(std::vector<DayEvent>& events, std::int32_t lunation, std::int16_t
   events.push_back(
       {DayOf(event.ut, reading), std::string(kPhaseNames[static_cast<std::size_t>(phase)])});
   if (event.eclipse.type == kNotEclipsed) return;
-  events.push_back({DayOf(UniversalTime(event.eclipse.greatest), reading),
+  events.push_back({DayOf(GreatestEclipse(event.eclipse), reading),
                     std::string(EclipseTypeText(static_cast<std::int16_t>(event.eclipse.type)))});
 }
 
@@ -62,9 +62,9 @@ bool IsCellShown(int cell, std::int32_t length) {
   return IsCellUsed(cell) && (cell != kLastCell || length == kLongLunation);
 }
 
-GridCell CellOf(std::int32_t day_number, const GridReading& reading,
+GridCell CellOf(DayNumber day_number, const GridReading& reading,
                 const std::vector<DayEvent>& events) {
-  const double noon = CJDToAJD(day_number + 0.5, reading.offset_minutes);
+  const UniversalTime noon = NoonOf(day_number, reading.offset_minutes);
   const DateTexts ce = DateTextsOf(kCE, noon, reading.offset_minutes);
   const auto calendar = PageCalendar(reading.calendar);
   const std::string date =
@@ -121,13 +121,13 @@ std::string YearAndMonthOf(const std::vector<PageMonth>& months) {
 }  // namespace
 
 LunationDays DaysOfLunation(std::int32_t lunation, const GridReading& reading) {
-  const std::int32_t first_day = FirstDayOf(lunation, reading);
+  const DayNumber first_day = FirstDayOf(lunation, reading);
   return {lunation, first_day, FirstDayOf(lunation + 1, reading) - first_day};
 }
 
-std::int32_t LunationOfDay(double ajd, const GridReading& reading) {
-  const std::int32_t day_number = DayOf(ajd, reading).day_number;
-  std::int32_t lunation = LunationOf(ajd);
+std::int32_t LunationOfDay(UniversalTime moment, const GridReading& reading) {
+  const DayNumber day_number = DayOf(moment, reading).day_number;
+  std::int32_t lunation = LunationOf(moment);
   // The new moon may come later on the same day.
   if (FirstDayOf(lunation + 1, reading) <= day_number) ++lunation;
   return std::clamp(lunation, kFirstLunation, kLastLunation);
@@ -140,10 +140,11 @@ LunationGrid MakeLunationGrid(std::int32_t lunation, const GridReading& reading)
   grid.title = TitleOf(grid.days, months, reading.calendar);
   grid.year_and_month = YearAndMonthOf(months);
   const std::vector<DayEvent> events = EventsOf(lunation, reading);
-  std::int32_t day_number = grid.days.first_day;
+  DayNumber day_number = grid.days.first_day;
   for (int i = 0; i < kGridCells; ++i) {
     if (!IsCellShown(i, grid.days.length)) continue;
-    grid.cells[static_cast<std::size_t>(i)] = CellOf(day_number++, reading, events);
+    grid.cells[static_cast<std::size_t>(i)] = CellOf(day_number, reading, events);
+    day_number = day_number + 1;
   }
   return grid;
 }

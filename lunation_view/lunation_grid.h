@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "engines/instant.h"
+
 namespace tarnwick {
 
 inline constexpr int kGridColumns = 8;
@@ -26,17 +28,17 @@ struct GridReading {
 // The days from one new moon, inclusive, to the next.
 struct LunationDays {
   std::int32_t lunation = 0;
-  std::int32_t first_day = 0;  // day number
-  std::int32_t length = 0;     // 29 or 30
+  DayNumber first_day;
+  std::int32_t length = 0;  // 29 or 30
 };
 
 LunationDays DaysOfLunation(std::int32_t lunation, const GridReading& reading);
 
-// The lunation whose days hold that of a moment (AJD, Universal Time), or the first or last one.
-std::int32_t LunationOfDay(double ajd, const GridReading& reading);
+// The lunation whose days hold that of a moment, or the first or last one.
+std::int32_t LunationOfDay(UniversalTime moment, const GridReading& reading);
 
 struct GridCell {
-  std::int32_t day_number = 0;
+  DayNumber day_number;
   std::string date;      // in the chosen calendar: "14 Sophia"
   std::string ce_date;   // "2026-11-23 CE"
   std::string event;     // principal phase and eclipse of the day, a line each

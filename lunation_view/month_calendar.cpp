@@ -9,20 +9,20 @@ std::string Join(std::int64_t number, std::string_view separator, std::string_vi
   return std::to_string(number) + std::string(separator) + std::string(text);
 }
 
-CalendarDay ARCDay(std::int32_t day_number) {
+CalendarDay ARCDay(DayNumber day_number) {
   const ARCDate date = DateOfDay<ARCDate>(day_number);
   const std::string_view month = ARCMonthName(date.month);
   return {std::to_string(date.year), std::string(month), Join(date.day, " ", month)};
 }
 
-CalendarDay SDDay(std::int32_t day_number) {
+CalendarDay SDDay(DayNumber day_number) {
   const SDDate date = DateOfDay<SDDate>(day_number);
   const std::string_view month = SDMonthName(date.month);
   return {Join(date.cycle, "-", std::to_string(date.year)), std::string(month),
           Join(date.day, " ", month)};
 }
 
-CalendarDay KSGDay(std::int32_t day_number) {
+CalendarDay KSGDay(DayNumber day_number) {
   const KSGDate date = DateOfDay<KSGDate>(day_number);
   const std::string_view month = KSGMonthName(date.month);
   return {Join(date.cycle, "-", std::to_string(date.year)), std::string(month),
@@ -30,7 +30,7 @@ CalendarDay KSGDay(std::int32_t day_number) {
 }
 
 // Days are counted in tridays: "6-1 Oraiel" is the first day of the sixth.
-CalendarDay LLTDay(std::int32_t day_number) {
+CalendarDay LLTDay(DayNumber day_number) {
   const LLTDate date = DateOfDay<LLTDate>(day_number);
   const std::string year = std::to_string(date.year);
   return {date.cycle == 0 ? year : Join(date.cycle, "-", year),
@@ -40,7 +40,7 @@ CalendarDay LLTDay(std::int32_t day_number) {
 
 struct MonthCalendar {
   Calendar calendar;
-  CalendarDay (*day)(std::int32_t day_number);
+  CalendarDay (*day)(DayNumber day_number);
 };
 constexpr std::array<MonthCalendar, kMonthCalendars.size()> kRows{
     {{kARC, ARCDay}, {kSD, SDDay}, {kKSG, KSGDay}, {kLLT, LLTDay}}};
@@ -52,7 +52,7 @@ const MonthCalendar* FindRow(int calendar) {
 
 }  // namespace
 
-CalendarDay CalendarDayOf(int calendar, std::int32_t day_number) {
+CalendarDay CalendarDayOf(int calendar, DayNumber day_number) {
   const MonthCalendar* row = FindRow(calendar);
   return row == nullptr ? CalendarDay() : row->day(day_number);
 }

@@ -21,7 +21,7 @@ struct CalendarDay {
   std::string month;  // "Sophia"
   std::string day;    // with the month, as it fits a cell: "14 Sophia"
 };
-CalendarDay CalendarDayOf(int calendar, std::int32_t day_number);
+CalendarDay CalendarDayOf(int calendar, DayNumber day_number);
 
 // The calendar that an index of the list names.
 std::optional<Calendar> PageCalendar(int calendar);

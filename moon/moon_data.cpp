@@ -12,9 +12,9 @@
 namespace tarnwick {
 namespace {
 
-bool HasPositions(double ajd) {
+bool HasPositions(UniversalTime moment) {
   double latitude = 0;
-  const double longitude = MoonPosition(ajd, latitude);
+  const double longitude = MoonPosition(moment, latitude);
   return longitude != kBeforePositions && longitude != kAfterPositions;
 }
 
@@ -36,32 +36,32 @@ std::string_view PhaseName(double percent) {
 
 }  // namespace
 
-double FractionFromPositions(double ajd) {
+double FractionFromPositions(UniversalTime moment) {
   double ignored = 0;
-  return IlluminatedFraction(MoonPosition(ajd, ignored) - sun_app(ajd, ignored));
+  return IlluminatedFraction(MoonPosition(moment, ignored) - sun_app(moment.days, ignored));
 }
 
 // As if the elongation grew evenly from phase to phase.
-double FractionFromPhases(double ajd, std::int32_t lunation, std::int16_t phase) {
-  const double begin = PhaseTime(lunation, phase);
-  const double end = phase < kLastQuarter
-                         ? PhaseTime(lunation, static_cast<std::int16_t>(phase + 1))
-                         : PhaseTime(lunation + 1, kNewMoon);
-  const double quarters = phase + (ajd - begin) / (end - begin);
+double FractionFromPhases(UniversalTime moment, std::int32_t lunation, std::int16_t phase) {
+  const UniversalTime begin = PhaseTime(lunation, phase);
+  const UniversalTime end = phase < kLastQuarter
+                                ? PhaseTime(lunation, static_cast<std::int16_t>(phase + 1))
+                                : PhaseTime(lunation + 1, kNewMoon);
+  const double quarters = phase + (moment - begin) / (end - begin);
   return IlluminatedFraction(quarters * std::numbers::pi / 2);
 }
 
-MoonData MoonDataAt(double ajd) {
+MoonData MoonDataAt(UniversalTime moment) {
   MoonData data;
-  data.lunation = LunationOf(ajd);
-  const double new_moon = PhaseTime(data.lunation, kNewMoon);
-  data.age = ajd - new_moon;
+  data.lunation = LunationOf(moment);
+  const UniversalTime new_moon = PhaseTime(data.lunation, kNewMoon);
+  data.age = moment - new_moon;
   data.length = PhaseTime(data.lunation + 1, kNewMoon) - new_moon;
-  data.phase = GetPhase(data.lunation, ajd).phase;
+  data.phase = GetPhase(data.lunation, moment).phase;
   if (data.phase < 0) return data;
   data.waxing = IsWaxing(data.phase);
-  data.fraction = HasPositions(ajd) ? FractionFromPositions(ajd)
-                                    : FractionFromPhases(ajd, data.lunation, data.phase);
+  data.fraction = HasPositions(moment) ? FractionFromPositions(moment)
+                                       : FractionFromPhases(moment, data.lunation, data.phase);
   return data;
 }
 

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string>
 
+#include "engines/instant.h"
+
 namespace tarnwick {
 
 struct MoonData {
@@ -15,13 +17,13 @@ struct MoonData {
   bool waxing = false;
 };
 
-// The Moon at a moment (AJD, Universal Time). From 1600 to 2099 the illuminated fraction comes from
+// The Moon at a moment. From 1600 to 2099 the illuminated fraction comes from
 // the longitudes of Moon and Sun, else from the instants of the principal phases around the moment.
-MoonData MoonDataAt(double ajd);
+MoonData MoonDataAt(UniversalTime moment);
 
 // The illuminated fraction by either way. `lunation` and `phase` are those of the moment.
-double FractionFromPositions(double ajd);
-double FractionFromPhases(double ajd, std::int32_t lunation, std::int16_t phase);
+double FractionFromPositions(UniversalTime moment);
+double FractionFromPhases(UniversalTime moment, std::int32_t lunation, std::int16_t phase);
 
 // An age in days in words: "1 day, 2 hrs, 1 min".
 std::string AgeText(double age);

@@ -25,8 +25,8 @@ std::array<Place, kPlaces>& Places() {
 
 PhaseEvent NewEvent(std::int32_t lunation, std::int16_t phase) {
   PhaseEvent event;
-  event.tt = syzyg(lunation, phase, event.eclipse);
-  event.ut = UniversalTime(event.tt);
+  event.tt = TerrestrialTime(syzyg(lunation, phase, event.eclipse));
+  event.ut = ToUniversalTime(event.tt);
   return event;
 }
 

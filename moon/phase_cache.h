@@ -2,14 +2,15 @@
 
 #include <cstdint>
 
+#include "engines/instant.h"
 #include "engines/phase_engine.h"
 
 namespace tarnwick {
 
 // A principal phase as the phase engine has found it.
 struct PhaseEvent {
-  double tt = 0;            // its instant, AJD, Terrestrial Time
-  double ut = 0;            // and in Universal Time
+  TerrestrialTime tt;       // its instant
+  UniversalTime ut;         // and in Universal Time
   EclipseRecord eclipse{};  // the eclipse at it
 };
 

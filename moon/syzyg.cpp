@@ -33,16 +33,21 @@ constexpr std::array<std::string_view, kTotalLunar> kEclipseTypes{
     "Total lunar eclipse",
 };
 
-using PhaseInstant = double (*)(std::int32_t n, std::int16_t phase);
-
-// The phase in effect at t, both instants and t in one time scale.
-PhaseInEffect FindPhaseInEffect(std::int32_t n, double t, PhaseInstant instant) {
-  if (instant(CheckedAdd(n, 1), kNewMoon) <= t) return {kInLaterLunation};
+// The phase in effect at a moment by the instants of phases in the moment's scale.
+template <class Time>
+PhaseInEffect FindPhaseInEffect(std::int32_t n, Time moment,
+                                Time (*instant)(std::int32_t n, std::int16_t phase)) {
+  if (instant(CheckedAdd(n, 1), kNewMoon) <= moment) return {kInLaterLunation};
   for (std::int16_t phase = kLastQuarter; phase >= kNewMoon; --phase) {
-    const double begin = instant(n, phase);
-    if (begin <= t) return {phase, t - begin < kExactness};
+    const Time begin = instant(n, phase);
+    if (begin <= moment) return {phase, moment - begin < kExactness};
   }
   return {kInEarlierLunation};
+}
+
+// The year at Greenwich of an AJD.
+std::int32_t GregorianYear(double ajd) {
+  return CivilDateOf(CheckedFloor<std::int32_t>(std::nearbyint(ajd))).year;
 }
 
 // How many mean months fit between two moments.
@@ -50,34 +55,39 @@ std::int32_t MeanLunations(double days) { return CheckedFloor<std::int32_t>(days
 
 }  // namespace
 
-double LunationBase() {
-  static const double base = PhaseTime(0, kNewMoon);
+UniversalTime LunationBase() {
+  static const UniversalTime base = PhaseTime(0, kNewMoon);
   return base;
 }
 
 double DeltaTForYear(std::int32_t year) { return deltat(year, kDeltaTModel); }
 
-double DeltaT(double ajd) {
-  return DeltaTForYear(CivilDateOf(CheckedFloor<std::int32_t>(std::nearbyint(ajd))).year);
+double DeltaT(TerrestrialTime instant) { return DeltaTForYear(GregorianYear(instant.days)); }
+double DeltaT(UniversalTime instant) { return DeltaTForYear(GregorianYear(instant.days)); }
+
+UniversalTime ToUniversalTime(TerrestrialTime instant) {
+  return UniversalTime(instant.days - DeltaT(instant) / kMinutesPerDay);
 }
 
-double UniversalTime(double ajd_tt) { return ajd_tt - DeltaT(ajd_tt) / kMinutesPerDay; }
+UniversalTime GreatestEclipse(const EclipseRecord& eclipse) {
+  return ToUniversalTime(TerrestrialTime(eclipse.greatest));
+}
 
-double Syzygy(std::int32_t n, std::int16_t phase) { return FindPhaseEvent(n, phase).tt; }
+TerrestrialTime Syzygy(std::int32_t n, std::int16_t phase) { return FindPhaseEvent(n, phase).tt; }
 
-double PhaseTime(std::int32_t n, std::int16_t phase) { return FindPhaseEvent(n, phase).ut; }
+UniversalTime PhaseTime(std::int32_t n, std::int16_t phase) { return FindPhaseEvent(n, phase).ut; }
 
 // Mean months lead to the lunation or one beside it; but far away months are no longer what they
 // are near lunation 0, so that the next estimate starts from where the one before has led.
-std::int32_t LunationOf(double ajd) {
-  std::int32_t n = MeanLunations(ajd - LunationBase());
+std::int32_t LunationOf(UniversalTime moment) {
+  std::int32_t n = MeanLunations(moment - LunationBase());
   for (;;) {
-    const double age = ajd - PhaseTime(n, kNewMoon);
+    const double age = moment - PhaseTime(n, kNewMoon);
     if (std::abs(age) > kFarOff) {
       n = CheckedAdd(n, MeanLunations(age));
     } else if (age < 0) {
       n = CheckedSubtract(n, 1);
-    } else if (ajd >= PhaseTime(CheckedAdd(n, 1), kNewMoon)) {
+    } else if (moment >= PhaseTime(CheckedAdd(n, 1), kNewMoon)) {
       n = CheckedAdd(n, 1);
     } else {
       return n;
@@ -85,22 +95,24 @@ std::int32_t LunationOf(double ajd) {
   }
 }
 
-PhaseInEffect PhaseAt(std::int32_t n, double ajd_tt) {
-  return FindPhaseInEffect(n, ajd_tt, Syzygy);
+PhaseInEffect PhaseAt(std::int32_t n, TerrestrialTime moment) {
+  return FindPhaseInEffect(n, moment, Syzygy);
 }
 
-PhaseInEffect GetPhase(std::int32_t n, double ajd) { return FindPhaseInEffect(n, ajd, PhaseTime); }
+PhaseInEffect GetPhase(std::int32_t n, UniversalTime moment) {
+  return FindPhaseInEffect(n, moment, PhaseTime);
+}
 
 std::string_view EclipseTypeText(std::int16_t code) {
   return NameOf(kEclipseTypes, code, kPartialSolar);
 }
 
-double MoonPosition(double ajd, double& latitude) {
-  const double day = std::floor(ajd + 0.5);
+double MoonPosition(UniversalTime moment, double& latitude) {
+  const double day = std::floor(moment.days + 0.5);
   if (day < kFirstPositionDay) return kBeforePositions;
   if (day > kLastPositionDay) return kAfterPositions;
   double distance = 0;
-  return moonpos(ajd - kJ2000, latitude, distance);
+  return moonpos(moment.days - kJ2000, latitude, distance);
 }
 
 }  // namespace tarnwick

@@ -16,17 +16,17 @@ constexpr std::size_t kFirstPhaseLine = 3;
 constexpr double kTimeMargin = 1e-8;  // days, so that 59.9999 seconds are not cut to 59
 
 // The line of a phase that lasts from so many minutes before `cjd` until as many after it.
-std::string PhaseLine(std::string_view name, double semi_minutes, double cjd) {
-  const double start = cjd - semi_minutes / kMinutesPerDay;
+std::string PhaseLine(std::string_view name, double semi_minutes, LocalCJD cjd) {
+  const LocalCJD start = cjd - semi_minutes / kMinutesPerDay;
   const auto duration = static_cast<std::int32_t>(std::nearbyint(2 * semi_minutes));
   return std::string(name) + " phase starts " +
-         TruncatedTimeText(start - std::floor(start), false) + " and lasts " +
+         TruncatedTimeText(start.days - std::floor(start.days), false) + " and lasts " +
          EclipseDurationText(duration);
 }
 
 }  // namespace
 
-std::vector<std::string> EclipseLines(const EclipseRecord& record, double cjd) {
+std::vector<std::string> EclipseLines(const EclipseRecord& record, LocalCJD cjd) {
   std::vector<std::string> lines{
       std::string(EclipseTypeText(static_cast<std::int16_t>(record.type))),
       "Lunation number = " + std::to_string(record.lunation),

@@ -5,13 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "engines/instant.h"
 #include "engines/phase_engine.h"
 
 namespace tarnwick {
 
 // The lines that describe an eclipse whose greatest phase is at `cjd`: type, lunation, saros, and
 // for a lunar eclipse the beginning and duration of each of its phases.
-std::vector<std::string> EclipseLines(const EclipseRecord& record, double cjd);
+std::vector<std::string> EclipseLines(const EclipseRecord& record, LocalCJD cjd);
 
 // The caption of the label: a line each, those of the phases with a full stop, all with CR LF.
 std::string EclipseCaption(const std::vector<std::string>& lines);

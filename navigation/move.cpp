@@ -101,8 +101,9 @@ std::string frmMain::RunMove() {
 std::string frmMain::MakeStep() {
   const int step = cboMoveStep.ListIndex();
   const std::string& olw = lblOstrelLWCDate[1].Caption();
-  dblMoment = StepMoment(step, optMoveDirection[0].Value(), dblMoment, ReadingOffset(),
-                         std::string_view(olw).substr(0, olw.find(' ')));
+  dblMoment = StepMoment(step, optMoveDirection[0].Value(), UniversalTime(dblMoment),
+                         ReadingOffset(), std::string_view(olw).substr(0, olw.find(' ')))
+                  .days;
   intCalendar = StepCalendar(step).value_or(intCalendar);
   std::string summary = DisplayMoment();
   CopyDateToEntryBox();

@@ -104,8 +104,8 @@ void frmMain::RunSearch(int target, const std::string& shown_eclipse) {
 
 std::optional<PhaseNumber> frmMain::PhaseOfMoment(const std::string& routine) {
   PhaseNumber at;
-  at.lunation = LunationOf(dblMoment);
-  const PhaseInEffect in_effect = GetPhase(at.lunation, dblMoment);
+  at.lunation = LunationOf(UniversalTime(dblMoment));
+  const PhaseInEffect in_effect = GetPhase(at.lunation, UniversalTime(dblMoment));
   at.phase = in_effect.phase;
   blnAtPhase = in_effect.exact;
   if (at.phase >= 0) return at;
@@ -122,7 +122,7 @@ bool frmMain::KeepSearching() {
 std::optional<frmMain::SearchResult> frmMain::SearchPhase(int target, const PhaseNumber& at) {
   const PhaseNumber found = FindPhase(target, optNext.Value(), at, blnAtPhase);
   const PhaseEvent& event = FindPhaseEvent(found.lunation, found.phase);
-  return SearchResult{event.ut, event.eclipse.type, std::nullopt};
+  return SearchResult{event.ut.days, event.eclipse.type, std::nullopt};
 }
 
 // The eclipse found, from now on the one on display.
@@ -131,7 +131,7 @@ std::optional<frmMain::SearchResult> frmMain::TakeEclipse(
   if (!found) return std::nullopt;
   lngEclipseLunation = found->at.lunation;
   intEclipsePhase = found->at.phase;
-  return SearchResult{UniversalTime(found->record.greatest), found->record.type, found->record};
+  return SearchResult{GreatestEclipse(found->record).days, found->record.type, found->record};
 }
 
 std::optional<frmMain::SearchResult> frmMain::SearchEclipse(int target, const PhaseNumber& at) {
@@ -148,15 +148,15 @@ std::optional<frmMain::SearchResult> frmMain::SearchSameSaros(const std::string&
   const bool lunar = TellsOfLunarEclipse(shown_eclipse);
   const double moment = dblMoment + (forward ? kAlmostASaros : -kAlmostASaros);
   PhaseNumber at;
-  at.lunation = LunationOf(moment);
-  const PhaseInEffect in_effect = GetPhase(at.lunation, moment);
+  at.lunation = LunationOf(UniversalTime(moment));
+  const PhaseInEffect in_effect = GetPhase(at.lunation, UniversalTime(moment));
   at.phase = in_effect.phase;
   blnAtPhase = in_effect.exact;
   // From a lunation before or behind, lest an eclipse is missed whose greatest phase lies beyond
   // the moment although its syzygy does not.
   at.lunation += forward ? -1 : 1;
   const auto beyond = [&](const FoundEclipse& one) {
-    const double greatest = UniversalTime(one.record.greatest);
+    const double greatest = GreatestEclipse(one.record).days;
     return forward ? greatest > moment : greatest < moment;
   };
   const auto found = FindEclipse(lunar ? kLunarEclipseTarget : kSolarEclipseTarget, forward, at,
@@ -166,11 +166,11 @@ std::optional<frmMain::SearchResult> frmMain::SearchSameSaros(const std::string&
 
 std::optional<frmMain::SearchResult> frmMain::SearchCoincidence() {
   lblSearching.SetVisible(true);
-  const std::int32_t today = SplitCJD(AJDToCJD(dblMoment)).day_number;
+  const DayNumber today = SplitCJD(AJDToCJD(dblMoment)).day_number;
   const auto found = FindCoincidence(today, optNext.Value(), [this] { return KeepSearching(); });
   lblSearching.SetVisible(false);
   if (!found) return std::nullopt;
-  return SearchResult{CJDToAJD(*found + 0.5, ReadingOffset()), 0, std::nullopt};
+  return SearchResult{NoonOf(*found, ReadingOffset()).days, 0, std::nullopt};
 }
 
 void frmMain::Form_KeyPress(int& key) {

@@ -15,7 +15,7 @@ namespace {
 
 // Where a step begins.
 struct Start {
-  double ajd;
+  UniversalTime moment;
   int offset_minutes;
   std::string_view olw_date;
 };
@@ -85,23 +85,23 @@ void StepLLTCycle(LLTDate& record, bool forward) {
 }
 
 template <int minutes>
-double StepTime(const Start& start, bool forward) {
+UniversalTime StepTime(const Start& start, bool forward) {
   constexpr double kDays = static_cast<double>(minutes) / kMinutesPerDay;
-  return forward ? start.ajd + kDays : start.ajd - kDays;
+  return start.moment + (forward ? kDays : -kDays);
 }
 
 template <typename Date, void (*step)(Date&, bool)>
-double StepDate(const Start& start, bool forward) {
-  const DayAndTime from = SplitCJD(AJDToCJD(start.ajd, start.offset_minutes));
+UniversalTime StepDate(const Start& start, bool forward) {
+  const DayAndTime from = SplitCJD(AJDToCJD(start.moment, start.offset_minutes));
   Date date;
-  date.jdn = from.day_number;
+  date.jdn = from.day_number.value;
   FillDate(date);
   step(date, forward);
   FillDayNumber(date);
-  return CJDToAJD(date.jdn + from.fraction, start.offset_minutes);
+  return CJDToAJD(LocalCJD(date.jdn + from.fraction), start.offset_minutes);
 }
 
-OLWDate ReadOLWDate(std::string_view text, std::int32_t day_number) {
+OLWDate ReadOLWDate(std::string_view text, DayNumber day_number) {
   OLWDate date;
   if (ParseOLWDate(text, date) == kOLWValid) return date;
   return DateOfDay<OLWDate>(day_number);
@@ -110,20 +110,20 @@ OLWDate ReadOLWDate(std::string_view text, std::int32_t day_number) {
 // Here the time of day counts from the beginning of the OLW day, so that the hours after midnight
 // stay with the day that they belong to.
 template <void (*step)(OLWDate&, bool)>
-double StepOLWDate(const Start& start, bool forward) {
-  const DayAndTime from = SplitCJD(AJDToCJD(start.ajd, start.offset_minutes) - kOLWDayShift);
+UniversalTime StepOLWDate(const Start& start, bool forward) {
+  const DayAndTime from = SplitCJD(AJDToCJD(start.moment, start.offset_minutes) - kOLWDayShift);
   OLWDate date = ReadOLWDate(start.olw_date, from.day_number);
   step(date, forward);
   std::int16_t error = kOLWValid;
   OLWDateToJDN(date, error);
   Require(error == kOLWValid);
-  return CJDToAJD(date.jdn + kOLWDayShift + from.fraction, start.offset_minutes);
+  return CJDToAJD(LocalCJD(date.jdn + kOLWDayShift + from.fraction), start.offset_minutes);
 }
 
 struct Step {
   std::string_view text;
   std::optional<Calendar> calendar;
-  double (*move)(const Start& start, bool forward);
+  UniversalTime (*move)(const Start& start, bool forward);
 };
 
 constexpr std::nullopt_t kUnchanged = std::nullopt;
@@ -159,9 +159,9 @@ std::string_view StepText(int step) { return StepAt(step).text; }
 
 std::optional<Calendar> StepCalendar(int step) { return StepAt(step).calendar; }
 
-double StepMoment(int step, bool forward, double ajd, int offset_minutes,
-                  std::string_view olw_date) {
-  return StepAt(step).move({ajd, offset_minutes, olw_date}, forward);
+UniversalTime StepMoment(int step, bool forward, UniversalTime moment, int offset_minutes,
+                         std::string_view olw_date) {
+  return StepAt(step).move({moment, offset_minutes, olw_date}, forward);
 }
 
 }  // namespace tarnwick

@@ -70,7 +70,7 @@ PhaseNumber FirstSyzygy(const PhaseNumber& at, bool forward) {
 }
 
 // The first of the SD month before, or after, in which a search from a day begins.
-SDDate FirstSDMonth(std::int32_t day_number, bool forward) {
+SDDate FirstSDMonth(DayNumber day_number, bool forward) {
   SDDate date = DateOfDay<SDDate>(day_number);
   const bool at_first = date.day == 1;
   date.day = 1;
@@ -78,14 +78,14 @@ SDDate FirstSDMonth(std::int32_t day_number, bool forward) {
   return date;
 }
 
-bool IsFirstOfARCMonth(std::int32_t day_number) { return DateOfDay<ARCDate>(day_number).day == 1; }
+bool IsFirstOfARCMonth(DayNumber day_number) { return DateOfDay<ARCDate>(day_number).day == 1; }
 
-bool IsFirstOfLLTMonth(std::int32_t day_number) {
+bool IsFirstOfLLTMonth(DayNumber day_number) {
   const LLTDate date = DateOfDay<LLTDate>(day_number);
   return date.triday == 1 && date.day == 1;
 }
 
-bool IsFirstOfKSGMonth(std::int32_t day_number) { return DateOfDay<KSGDate>(day_number).day == 1; }
+bool IsFirstOfKSGMonth(DayNumber day_number) { return DateOfDay<KSGDate>(day_number).day == 1; }
 
 }  // namespace
 
@@ -134,17 +134,17 @@ std::optional<FoundEclipse> FindEclipse(int target, bool forward, const PhaseNum
   }
 }
 
-bool IsCoincidenceOf1sts(std::int32_t day_number) {
+bool IsCoincidenceOf1sts(DayNumber day_number) {
   return IsFirstOfARCMonth(day_number) && IsFirstOfLLTMonth(day_number) &&
          IsFirstOfKSGMonth(day_number);
 }
 
-std::optional<std::int32_t> FindCoincidence(std::int32_t day_number, bool forward,
-                                            const KeepSearching& keep_searching) {
+std::optional<DayNumber> FindCoincidence(DayNumber day_number, bool forward,
+                                         const KeepSearching& keep_searching) {
   SDDate date = FirstSDMonth(day_number, forward);
   while (SDDateToJDN(date)) {
     if (!keep_searching()) return std::nullopt;
-    if (IsCoincidenceOf1sts(date.jdn)) return date.jdn;
+    if (IsCoincidenceOf1sts(DayNumber(date.jdn))) return DayNumber(date.jdn);
     StepSDMonth(date, forward);
   }
   return std::nullopt;

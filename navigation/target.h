@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include "engines/instant.h"
 #include "engines/phase_engine.h"
 
 namespace tarnwick {
@@ -61,11 +62,11 @@ std::optional<FoundEclipse> FindEclipse(int target, bool forward, const PhaseNum
                                         const KeepSearching& keep_searching);
 
 // Whether a day is the first of its month in ARC, LLT and KSG.
-bool IsCoincidenceOf1sts(std::int32_t day_number);
+bool IsCoincidenceOf1sts(DayNumber day_number);
 
 // The next or previous day, not the given one, that is the first of its month in SD, ARC, LLT and
 // KSG; nothing when the search is given up or leaves the years that fit 32 bits.
-std::optional<std::int32_t> FindCoincidence(std::int32_t day_number, bool forward,
-                                            const KeepSearching& keep_searching);
+std::optional<DayNumber> FindCoincidence(DayNumber day_number, bool forward,
+                                         const KeepSearching& keep_searching);
 
 }  // namespace tarnwick

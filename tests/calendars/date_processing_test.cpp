@@ -131,33 +131,34 @@ TEST(Clock, IsReadInEveryFormOfItsTexts) {
       {"2024-03-05", "00:00:27", 0, kMarchFifth + 27.0 / 86400},
   };
   for (const Case& c : cases) {
-    EXPECT_NEAR(NowAsAJD(c.date, c.time, c.offset), c.ajd, 1e-9) << c.date << " " << c.time;
+    EXPECT_NEAR(NowAsAJD(c.date, c.time, c.offset).days, c.ajd, 1e-9) << c.date << " " << c.time;
   }
   for (const char* broken : {"", "?", "2024", "2024-02-31", "99999999999999999999"}) {
-    EXPECT_LT(NowAsAJD(broken, broken, 0), -1e9) << broken;
+    EXPECT_LT(NowAsAJD(broken, broken, 0).days, -1e9) << broken;
   }
 }
 
 TEST(DayCounts, DifferByHalfADayAndTheOffset) {
-  EXPECT_EQ(AJDToCJD(2451545.0, 0), 2451545.5);
-  EXPECT_EQ(AJDToCJD(2451545.0, 720), 2451546.0);
-  EXPECT_EQ(CJDToAJD(2451545.0, -720), 2451545.0);
+  EXPECT_EQ(AJDToCJD(UniversalTime(2451545.0), 0), LocalCJD(2451545.5));
+  EXPECT_EQ(AJDToCJD(UniversalTime(2451545.0), 720), LocalCJD(2451546.0));
+  EXPECT_EQ(CJDToAJD(LocalCJD(2451545.0), -720), UniversalTime(2451545.0));
+  EXPECT_EQ(NoonOf(DayNumber(2451545), 720), UniversalTime(2451544.5));
 }
 
 TEST(SplitCJD, CarriesWhatRoundsToMidnightIntoTheNextDay) {
-  double cjd = 2451545;
-  for (int hour = 0; hour < 24; ++hour) cjd += 1.0 / 24;
-  ASSERT_NE(cjd, 2451546);
+  LocalCJD cjd(2451545);
+  for (int hour = 0; hour < 24; ++hour) cjd = cjd + 1.0 / 24;
+  ASSERT_NE(cjd, LocalCJD(2451546));
   const DayAndTime midnight = SplitCJD(cjd);
-  EXPECT_EQ(midnight.day_number, 2451546);
+  EXPECT_EQ(midnight.day_number, DayNumber(2451546));
   EXPECT_EQ(midnight.fraction, 0);
 
-  const DayAndTime before_zero = SplitCJD(-0.25);
-  EXPECT_EQ(before_zero.day_number, -1);
+  const DayAndTime before_zero = SplitCJD(LocalCJD(-0.25));
+  EXPECT_EQ(before_zero.day_number, DayNumber(-1));
   EXPECT_EQ(before_zero.fraction, 0.75);
 
-  const DayAndTime last_second = SplitCJD(2451545 + 86399.4 / 86400);
-  EXPECT_EQ(last_second.day_number, 2451545);
+  const DayAndTime last_second = SplitCJD(LocalCJD(2451545 + 86399.4 / 86400));
+  EXPECT_EQ(last_second.day_number, DayNumber(2451545));
   EXPECT_EQ(last_second.fraction, 86399.0 / 86400);
 }
 
@@ -165,9 +166,10 @@ TEST(SplitCJD, RefusesWhatHasNoDayNumber) {
   const double infinity = std::numeric_limits<double>::infinity();
   for (const double cjd : {2147483648.0, 2147483647.9999999, -2147483648.5, 1e300, infinity,
                            -infinity, std::nan("")}) {
-    EXPECT_THROW(SplitCJD(cjd), RuntimeError) << cjd;
+    EXPECT_THROW(SplitCJD(LocalCJD(cjd)), RuntimeError) << cjd;
   }
-  EXPECT_EQ(SplitCJD(-2147483648.0).day_number, std::numeric_limits<std::int32_t>::min());
+  EXPECT_EQ(SplitCJD(LocalCJD(-2147483648.0)).day_number.value,
+            std::numeric_limits<std::int32_t>::min());
 }
 
 TEST(CheckedArithmetic, ReportsOverflowByItsName) {

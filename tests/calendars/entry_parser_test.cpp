@@ -45,7 +45,7 @@ TEST(ParseEntry, ReadsTheMomentOfEveryForm) {
     const Entry entry = ParseEntry(expected.text, {});
     EXPECT_EQ(entry.code, kEntryOk);
     EXPECT_EQ(entry.calendar, expected.calendar);
-    EXPECT_NEAR(entry.ajd, expected.cjd - 0.5, 1e-9);
+    EXPECT_NEAR(entry.ajd.days, expected.cjd - 0.5, 1e-9);
   }
 }
 
@@ -113,16 +113,16 @@ TEST(ParseEntry, ReadsInTheGivenZoneExceptAstronomicalDates) {
     SCOPED_TRACE(offset);
     const EntryContext context{kCE, offset, false};
     const double east = offset / 1440.0;
-    EXPECT_DOUBLE_EQ(ParseEntry("2000-01-01 CE", context).ajd, 2451545.0 - east);
-    EXPECT_DOUBLE_EQ(ParseEntry("2451545.5 CJD", context).ajd, 2451545.0 - east);
-    EXPECT_EQ(ParseEntry("2451545 AJD", context).ajd, 2451545.0);
+    EXPECT_DOUBLE_EQ(ParseEntry("2000-01-01 CE", context).ajd.days, 2451545.0 - east);
+    EXPECT_DOUBLE_EQ(ParseEntry("2451545.5 CJD", context).ajd.days, 2451545.0 - east);
+    EXPECT_EQ(ParseEntry("2451545 AJD", context).ajd.days, 2451545.0);
   }
 }
 
 TEST(ParseEntry, RecalledDayCountsMayCarryATime) {
   const Entry entry = ParseEntry("2,451,545.0000 AJD (LOCAL = GMT+05:30)", {kCE, 0, true});
   EXPECT_EQ(entry.code, kEntryOk);
-  EXPECT_EQ(entry.ajd, 2451545.0);
+  EXPECT_EQ(entry.ajd, UniversalTime(2451545.0));
 }
 
 // Whatever is typed, the answer is a code or a number that the range check can judge.
@@ -148,10 +148,10 @@ TEST(ParseEntry, SurvivesAnyText) {
   for (const std::string& text : texts) {
     SCOPED_TRACE(text.substr(0, 20));
     const Entry entry = ParseEntry(text, {kKSG, 720, false});
-    EXPECT_FALSE(std::isnan(entry.ajd));
+    EXPECT_FALSE(std::isnan(entry.ajd.days));
     EXPECT_EQ(entry.code == kEntryOk, entry.calendar.has_value());
   }
-  EXPECT_EQ(ParseEntry(digits + " AJD", {}).ajd, std::numeric_limits<double>::infinity());
+  EXPECT_EQ(ParseEntry(digits + " AJD", {}).ajd.days, std::numeric_limits<double>::infinity());
 }
 
 TEST(EntryErrorText, KnowsEveryCodeAndNoOther) {

@@ -46,7 +46,8 @@ TEST(Equinoxes, AreWhereTheSunStands) {
   for (std::int32_t year = -900; year <= 2990; year += 37) {
     for (int season = 0; season < 4; ++season) {
       double distance = 0;
-      const double longitude = sun_app(SeasonInstant(year, static_cast<Season>(season)), distance);
+      const TerrestrialTime instant = SeasonInstant(year, static_cast<Season>(season));
+      const double longitude = sun_app(instant.days, distance);
       const double error =
           std::remainder(longitude - season * std::numbers::pi / 2, 2 * std::numbers::pi);
       EXPECT_LT(std::fabs(error) * 206265, 22) << year << " " << season;

@@ -15,8 +15,6 @@ namespace {
 constexpr int kOffset = 330;  // minutes east of Greenwich
 constexpr double kNearMidnight = 3.0 / 86400;
 
-double Noon(std::int32_t day_number, int offset) { return CJDToAJD(day_number + 0.5, offset); }
-
 TEST(LunationGridTest, HoldsTheDaysOfItsLunation) {
   std::set<std::int32_t> lengths;
   for (std::int32_t lunation = kFirstLunation; lunation <= kLastLunation; lunation += 37) {
@@ -24,38 +22,40 @@ TEST(LunationGridTest, HoldsTheDaysOfItsLunation) {
     const LunationGrid grid = MakeLunationGrid(lunation, reading);
     SCOPED_TRACE(grid.title);
     lengths.insert(grid.days.length);
-    std::int32_t next = grid.days.first_day;
+    DayNumber next = grid.days.first_day;
     for (int i = 0; i < kGridCells; ++i) {
       const auto& cell = grid.cells[static_cast<std::size_t>(i)];
       const bool shown = i != 7 && i != 23 && (i != 31 || grid.days.length == 30);
       ASSERT_EQ(cell.has_value(), shown) << i;
       if (!cell) continue;
-      ASSERT_EQ(cell->day_number, next++);
+      ASSERT_EQ(cell->day_number, next);
+      next = next + 1;
       ASSERT_FALSE(cell->date.empty());
     }
     ASSERT_EQ(next, grid.days.first_day + grid.days.length);
-    ASSERT_EQ(LunationOfDay(Noon(grid.days.first_day, kOffset), reading), lunation);
-    ASSERT_EQ(LunationOfDay(Noon(next - 1, kOffset) + 0.49, reading), lunation);
+    ASSERT_EQ(LunationOfDay(NoonOf(grid.days.first_day, kOffset), reading), lunation);
+    ASSERT_EQ(LunationOfDay(NoonOf(next - 1, kOffset) + 0.49, reading), lunation);
   }
   EXPECT_EQ(lengths, (std::set<std::int32_t>{29, 30}));
 }
 
 TEST(LunationGridTest, OpensWithinTheBounds) {
-  EXPECT_EQ(LunationOfDay(552283.0 - 1000, {}), kFirstLunation);
-  EXPECT_EQ(LunationOfDay(3912515.0 + 1000, {}), kLastLunation);
+  EXPECT_EQ(LunationOfDay(UniversalTime(552283.0 - 1000), {}), kFirstLunation);
+  EXPECT_EQ(LunationOfDay(UniversalTime(3912515.0 + 1000), {}), kLastLunation);
 }
 
 // How many cells of the grid of the instant's day name the event; the cell of the day must.
-int CountNaming(double tt, const std::string& name) {
+int CountNaming(TerrestrialTime tt, const std::string& name) {
   const GridReading reading{0, kOffset};
-  const double cjd = AJDToCJD(UniversalTime(tt), kOffset);
-  const LunationGrid grid = MakeLunationGrid(LunationOfDay(UniversalTime(tt), reading), reading);
+  const UniversalTime ut = ToUniversalTime(tt);
+  const double cjd = AJDToCJD(ut, kOffset).days;
+  const LunationGrid grid = MakeLunationGrid(LunationOfDay(ut, reading), reading);
   int count = 0;
   for (const auto& cell : grid.cells) {
     const bool named = cell && cell->event.find(name) != std::string::npos;
     count += named ? 1 : 0;
     const bool near_midnight = std::fabs(cjd - std::round(cjd)) < kNearMidnight;
-    if (!cell || near_midnight || cell->day_number != std::floor(cjd)) continue;
+    if (!cell || near_midnight || cell->day_number.value != std::floor(cjd)) continue;
     EXPECT_TRUE(named) << name << ' ' << cell->date;
     EXPECT_NE(cell->tool_tip.find("\n" + name), std::string::npos) << cell->tool_tip;
   }
@@ -68,15 +68,15 @@ TEST(LunationGridTest, NamesPhasesAndEclipsesOnTheirDays) {
     for (const auto& [column, name] :
          {std::pair("new", "Dark moon"), std::pair("first_quarter", "1st quarter"),
           std::pair("full", "Full moon"), std::pair("last_quarter", "Last quarter")}) {
-      EXPECT_EQ(CountNaming(std::stod(phases[i].at(column)), name), 1) << name;
+      EXPECT_EQ(CountNaming(TerrestrialTime(std::stod(phases[i].at(column))), name), 1) << name;
     }
   }
   for (const char* const file : {"eclipses_lunar.csv", "eclipses_solar.csv"}) {
     for (const ReferenceRow& row : ReadReferenceData(file)) {
       const auto type = static_cast<std::int16_t>(std::stoi(row.at("type")));
       // Two eclipses of the Sun can stand at the two ends of a lunation.
-      EXPECT_GE(CountNaming(std::stod(row.at("greatest_tt")), std::string(EclipseTypeText(type))),
-                1);
+      const TerrestrialTime greatest(std::stod(row.at("greatest_tt")));
+      EXPECT_GE(CountNaming(greatest, std::string(EclipseTypeText(type))), 1);
     }
   }
 }
@@ -108,7 +108,7 @@ TEST(LunationGridTest, IsTitledByTheMonthOfMostOfItsDays) {
 TEST(LunationGridTest, FifthCalendarBeginsItsDaysAtSix) {
   int earlier = 0;
   for (std::int32_t lunation = 0; lunation < 60; ++lunation) {
-    const double cjd = AJDToCJD(PhaseTime(lunation, 0), 0);
+    const double cjd = AJDToCJD(PhaseTime(lunation, 0), 0).days;
     const bool before_six = cjd - std::floor(cjd) < 0.25;
     earlier += before_six ? 1 : 0;
     EXPECT_EQ(DaysOfLunation(lunation, {4, 0}).first_day,

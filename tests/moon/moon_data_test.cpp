@@ -41,8 +41,9 @@ TEST(PhaseOfMoonText, ChangesAtItsThresholds) {
 // latitude make a few hundredths.
 TEST(MoonData, BothFractionsTellTheSameMoon) {
   for (double t = 2400000.0; t < 2480000.0; t += 1234.567) {
-    const MoonData moon = MoonDataAt(t);
-    EXPECT_NEAR(moon.fraction, FractionFromPhases(t, moon.lunation, moon.phase), 0.04) << t;
+    const UniversalTime moment(t);
+    const MoonData moon = MoonDataAt(moment);
+    EXPECT_NEAR(moon.fraction, FractionFromPhases(moment, moon.lunation, moon.phase), 0.04) << t;
   }
 }
 
@@ -50,7 +51,7 @@ TEST(MoonData, PhasesHaveTheirFractionsInEveryAge) {
   const double fractions[] = {0, 0.5, 1, 0.5};
   for (const std::int32_t lunation : {-60000, -4900, 0, 300, 1200, 1300, 49000}) {
     for (std::int16_t phase = 0; phase < 4; ++phase) {
-      const double instant = PhaseTime(lunation, phase);
+      const UniversalTime instant = PhaseTime(lunation, phase);
       const MoonData moon = MoonDataAt(instant);
       EXPECT_EQ(moon.lunation, lunation);
       EXPECT_EQ(moon.phase, phase);
@@ -65,8 +66,8 @@ TEST(MoonData, PhasesHaveTheirFractionsInEveryAge) {
 
 TEST(MoonData, TheWayChangesAtTheEdgesOf1600To2099) {
   for (const double midnight : {2305447.5, 2488069.5}) {
-    const double before = MoonDataAt(midnight - 1e-6).fraction;
-    const double after = MoonDataAt(midnight + 1e-6).fraction;
+    const double before = MoonDataAt(UniversalTime(midnight - 1e-6)).fraction;
+    const double after = MoonDataAt(UniversalTime(midnight + 1e-6)).fraction;
     EXPECT_NE(before, after);
     EXPECT_NEAR(before, after, 0.04);
   }

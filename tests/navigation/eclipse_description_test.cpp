@@ -8,7 +8,7 @@ namespace {
 using Lines = std::vector<std::string>;
 
 // 01:30 of some day.
-constexpr double kCJD = 2451545 + 1.5 / 24;
+constexpr LocalCJD kCJD(2451545 + 1.5 / 24);
 
 EclipseRecord Eclipse(EclipseType type, double penumbral, double umbral, double total) {
   EclipseRecord record{};

@@ -74,17 +74,17 @@ std::string DateTextOf(std::int32_t day, const std::string& calendar) {
 }
 
 // The date text and time, "2024-02-29 CE 13:07:09", of a moment.
-std::string TextOf(double ajd, const std::string& calendar) {
-  const double cjd = AJDToCJD(ajd, kOffset);
-  const double days = calendar == "OLW" ? cjd - 0.25 : cjd;
-  return DateTextOf(SplitCJD(days).day_number, calendar) + " " +
+std::string TextOf(UniversalTime moment, const std::string& calendar) {
+  const LocalCJD cjd = AJDToCJD(moment, kOffset);
+  const LocalCJD days = calendar == "OLW" ? cjd - 0.25 : cjd;
+  return DateTextOf(SplitCJD(days).day_number.value, calendar) + " " +
          TimeOfDayText(SplitCJD(cjd).fraction, true);
 }
 
-double MomentOf(const std::string& numbers, const std::string& calendar, long seconds) {
+UniversalTime MomentOf(const std::string& numbers, const std::string& calendar, long seconds) {
   std::int32_t day = DayNumberOf(numbers, calendar);
   if (calendar == "OLW" && seconds < kDawn) ++day;  // the small hours of the next civil day
-  return CJDToAJD(day + static_cast<double>(seconds) / kDay, kOffset);
+  return CJDToAJD(LocalCJD(day + static_cast<double>(seconds) / kDay), kOffset);
 }
 
 int StepNamed(const std::string& text) {
@@ -135,10 +135,10 @@ TEST(Steps, OfMinutesHoursAndDays) {
   };
   for (const TimeRow& row : rows) {
     SCOPED_TRACE(row.step + " from " + row.date);
-    const double ajd = MomentOf(row.date, "CE", row.seconds);
+    const UniversalTime moment = MomentOf(row.date, "CE", row.seconds);
     const int step = StepNamed(row.step);
-    EXPECT_EQ(TextOf(StepMoment(step, true, ajd, kOffset, ""), "CE"), row.forward);
-    EXPECT_EQ(TextOf(StepMoment(step, false, ajd, kOffset, ""), "CE"), row.back);
+    EXPECT_EQ(TextOf(StepMoment(step, true, moment, kOffset, ""), "CE"), row.forward);
+    EXPECT_EQ(TextOf(StepMoment(step, false, moment, kOffset, ""), "CE"), row.back);
   }
 }
 
@@ -152,12 +152,13 @@ struct DateRow {
 void ExpectSteps(const DateRow& row, const std::string& calendar, long seconds) {
   SCOPED_TRACE(row.step + " from " + row.date + " at second " + std::to_string(seconds));
   const int step = StepNamed(row.step);
-  const double ajd = MomentOf(row.date, calendar, seconds);
+  const UniversalTime moment = MomentOf(row.date, calendar, seconds);
   const std::string rest =
       " " + calendar + " " + TimeOfDayText(static_cast<double>(seconds) / kDay, true);
-  ASSERT_EQ(TextOf(ajd, calendar), row.date + rest);
-  EXPECT_EQ(TextOf(StepMoment(step, true, ajd, kOffset, row.date), calendar), row.forward + rest);
-  EXPECT_EQ(TextOf(StepMoment(step, false, ajd, kOffset, row.date), calendar), row.back + rest);
+  ASSERT_EQ(TextOf(moment, calendar), row.date + rest);
+  EXPECT_EQ(TextOf(StepMoment(step, true, moment, kOffset, row.date), calendar),
+            row.forward + rest);
+  EXPECT_EQ(TextOf(StepMoment(step, false, moment, kOffset, row.date), calendar), row.back + rest);
 }
 
 // In the middle of the day, in its small hours, and at its two ends.
@@ -284,47 +285,51 @@ TEST(Steps, OfTheLunarWeekCalendar) {
 }
 
 TEST(Steps, OfTheLunarWeekCalendarStartFromTheDateShown) {
-  const double ajd = MomentOf("5024-01-2-3", "OLW", kBeforeDawn);
+  const UniversalTime moment = MomentOf("5024-01-2-3", "OLW", kBeforeDawn);
   const int week = StepNamed("1 OLW week");
-  EXPECT_EQ(TextOf(StepMoment(week, true, ajd, kOffset, "5020-05-1-2"), "OLW"),
+  EXPECT_EQ(TextOf(StepMoment(week, true, moment, kOffset, "5020-05-1-2"), "OLW"),
             "5020-05-2-2 OLW 03:15:09");
   for (const char* no_date : {"", "?", "5024-14-1-1", "5024-01-5-1"}) {
-    EXPECT_EQ(TextOf(StepMoment(week, true, ajd, kOffset, no_date), "OLW"),
+    EXPECT_EQ(TextOf(StepMoment(week, true, moment, kOffset, no_date), "OLW"),
               "5024-01-3-3 OLW 03:15:09")
         << no_date;
   }
 }
 
 TEST(Steps, OfAnHourAddUpToADay) {
-  double ajd = MomentOf("2024-02-29", "CE", 0);
-  for (int i = 0; i < 24; ++i) ajd = StepMoment(StepNamed("1 hour"), true, ajd, kOffset, "");
-  EXPECT_EQ(TextOf(ajd, "CE"), "2024-03-01 CE 00:00:00");
-  EXPECT_EQ(TextOf(StepMoment(StepNamed("1 CE month"), true, ajd, kOffset, ""), "CE"),
+  UniversalTime moment = MomentOf("2024-02-29", "CE", 0);
+  for (int i = 0; i < 24; ++i) moment = StepMoment(StepNamed("1 hour"), true, moment, kOffset, "");
+  EXPECT_EQ(TextOf(moment, "CE"), "2024-03-01 CE 00:00:00");
+  EXPECT_EQ(TextOf(StepMoment(StepNamed("1 CE month"), true, moment, kOffset, ""), "CE"),
             "2024-04-01 CE 00:00:00");
-  for (int i = 0; i < 48; ++i) ajd = StepMoment(StepNamed("1 hour"), false, ajd, kOffset, "");
-  EXPECT_EQ(TextOf(ajd, "CE"), "2024-02-28 CE 00:00:00");
+  for (int i = 0; i < 48; ++i) moment = StepMoment(StepNamed("1 hour"), false, moment, kOffset, "");
+  EXPECT_EQ(TextOf(moment, "CE"), "2024-02-28 CE 00:00:00");
 }
 
 // Also some thousand years beyond the limits of the program.
 TEST(Steps, MoveInTheirDirectionAndKeepTheTime) {
   for (double ajd = 552283 - 2e6; ajd < 3912515 + 2e6; ajd += 34567.89) {
-    const double time = SplitCJD(ajd).fraction;
+    const UniversalTime moment(ajd);
+    const double time = SplitCJD(AJDToCJD(moment, kOffset)).fraction;
     for (int step = kOneDayStep; step < kStepCount; ++step) {
       SCOPED_TRACE(std::string(StepText(step)) + " from " + std::to_string(ajd));
-      const double next = StepMoment(step, true, ajd, kOffset, "");
-      const double previous = StepMoment(step, false, ajd, kOffset, "");
-      EXPECT_GE(next, ajd + 0.9);
-      EXPECT_LE(previous, ajd - 0.9);
-      EXPECT_NEAR(SplitCJD(next).fraction, time, 1.5 / kDay);
-      EXPECT_NEAR(SplitCJD(previous).fraction, time, 1.5 / kDay);
+      const UniversalTime next = StepMoment(step, true, moment, kOffset, "");
+      const UniversalTime previous = StepMoment(step, false, moment, kOffset, "");
+      EXPECT_GE(next, moment + 0.9);
+      EXPECT_LE(previous, moment - 0.9);
+      EXPECT_NEAR(SplitCJD(AJDToCJD(next, kOffset)).fraction, time, 1.5 / kDay);
+      EXPECT_NEAR(SplitCJD(AJDToCJD(previous, kOffset)).fraction, time, 1.5 / kDay);
     }
   }
 }
 
 TEST(Steps, ThrowWhereTheNumbersEnd) {
   for (const char* step : {"1 CE century", "1 SD cycle", "1 KSG cycle", "1 LLT cycle"}) {
-    EXPECT_THROW(StepMoment(StepNamed(step), true, 2147483000, 0, ""), RuntimeError) << step;
-    EXPECT_THROW(StepMoment(StepNamed(step), false, -2147483000, 0, ""), RuntimeError) << step;
+    EXPECT_THROW(StepMoment(StepNamed(step), true, UniversalTime(2147483000), 0, ""), RuntimeError)
+        << step;
+    EXPECT_THROW(StepMoment(StepNamed(step), false, UniversalTime(-2147483000), 0, ""),
+                 RuntimeError)
+        << step;
   }
 }
 

@@ -17,18 +17,15 @@ using Texts = std::vector<std::string>;
 
 bool Always() { return true; }
 
-double MomentOf(const std::string& date) { return NowAsAJD(date, "00:00:00", 0); }
+UniversalTime MomentOf(const std::string& date) { return NowAsAJD(date, "00:00:00", 0); }
 
 // "2024-01-25 17:54"
-std::string MinuteText(double ajd) {
-  const DayAndTime split = SplitCJD(AJDToCJD(ajd, 0));
-  DateRecord date;
-  date.jdn = split.day_number;
-  jdn_to_euro_date(date);
-  return DateText(date) + " " + TimeOfDayText(split.fraction, false);
+std::string MinuteText(UniversalTime moment) {
+  const DayAndTime split = SplitCJD(AJDToCJD(moment, 0));
+  return DateText(CivilDateOf(split.day_number.value)) + " " + TimeOfDayText(split.fraction, false);
 }
 
-std::string DayText(double ajd) { return MinuteText(ajd).substr(0, 10); }
+std::string DayText(UniversalTime moment) { return MinuteText(moment).substr(0, 10); }
 
 Texts Reversed(Texts texts) {
   std::reverse(texts.begin(), texts.end());
@@ -40,34 +37,35 @@ struct Here {
   bool exact = false;
 };
 
-Here PhaseHere(double ajd) {
-  const std::int32_t lunation = LunationOf(ajd);
-  const PhaseInEffect in_effect = GetPhase(lunation, ajd);
+Here PhaseHere(UniversalTime moment) {
+  const std::int32_t lunation = LunationOf(moment);
+  const PhaseInEffect in_effect = GetPhase(lunation, moment);
   return {{lunation, in_effect.phase}, in_effect.exact};
 }
 
 // `count` phases, each searched from the one before.
-std::vector<double> PhasesFrom(double ajd, int target, bool forward, std::size_t count) {
-  std::vector<double> found;
+std::vector<UniversalTime> PhasesFrom(UniversalTime moment, int target, bool forward,
+                                      std::size_t count) {
+  std::vector<UniversalTime> found;
   while (found.size() < count) {
-    const Here here = PhaseHere(ajd);
+    const Here here = PhaseHere(moment);
     const PhaseNumber next = FindPhase(target, forward, here.at, here.exact);
-    ajd = PhaseTime(next.lunation, next.phase);
-    found.push_back(ajd);
+    moment = PhaseTime(next.lunation, next.phase);
+    found.push_back(moment);
   }
   return found;
 }
 
 // The days of `count` eclipses, each searched from the greatest phase of the one before.
-Texts EclipsesFrom(double ajd, int target, bool forward, std::size_t count) {
+Texts EclipsesFrom(UniversalTime moment, int target, bool forward, std::size_t count) {
   Texts days;
   std::optional<FoundEclipse> shown;
   while (days.size() < count) {
     shown = FindEclipse(
-        target, forward, PhaseHere(ajd).at,
+        target, forward, PhaseHere(moment).at,
         [&](const FoundEclipse& eclipse) { return !shown || eclipse.at != shown->at; }, Always);
-    ajd = shown->record.greatest - DeltaT(shown->record.greatest) / 1440;
-    days.push_back(DayText(ajd));
+    moment = GreatestEclipse(shown->record);
+    days.push_back(DayText(moment));
   }
   return days;
 }
@@ -88,11 +86,12 @@ struct Instant {
 };
 
 // By the almanac, to the minute.
-void ExpectInstants(const std::vector<double>& found, const std::vector<Instant>& expected) {
+void ExpectInstants(const std::vector<UniversalTime>& found, const std::vector<Instant>& expected) {
   ASSERT_EQ(found.size(), expected.size());
   for (std::size_t i = 0; i < found.size(); ++i) {
-    const double ajd = NowAsAJD(expected[i].date, expected[i].time, 0);
-    EXPECT_NEAR(found[i], ajd, 1.1 / 1440) << MinuteText(found[i]) << " " << expected[i].date;
+    const UniversalTime moment = NowAsAJD(expected[i].date, expected[i].time, 0);
+    EXPECT_NEAR(found[i] - moment, 0, 1.1 / 1440)
+        << MinuteText(found[i]) << " " << expected[i].date;
   }
 }
 
@@ -243,26 +242,26 @@ TEST(Targets, SearchesCanBeGivenUp) {
   EXPECT_FALSE(FindEclipse(kSolarEclipseTarget, true, {0, 0}, none, three_times));
   EXPECT_EQ(asked, 4);
   asked = 0;
-  EXPECT_FALSE(FindCoincidence(776073, true, three_times));
+  EXPECT_FALSE(FindCoincidence(DayNumber(776073), true, three_times));
   EXPECT_EQ(asked, 4);
 }
 
 // coincidences.csv: a day to start from, the direction, and the day of the coincidence found.
 TEST(Targets, CoincidencesAgreeWithTheReference) {
   for (const ReferenceRow& row : ReadReferenceData("coincidences.csv")) {
-    const std::int32_t start = std::stoi(row.at("start_day_number"));
-    const std::int32_t expected = std::stoi(row.at("found_day_number"));
+    const DayNumber start(std::stoi(row.at("start_day_number")));
+    const DayNumber expected(std::stoi(row.at("found_day_number")));
     const std::string& direction = row.at("direction");
     EXPECT_EQ(FindCoincidence(start, direction == "next", Always), expected)
-        << direction << " from " << start;
+        << direction << " from " << start.value;
     EXPECT_TRUE(IsCoincidenceOf1sts(expected));
     for (const int other : {-1, 1, 2}) EXPECT_FALSE(IsCoincidenceOf1sts(expected + other));
   }
 }
 
 TEST(Targets, CoincidencesAreNotFoundTwice) {
-  constexpr std::int32_t kFirst = 776073;
-  const std::optional<std::int32_t> next = FindCoincidence(kFirst, true, Always);
+  constexpr DayNumber kFirst(776073);
+  const std::optional<DayNumber> next = FindCoincidence(kFirst, true, Always);
   ASSERT_TRUE(next);
   EXPECT_GT(*next, kFirst);
   EXPECT_EQ(FindCoincidence(*next, false, Always), kFirst);
@@ -271,8 +270,8 @@ TEST(Targets, CoincidencesAreNotFoundTwice) {
 }
 
 TEST(Targets, CoincidencesEndWhereTheNumbersDo) {
-  EXPECT_FALSE(FindCoincidence(2147483600, true, Always));
-  EXPECT_FALSE(FindCoincidence(-2147483600, false, Always));
+  EXPECT_FALSE(FindCoincidence(DayNumber(2147483600), true, Always));
+  EXPECT_FALSE(FindCoincidence(DayNumber(-2147483600), false, Always));
 }
 
 }  // namespace

@@ -5,14 +5,14 @@
 #include <functional>
 #include <limits>
 
+#include "calendars/date_processing.h"
 #include "calendars/day_date.h"
-#include "moon/syzyg.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr std::int32_t kFirstDay = 552284;  // -3200-01-01 CE
-constexpr std::int32_t kLastDay = 3912515;
+constexpr DayNumber kFirstDay(552284);  // -3200-01-01 CE
+constexpr DayNumber kLastDay(3912515);
 constexpr std::int32_t kFirstYear = -3200;
 constexpr double kDaysPerYear = 365.2425;
 constexpr std::int32_t kShortestMonth = 27;  // whole days that surely are not another first
@@ -23,27 +23,27 @@ struct MonthDay {
   std::int32_t day = 0;
 };
 
-MonthDay ARCDay(std::int32_t day_number) {
+MonthDay ARCDay(DayNumber day_number) {
   const ARCDate date = DateOfDay<ARCDate>(day_number);
   return {date.month, date.day};
 }
 
-MonthDay SDDay(std::int32_t day_number) {
+MonthDay SDDay(DayNumber day_number) {
   const SDDate date = DateOfDay<SDDate>(day_number);
   return {date.month, date.day};
 }
 
-MonthDay LLTDay(std::int32_t day_number) {
+MonthDay LLTDay(DayNumber day_number) {
   const LLTDate date = DateOfDay<LLTDate>(day_number);
   return {date.month, 3 * (date.triday - 1) + date.day};
 }
 
-MonthDay KSGDay(std::int32_t day_number) {
+MonthDay KSGDay(DayNumber day_number) {
   const KSGDate date = DateOfDay<KSGDate>(day_number);
   return {date.month, date.day};
 }
 
-MonthDay OLWDay(std::int32_t day_number) {
+MonthDay OLWDay(DayNumber day_number) {
   const OLWDate date = DateOfDay<OLWDate>(day_number);
   const bool first = date.week == 1 && date.day == 1;
   return {date.month, first ? 1 : 2};
@@ -51,29 +51,30 @@ MonthDay OLWDay(std::int32_t day_number) {
 
 struct Reckoning {
   const char* calendar;
-  MonthDay (*month_day)(std::int32_t day_number);
+  MonthDay (*month_day)(DayNumber day_number);
 };
 constexpr Reckoning kLunar[] = {
     {"ARC", ARCDay}, {"SD", SDDay}, {"LLT", LLTDay}, {"KSG", KSGDay}, {"OLW", OLWDay}};
 constexpr Reckoning kSolar[] = {{"ARC", ARCDay}, {"SD", SDDay}, {"OLW", OLWDay}};
 
-std::int32_t GregorianYear(std::int32_t day_number) {
+std::int32_t GregorianYear(DayNumber day_number) {
   return kFirstYear +
          static_cast<std::int32_t>(std::floor((day_number - kFirstDay) / kDaysPerYear));
 }
 
-double FromNewMoon(std::int32_t day_number) {
-  double instant = 0;
+double FromNewMoon(DayNumber day_number) {
+  const UniversalTime noon = NoonOf(day_number, 0);
+  UniversalTime instant;
   std::int32_t lunation = 0;
-  NearestNewMoon(day_number, instant, lunation);
-  return day_number - instant;
+  NearestNewMoon(noon, instant, lunation);
+  return noon - instant;
 }
 
-double FromEquinox(std::int32_t day_number) {
+double FromEquinox(DayNumber day_number) {
   const std::int32_t year = GregorianYear(day_number);
   double nearest = std::numeric_limits<double>::infinity();
   for (std::int32_t y = year - 1; y <= year + 1; ++y) {
-    const double distance = day_number - OLWYearReference(y);
+    const double distance = NoonOf(day_number, 0) - OLWYearReference(y);
     if (std::fabs(distance) < std::fabs(nearest)) nearest = distance;
   }
   return nearest;
@@ -100,19 +101,19 @@ struct Collector {
   }
 };
 
-using Distance = double (*)(std::int32_t day_number);
+using Distance = double (*)(DayNumber day_number);
 
 Drift DriftOf(const Reckoning& reckoning, bool years, Distance distance) {
   std::vector<Collector> spans(
       static_cast<std::size_t>((GregorianYear(kLastDay) - kFirstYear) / kYearsPerPoint + 1));
-  for (std::int32_t day = kFirstDay; day <= kLastDay; ++day) {
+  for (DayNumber day = kFirstDay; day <= kLastDay; day = day + 1) {
     const auto [month, day_of_month] = reckoning.month_day(day);
     if (day_of_month != 1) continue;
     if (!years || month == 1) {
       spans[static_cast<std::size_t>((GregorianYear(day) - kFirstYear) / kYearsPerPoint)].Add(
           distance(day));
     }
-    day += kShortestMonth;
+    day = day + kShortestMonth;
   }
   Drift drift{reckoning.calendar, {}};
   double year = kFirstYear + kYearsPerPoint / 2.0;

@@ -25,10 +25,10 @@ constexpr std::string_view kUsage =
     "Prints every principal phase, eclipse or day from 1 January of the CE year FROM up to but\n"
     "not including that of TO, as CSV. Years -3200 to 6001.\n";
 
-// What is to be printed: from `begin` (inclusive) to `end`, AJD in Universal Time.
+// What is to be printed: from `begin` (inclusive) to `end`.
 struct Period {
-  double begin;
-  double end;
+  UniversalTime begin;
+  UniversalTime end;
 };
 
 // Where a table goes, and how far it has come.
@@ -38,14 +38,14 @@ class Printer {
       : period_(period), out_(out), progress_(progress) {}
 
   // Prints a row that belongs to a moment; false when the output takes no more.
-  bool Print(double moment, const std::string& row) {
+  bool Print(UniversalTime moment, const std::string& row) {
     ShowProgress(moment);
     out_ << row << '\n';
     return out_.good();
   }
 
  private:
-  void ShowProgress(double moment) {
+  void ShowProgress(UniversalTime moment) {
     if (progress_ == nullptr) return;
     const int percent =
         static_cast<int>(100 * (moment - period_.begin) / (period_.end - period_.begin));
@@ -60,13 +60,13 @@ class Printer {
   int percent_ = -1;
 };
 
-double NewYear(std::int32_t year) {
+UniversalTime NewYear(std::int32_t year) {
   DateRecord date;
   date.calendar = 'G';
   date.year = year;
   date.month = 1;
   date.day = 1;
-  return CJDToAJD(euro_date_to_jdn(date), 0);
+  return CJDToAJD(LocalCJD(euro_date_to_jdn(date)), 0);
 }
 
 std::string Join(std::span<const std::string> cells) {
@@ -78,7 +78,10 @@ std::string Join(std::span<const std::string> cells) {
   return row;
 }
 
-std::string Instant(double ajd) { return FormatFixed(ajd, 7, false); }
+template <class Scale>
+std::string Cell(Instant<Scale> instant) {
+  return FormatFixed(instant.days, 7, false);
+}
 
 // Empty for what a kind of eclipse does not have.
 std::string Optional(double value, int decimals) {
@@ -99,7 +102,7 @@ bool VisitPhases(const Period& period, std::int16_t step, const Visit& visit) {
   return true;
 }
 
-bool Contains(const Period& period, double moment) {
+bool Contains(const Period& period, UniversalTime moment) {
   return moment >= period.begin && moment < period.end;
 }
 
@@ -108,20 +111,20 @@ bool PrintPhases(const Period& period, Printer& printer) {
   if (!printer.Print(period.begin, header)) return false;
   return VisitPhases(period, 1, [&](std::int32_t lunation, std::int16_t phase, const auto& event) {
     if (!Contains(period, event.ut)) return true;
-    const std::array cells{std::to_string(lunation), std::to_string(phase), Instant(event.tt),
-                           Instant(event.ut)};
+    const std::array cells{std::to_string(lunation), std::to_string(phase), Cell(event.tt),
+                           Cell(event.ut)};
     return printer.Print(event.ut, Join(cells));
   });
 }
 
 std::string EclipseRow(std::int32_t lunation, std::int16_t phase, const EclipseRecord& eclipse,
-                       double ut) {
+                       UniversalTime ut) {
   const std::array cells{std::to_string(lunation),
                          std::to_string(phase),
                          std::to_string(eclipse.type),
                          std::to_string(eclipse.saros),
-                         Instant(eclipse.greatest),
-                         Instant(ut),
+                         Cell(TerrestrialTime(eclipse.greatest)),
+                         Cell(ut),
                          FormatFixed(eclipse.gamma, 5, false),
                          FormatFixed(eclipse.magnitude, 5, false),
                          Optional(eclipse.penumbral_magnitude, 5),
@@ -138,7 +141,7 @@ bool PrintEclipses(const Period& period, Printer& printer) {
   return VisitPhases(period, 2, [&](std::int32_t lunation, std::int16_t phase, const auto& event) {
     const EclipseRecord& eclipse = event.eclipse;
     if (eclipse.type == kNotEclipsed) return true;
-    const double ut = UniversalTime(eclipse.greatest);
+    const UniversalTime ut = GreatestEclipse(eclipse);
     if (!Contains(period, ut)) return true;
     return printer.Print(ut, EclipseRow(lunation, phase, eclipse, ut));
   });
@@ -147,24 +150,23 @@ bool PrintEclipses(const Period& period, Printer& printer) {
 constexpr std::array kDateColumns{kCE, kJC, kARC, kSD, kLLT, kKSG, kOLW};
 
 // The numeric text of a day without the abbreviation behind it.
-std::string DateCell(Calendar calendar, double noon) {
+std::string DateCell(Calendar calendar, UniversalTime noon) {
   const std::string text = DateTextsOf(calendar, noon, 0).short_form;
   return text.substr(0, text.find(' '));
 }
 
 // The civil day at Greenwich that contains a moment.
-std::int32_t DayNumber(double ajd) { return SplitCJD(AJDToCJD(ajd, 0)).day_number; }
+DayNumber DayOf(UniversalTime moment) { return SplitCJD(AJDToCJD(moment, 0)).day_number; }
 
 bool PrintDates(const Period& period, Printer& printer) {
   std::string header = "day_number,weekday";
   for (const Calendar calendar : kDateColumns)
     header += "," + std::string(AbbreviationOf(calendar));
   if (!printer.Print(period.begin, header)) return false;
-  const std::int32_t last = DayNumber(period.end) - 1;
-  for (std::int32_t day_number = DayNumber(period.begin); day_number <= last; ++day_number) {
-    const double noon = day_number;
-    std::string row =
-        std::to_string(day_number) + "," + std::to_string(euro_day_of_week(day_number));
+  const DayNumber end = DayOf(period.end);
+  for (DayNumber day = DayOf(period.begin); day < end; day = day + 1) {
+    const UniversalTime noon = NoonOf(day, 0);
+    std::string row = std::to_string(day.value) + "," + std::to_string(euro_day_of_week(day.value));
     for (const Calendar calendar : kDateColumns) row += "," + DateCell(calendar, noon);
     if (!printer.Print(noon, row)) return false;
   }
