@@ -58,6 +58,8 @@ def scene(at, names):
     """Commands that belong together."""
     move = [at.choice(["tick", "tick 3", "click cmdPauseResume", "set cboRefreshPeriod 0",
                        *single(at, names)]) for _ in range(at.randint(1, 7))]
+    end = at.choice(["click cmdStop", "click cmdStop", "click cmdPauseResume", "close frmMain"])
+    leave = at.choice(["click cmdMove", "click optLocal", f"set txbDate {entry(at)}"])
     side = at.choice(["Left", "Top", "Width", "Height"])
     moment, step, target = entry(at), at.randrange(20), at.choice([at.randrange(16), 6, 13])
     clock = (f"20{at.randint(10, 60)}-{at.randint(1, 12):02}-{at.randint(1, 28):02} "
@@ -66,9 +68,10 @@ def scene(at, names):
         [f"set txbDate {moment}", "click cmdCompute"],
         [f"set txbDate {moment}", f"set txbPlusMinus {at.choice(DAYS)}", "press txbDate 13"],
         [f"set cboMoveStep {step}", "click cmdMove", "click cmdMove"],
-        ["set chkRepeatedly 1", "click cmdMove", *move, "click cmdStop", "set chkRepeatedly 0"],
+        ["set chkRepeatedly 1", "click cmdMove", *move, end, "set chkRepeatedly 0"],
         [f"set cboTarget {target}", "click cmdSearch", "click cmdSearch"],
-        ["set cboTarget 6", "click cmdSearch", "set cboTarget 13", "click cmdSearch"],
+        ["set cboTarget 6", "click cmdSearch", f"set cboTarget {at.choice([6, 13])}", leave,
+         f"click {at.choice(['optNext', 'optPrevious'])}", "click cmdSearch"],
         ["click cmdLogThisResult", "click cmdViewLog", "select frmLog.txbText 3 9",
          f"resize frmLog {at.randint(3000, 20000)} {at.randint(2000, 9000)}",
          f"get frmLog.txbText.{side}", f"get frmLog.cmdClose.{side}"],
