@@ -78,5 +78,25 @@ TEST(Driver, ExitStatusTellsOfErrors) {
   }
 }
 
+TEST(Driver, DumpPrintsEverythingByName) {
+  std::istringstream input("start\nset txbPlusMinus 7\ndump\n");
+  std::ostringstream output;
+  EXPECT_EQ(Driver(input, output, TEST_PROGRAM_FOLDER).Run(), 0);
+  const std::string dump = output.str();
+  std::size_t at = 0;
+  for (const std::string line :
+       {"frmCredits|Credits|0", "frmLogPreferences|chkIncludeCE|1|1|1|#000000|",
+        "frmMain|Tarnwick 18.0|1", "frmMain|Clock|0|0|1|#000000|",
+        "frmMain|lblKSGDate(1)|1-117-08-25 KSG (Tuesday, Hathor 25, 1-117)|1|1|#c8c8c8|"
+        "The 25th day of Hathor in the year 117 of cycle 1",
+        "frmMain|picMoon|lastquarter.bmp|1|1|#000000|", "frmMain|txbPlusMinus|7|1|1|#000000|",
+        "frmMain.txbPlusMinus\n."}) {
+    const std::size_t found = dump.find(line + "\n", at);
+    ASSERT_NE(found, std::string::npos) << line;
+    at = found + line.size();
+  }
+  EXPECT_EQ(at + 1, dump.size());
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -1,11 +1,13 @@
 #include "tools/driver/driver.h"
 
+#include <algorithm>
 #include <charconv>
 #include <filesystem>
 #include <limits>
 #include <sstream>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 #include "tools/driver/properties.h"
 
@@ -72,6 +74,21 @@ std::string_view ButtonsName(MessageButtons buttons) {
   return "ok";
 }
 
+// The focus of the active window as "form.control", empty when nothing has it.
+std::string FocusText(const Screen& screen) {
+  const Form* form = screen.Active();
+  if (form == nullptr || form->Focus() == nullptr) return {};
+  return form->Name() + "." + form->Focus()->Name();
+}
+
+template <class T>
+std::vector<const T*> SortedByName(const std::vector<T*>& named) {
+  std::vector<const T*> sorted(named.begin(), named.end());
+  std::sort(sorted.begin(), sorted.end(),
+            [](const T* left, const T* right) { return left->Name() < right->Name(); });
+  return sorted;
+}
+
 void SetByUser(Control& control, std::string_view value) {
   if (auto* text = dynamic_cast<TextBox*>(&control)) {
     text->SetText(Unescape(value));
@@ -113,6 +130,7 @@ const Driver::Command Driver::kCommands[] = {
     {"focus", &Driver::Focus},       {"messages", &Driver::Messages},
     {"answer", &Driver::Answer},     {"tick", &Driver::Tick},
     {"during", &Driver::During},     {"clipboard", &Driver::Clipboard},
+    {"dump", &Driver::Dump},
 };
 
 Driver::Driver(std::istream& input, std::ostream& output, std::filesystem::path program_folder)
@@ -356,9 +374,9 @@ void Driver::Items(std::string_view name) {
 
 void Driver::Focus(std::string_view /*arguments*/) {
   Main();
-  const Form* form = screen_->Active();
-  if (form == nullptr || form->Focus() == nullptr) throw CommandError("nothing has the focus");
-  Print(form->Name() + "." + form->Focus()->Name());
+  const std::string focus = FocusText(*screen_);
+  if (focus.empty()) throw CommandError("nothing has the focus");
+  Print(focus);
 }
 
 void Driver::Messages(std::string_view /*arguments*/) {
@@ -412,5 +430,19 @@ void Driver::During(std::string_view arguments) {
 }
 
 void Driver::Clipboard(std::string_view /*arguments*/) { Print(Escape(desktop_.ClipboardText())); }
+
+void Driver::Dump(std::string_view /*arguments*/) {
+  Main();
+  for (const Form* form : SortedByName(screen_->Forms())) {
+    output_ << form->Name() << '|' << Escape(form->Caption()) << '|' << form->Visible() << '\n';
+    for (const Control* control : SortedByName(form->Controls())) {
+      output_ << form->Name();
+      for (const std::string& field : DumpFields(*control)) output_ << '|' << Escape(field);
+      output_ << '\n';
+    }
+  }
+  Print(FocusText(*screen_));
+  Print(".");
+}
 
 }  // namespace tarnwick

@@ -66,6 +66,7 @@ class Driver {
   void Tick(std::string_view arguments);
   void During(std::string_view arguments);
   void Clipboard(std::string_view arguments);
+  void Dump(std::string_view arguments);
 
   void Print(std::string_view text) { output_ << text << '\n'; }
   void FireTimer();

@@ -42,6 +42,9 @@ std::optional<std::string> OwnProperty(const Control& control, std::string_view 
     if (property == "ListIndex") return std::to_string(list->ListIndex());
     if (property == "Text") return list->Text();
   }
+  if (const auto* picture = dynamic_cast<const Picture*>(&control)) {
+    if (property == "Picture") return picture->File().filename().string();
+  }
   if (const auto* timer = dynamic_cast<const Timer*>(&control)) {
     if (property == "Interval") return std::to_string(timer->Interval());
   }
@@ -104,6 +107,18 @@ std::string_view DefaultProperty(const Control& control) {
     if (OwnProperty(control, property)) return property;
   }
   return "Visible";
+}
+
+std::vector<std::string> DumpFields(const Control& control) {
+  const auto* picture = dynamic_cast<const Picture*>(&control);
+  const std::string_view value = picture != nullptr ? "Picture" : DefaultProperty(control);
+  std::vector<std::string> fields{control.Name()};
+  for (const std::string_view property :
+       {value, std::string_view("Enabled"), std::string_view("Visible"),
+        std::string_view("ForeColor"), std::string_view("ToolTipText")}) {
+    fields.push_back(*PropertyText(control, property));
+  }
+  return fields;
 }
 
 }  // namespace tarnwick

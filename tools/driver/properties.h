@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "controls/controls.h"
 #include "controls/form.h"
@@ -15,12 +16,16 @@ std::string Escape(std::string_view text);
 std::string Unescape(std::string_view text);
 
 // A property by its name: Caption, Text, Value, ListIndex, Enabled, Visible, ForeColor,
-// ToolTipText, SelStart, SelLength, Left, Top, Width, Height or Interval; nothing where the control
-// has none of that name. Booleans are 1 and 0, colours #rrggbb.
+// ToolTipText, SelStart, SelLength, Left, Top, Width, Height, Interval or Picture (the name of its
+// file); nothing where the control has none of that name. Booleans are 1 and 0, colours #rrggbb.
 std::optional<std::string> PropertyText(const Control& control, std::string_view property);
 std::optional<std::string> PropertyText(const Form& form, std::string_view property);
 
 // The property that tells most about a control of that kind.
 std::string_view DefaultProperty(const Control& control);
+
+// Name, value, Enabled, Visible, ForeColor and ToolTipText of a control; its value is its default
+// property, that of a picture the name of its file.
+std::vector<std::string> DumpFields(const Control& control);
 
 }  // namespace tarnwick
