@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t kCapacity = 1'000'000;  // characters
 
 // Places and sizes in twips.
-constexpr Bounds kInitialSize{0, 0, 13200, 6600};
+constexpr Rectangle kInitialSize{0, 0, 13200, 6600};
 constexpr int kMargin = 150;
 constexpr int kTextMargins = 300;   // left and right of the text
 constexpr int kBelowText = 700;     // beside the height of the buttons
@@ -67,7 +67,7 @@ void frmLog::PlaceCopyButton(bool for_selection) {
   blnCopiesSelection = for_selection;
   cmdCopyToClipboard.SetCaption(for_selection ? "Copy selected text to clipboard"
                                               : "Copy to clipboard");
-  const tarnwick::Bounds& clear = cmdClear.Bounds();
+  const Rectangle& clear = cmdClear.Bounds();
   cmdCopyToClipboard.SetBounds(
       {clear.left + clear.width + (for_selection ? kBeforeCopySelection : kBeforeCopy), clear.top,
        for_selection ? kCopySelectionWidth : kCopyWidth, clear.height});
