@@ -27,21 +27,6 @@ std::size_t ByteOffset(std::string_view text, std::size_t index) {
 
 }  // namespace
 
-bool Label::Click() {
-  Run(on_click);
-  return true;
-}
-
-bool Button::Click() {
-  Run(on_click);
-  return true;
-}
-
-bool Picture::Click() {
-  Run(on_click);
-  return true;
-}
-
 void Picture::SetPicture(std::filesystem::path file, Retouch retouch) {
   file_ = std::move(file);
   retouch_ = std::move(retouch);
