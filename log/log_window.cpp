@@ -5,6 +5,7 @@
 #include "app/main_window.h"
 #include "app/save_path.h"
 #include "app/text_file.h"
+#include "controls/utf8.h"
 
 namespace tarnwick {
 namespace {
@@ -39,12 +40,9 @@ frmLog::frmLog(Desktop& desktop, Screen& screen, frmMain& main_window)
   Form_Resize();
 }
 
-// Bytes that continue a character are not counted.
 bool frmLog::IsTooLong(const std::string& text) {
-  if (text.size() <= kCapacity) return false;
-  std::size_t characters = 0;
-  for (const char byte : text) characters += (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-  return characters > kCapacity;
+  // A text has no more characters than bytes: most need no counting.
+  return text.size() > kCapacity && CountCharacters(text) > kCapacity;
 }
 
 void frmLog::ShowText(std::string text) {
