@@ -115,8 +115,7 @@ void frmLog::cmdSaveAs_Click() {
   if (error.empty()) {
     main_window_.notice.ShowOver(*this, "Saved");
   } else {
-    desktop_.ShowMessage(
-        {"Error when attempting to save the log: " + error, title, MessageIcon::kExclamation});
+    ReportSaveError(desktop_, "the log", title, error);
   }
 }
 
