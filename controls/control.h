@@ -1,3 +1,4 @@
+// What the controls of a form have in common, whatever their kind.
 #pragma once
 
 #include <cstdint>

@@ -1,3 +1,5 @@
+// The kinds of controls of which the windows are made. They know no toolkit: a view shows them, the
+// driver works them by text.
 #pragma once
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// Windows that know no toolkit: which there are, which of them is active, and what each holds.
 #pragma once
 
 #include <string>
