@@ -56,7 +56,7 @@ void NavigationViewTest::searchShowsTheEclipse() {
   QCOMPARE(lines.front(), "Total lunar eclipse");
   QVERIFY(lines.back().startsWith("Total phase starts "));
   QVERIFY(lines.back().endsWith("m."));
-  QVERIFY(main.desktop.messages.empty());
+  QVERIFY(main.desktop.TakeMessages().empty());
 }
 
 void NavigationViewTest::runningMoveIsSteeredWhileItsFrameIsDisabled() {
