@@ -281,7 +281,7 @@ void MainWindowViewTest::textsStandOutFromTheirGround() {
   for (const auto& pair : pairs) QVERIFY2(Contrast(pair.text, pair.ground) >= 4.5, pair.name);
 }
 
-int RunMainWindowViewTests(int argc, char** argv) { return Run<MainWindowViewTest>(argc, argv); }
+const AddSuite<MainWindowViewTest> added;
 
 }  // namespace tarnwick
 

@@ -101,7 +101,7 @@ void NavigationViewTest::longestTextsLeaveTheWindowAlone() {
     QVERIFY2(place == places.at(name), qPrintable(name));
 }
 
-int RunNavigationViewTests(int argc, char** argv) { return Run<NavigationViewTest>(argc, argv); }
+const AddSuite<NavigationViewTest> added;
 
 }  // namespace tarnwick
 
