@@ -116,7 +116,7 @@ void frmMain::ReportDateEntryError(std::int16_t code) {
 bool frmMain::DateOutOfRange(double ajd) {
   const bool late = ajd > kUpperLimit;
   if (ajd >= kLowerLimit && !late) return false;
-  // The misspelling has been on users' screens for so long that it stays.
+  // The texts are given, with their spelling.
   desktop_.ShowMessage({late ? "Resulting date is later than 6000-01-01 CE."
                              : "Resultng date is earlier than -3200-01-01 CE.",
                         "Date out of range", MessageIcon::kExclamation});

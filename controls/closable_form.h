@@ -1,3 +1,4 @@
+// A window beside the main one: its button "Close" and the Escape key put it away.
 #pragma once
 
 #include <string>
@@ -9,7 +10,6 @@
 
 namespace tarnwick {
 
-// A window beside the main one: its button "Close" and the Escape key put it away.
 class ClosableForm : public Form {
  public:
   ClosableForm(Screen& screen, std::string name, std::string caption)

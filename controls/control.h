@@ -1,3 +1,4 @@
+// What the controls of a form have in common, whatever their kind.
 #pragma once
 
 #include <cstdint>
@@ -19,12 +20,12 @@ struct Color {
 };
 
 // A place in a window, in twips (1/1440 inch), from the window's upper left corner.
-struct Bounds {
+struct Rectangle {
   int left = 0;
   int top = 0;
   int width = 0;
   int height = 0;
-  friend bool operator==(const Bounds&, const Bounds&) = default;
+  friend bool operator==(const Rectangle&, const Rectangle&) = default;
 };
 
 // What every control of a form has. A control holds state and runs its form's handlers; how it
@@ -57,8 +58,8 @@ class Control : public Observable {
     Assign(tool_tip_text_, std::move(text), Property::kToolTipText);
   }
 
-  const tarnwick::Bounds& Bounds() const { return bounds_; }
-  void SetBounds(const tarnwick::Bounds& bounds) { Assign(bounds_, bounds, Property::kBounds); }
+  const Rectangle& Bounds() const { return bounds_; }
+  void SetBounds(const Rectangle& bounds) { Assign(bounds_, bounds, Property::kBounds); }
 
   // Whether the user can reach it: enabled and visible, as are its frames and its window.
   bool IsUsable() const;
@@ -82,7 +83,7 @@ class Control : public Observable {
   bool visible_ = true;
   Color fore_color_;
   std::string tool_tip_text_;
-  tarnwick::Bounds bounds_;
+  Rectangle bounds_;
 };
 
 }  // namespace tarnwick

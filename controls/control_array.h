@@ -1,3 +1,5 @@
+// N controls of one kind that share a name: "lblTime(0)", "lblTime(1)". Further arguments go to
+// each of them.
 #pragma once
 
 #include <array>
@@ -7,8 +9,6 @@
 
 namespace tarnwick {
 
-// N controls of one kind that share a name: "lblTime(0)", "lblTime(1)". Further arguments go to
-// each of them.
 template <class T, std::size_t N>
 class ControlArray {
  public:

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "controls/utf8.h"
+
 namespace tarnwick {
 namespace {
 
@@ -10,37 +12,7 @@ void Run(const Control::Handler& handler) {
   if (handler) handler();
 }
 
-bool StartsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
-
-std::size_t CountCharacters(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), StartsCharacter));
-}
-
-// The byte at which character number `index` begins, or the end of the text.
-std::size_t ByteOffset(std::string_view text, std::size_t index) {
-  std::size_t byte = 0;
-  for (std::size_t seen = 0; byte < text.size(); ++byte) {
-    if (StartsCharacter(text[byte]) && seen++ == index) break;
-  }
-  return byte;
-}
-
 }  // namespace
-
-bool Label::Click() {
-  Run(on_click);
-  return true;
-}
-
-bool Button::Click() {
-  Run(on_click);
-  return true;
-}
-
-bool Picture::Click() {
-  Run(on_click);
-  return true;
-}
 
 void Picture::SetPicture(std::filesystem::path file, Retouch retouch) {
   file_ = std::move(file);

@@ -1,3 +1,5 @@
+// The kinds of controls of which the windows are made. They know no toolkit: a view shows them, the
+// driver works them by text.
 #pragma once
 
 #include <cstddef>
@@ -34,21 +36,28 @@ class Frame : public CaptionedControl {
   using CaptionedControl::CaptionedControl;
 };
 
-class Label : public CaptionedControl {
+// A control of which a click runs on_click and changes nothing.
+template <class Base>
+class Clickable : public Base {
  public:
-  using CaptionedControl::CaptionedControl;
-  bool Click() override;
+  using Base::Base;
+  bool Click() override {
+    if (on_click) on_click();
+    return true;
+  }
 
-  Handler on_click;
+  Control::Handler on_click;
 };
 
-class Button : public CaptionedControl {
+class Label : public Clickable<CaptionedControl> {
  public:
-  using CaptionedControl::CaptionedControl;
-  bool CanTakeFocus() const override { return true; }
-  bool Click() override;
+  using Clickable::Clickable;
+};
 
-  Handler on_click;
+class Button : public Clickable<CaptionedControl> {
+ public:
+  using Clickable::Clickable;
+  bool CanTakeFocus() const override { return true; }
 };
 
 // A check box. on_click runs when the value changes, whoever changes it.
@@ -169,21 +178,18 @@ class ComboBox : public Control {
 };
 
 // Shows the picture of a file, perhaps retouched.
-class Picture : public Control {
+class Picture : public Clickable<Control> {
  public:
   // Changes pixels, 0xffRRGGBB, row by row from the top, `width` a row. It is called by whoever
   // shows the picture, at the size at which it is shown.
   using Retouch = std::function<void(std::span<std::uint32_t> pixels, int width)>;
 
-  using Control::Control;
-  bool Click() override;
+  using Clickable::Clickable;
 
   const std::filesystem::path& File() const { return file_; }
   const Retouch& RetouchOf() const { return retouch_; }
   // An empty path shows nothing.
   void SetPicture(std::filesystem::path file, Retouch retouch = {});
-
-  Handler on_click;
 
  private:
   std::filesystem::path file_;

@@ -1,3 +1,4 @@
+// The port to the outside: all that the forms ask of the computer and of the user.
 #pragma once
 
 #include <filesystem>

@@ -1,3 +1,4 @@
+// Windows that know no toolkit: which there are, which of them is active, and what each holds.
 #pragma once
 
 #include <string>
@@ -36,8 +37,8 @@ class Form : public Observable {
   const std::string& Caption() const { return caption_; }
   void SetCaption(std::string caption) { Assign(caption_, std::move(caption), Property::kCaption); }
 
-  const tarnwick::Bounds& Bounds() const { return bounds_; }
-  void SetBounds(const tarnwick::Bounds& bounds) { Assign(bounds_, bounds, Property::kBounds); }
+  const Rectangle& Bounds() const { return bounds_; }
+  void SetBounds(const Rectangle& bounds) { Assign(bounds_, bounds, Property::kBounds); }
 
   bool Visible() const { return visible_; }
   bool Minimised() const { return minimised_; }
@@ -77,7 +78,7 @@ class Form : public Observable {
   Screen& screen_;
   std::string name_;
   std::string caption_;
-  tarnwick::Bounds bounds_;
+  Rectangle bounds_;
   bool visible_ = false;
   bool minimised_ = false;
   bool loaded_ = false;

@@ -1,3 +1,4 @@
+// How what is shown follows what is: views watch controls and forms, which know no view.
 #pragma once
 
 #include <functional>

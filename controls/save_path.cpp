@@ -23,4 +23,10 @@ std::optional<std::filesystem::path> AskWhereToSave(Desktop& desktop, const std:
   return std::nullopt;
 }
 
+void ReportSaveError(Desktop& desktop, const std::string& what, const std::string& title,
+                     const std::string& error) {
+  desktop.ShowMessage(
+      {"Error when attempting to save " + what + ": " + error, title, MessageIcon::kExclamation});
+}
+
 }  // namespace tarnwick

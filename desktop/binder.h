@@ -1,3 +1,4 @@
+// The one place where controls and Qt's widgets meet.
 #pragma once
 
 #include <map>

@@ -13,11 +13,11 @@ namespace tarnwick {
 namespace {
 
 // Where the frame of the window is, and how large what is inside.
-Bounds BoundsOf(const QWidget& window) { return ToTwips({window.pos(), window.size()}); }
+Rectangle BoundsOf(const QWidget& window) { return ToTwips({window.pos(), window.size()}); }
 
 // A maximised window has its place from the system.
 void ShowBounds(const Form& form, QWidget& window) {
-  const Bounds bounds = form.Bounds();  // a copy: each step below is reported to the form
+  const Rectangle bounds = form.Bounds();  // a copy: each step below is reported to the form
   const bool placed = bounds.width > 0 && bounds.height > 0 && bounds != BoundsOf(window);
   if (!placed || window.isMaximized()) return;
   const QRect place = ToPixels(bounds);

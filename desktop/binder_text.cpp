@@ -6,6 +6,7 @@
 #include <QSignalBlocker>
 
 #include "controls/keys.h"
+#include "controls/utf8.h"
 #include "desktop/binder.h"
 #include "desktop/characters.h"
 #include "desktop/event_hook.h"
@@ -28,106 +29,113 @@ int CharacterOf(const QKeyEvent& press) {
   return characters.isEmpty() ? 0 : static_cast<int>(characters.front());
 }
 
-QString ShownText(const TextBox& box, const QLineEdit& /*edit*/) { return ToQt(box.Text()); }
-QString ShownText(const TextBox& box, const QPlainTextEdit& /*edit*/) {
-  return ToShownLines(box.Text());
-}
+// What a text box asks of an edit of one line.
+struct LineAdapter {
+  using Edit = QLineEdit;
+  QLineEdit& edit;
 
-QString TextOf(const QLineEdit& edit) { return edit.text(); }
-QString TextOf(const QPlainTextEdit& edit) { return edit.toPlainText(); }
+  // The text of the control as the edit shows it, and back.
+  static QString ToShown(const std::string& text) { return ToQt(text); }
+  static std::string FromShown(const QString& shown) { return FromQt(shown); }
 
-// The characters of the control's text that stand before a place in the edit.
-std::size_t CharactersBefore(qsizetype place, const QLineEdit& edit) {
-  return CountCharacters(edit.text().left(place));
-}
-std::size_t CharactersBefore(qsizetype place, const QPlainTextEdit& edit) {
-  const QString before = edit.toPlainText().left(place);
-  return CountCharacters(before) + static_cast<std::size_t>(before.count('\n'));
-}
+  QString Shown() const { return edit.text(); }
+  void Show(const QString& text) const { edit.setText(text); }
 
-qsizetype PlaceOf(std::size_t characters, const TextBox& box, const QLineEdit& /*edit*/) {
-  return CodeUnitOffset(ToQt(box.Text()), characters);
-}
-qsizetype PlaceOf(std::size_t characters, const TextBox& box, const QPlainTextEdit& /*edit*/) {
-  const QString text = ToQt(box.Text());
-  return text.left(CodeUnitOffset(text, characters)).replace("\r\n", "\n").size();
-}
-
-Selection SelectionOf(const QLineEdit& edit) {
-  if (!edit.hasSelectedText()) return {edit.cursorPosition(), 0};
-  return {edit.selectionStart(), edit.selectionLength()};
-}
-Selection SelectionOf(const QPlainTextEdit& edit) {
-  const QTextCursor cursor = edit.textCursor();
-  return {cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart()};
-}
-
-void SetSelection(QLineEdit& edit, Selection selection) {
-  edit.setSelection(static_cast<int>(selection.start), static_cast<int>(selection.length));
-}
-void SetSelection(QPlainTextEdit& edit, Selection selection) {
-  QTextCursor cursor = edit.textCursor();
-  cursor.setPosition(static_cast<int>(selection.start));
-  cursor.setPosition(static_cast<int>(selection.start + selection.length), QTextCursor::KeepAnchor);
-  edit.setTextCursor(cursor);
-}
-
-template <class Edit>
-void ShowSelection(const TextBox& box, Edit& edit) {
-  const qsizetype start = PlaceOf(box.SelStart(), box, edit);
-  const qsizetype end = PlaceOf(box.SelStart() + box.SelLength(), box, edit);
-  const Selection selection{start, end - start};
-  if (selection == SelectionOf(edit)) return;  // keeps the caret at the end the user put it
-  const QSignalBlocker blocker(edit);
-  SetSelection(edit, selection);
-}
-
-void SetEditText(QLineEdit& edit, const QString& text) { edit.setText(text); }
-// What is only added at the end is added there: setting a long text takes a tenth of a second.
-void SetEditText(QPlainTextEdit& edit, const QString& text) {
-  const QString shown = edit.toPlainText();
-  if (shown.isEmpty() || !text.startsWith(shown)) {
-    edit.setPlainText(text);
-    return;
+  Selection Selected() const {
+    if (!edit.hasSelectedText()) return {edit.cursorPosition(), 0};
+    return {edit.selectionStart(), edit.selectionLength()};
   }
-  QTextCursor end(edit.document());
-  end.movePosition(QTextCursor::End);
-  end.insertText(text.sliced(shown.size()));
+  void Select(Selection selection) const {
+    edit.setSelection(static_cast<int>(selection.start), static_cast<int>(selection.length));
+  }
+};
+
+// The same of an edit of several lines.
+struct LinesAdapter {
+  using Edit = QPlainTextEdit;
+  QPlainTextEdit& edit;
+
+  static QString ToShown(const std::string& text) { return ToShownLines(text); }
+  static std::string FromShown(const QString& shown) { return FromShownLines(shown); }
+
+  QString Shown() const { return edit.toPlainText(); }
+  // What is only added at the end is added there: setting a long text takes a tenth of a second.
+  void Show(const QString& text) const {
+    const QString shown = Shown();
+    if (shown.isEmpty() || !text.startsWith(shown)) {
+      edit.setPlainText(text);
+      return;
+    }
+    QTextCursor end(edit.document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(text.sliced(shown.size()));
+  }
+
+  Selection Selected() const {
+    const QTextCursor cursor = edit.textCursor();
+    return {cursor.selectionStart(), cursor.selectionEnd() - cursor.selectionStart()};
+  }
+  void Select(Selection selection) const {
+    QTextCursor cursor = edit.textCursor();
+    cursor.setPosition(static_cast<int>(selection.start));
+    cursor.setPosition(static_cast<int>(selection.start + selection.length),
+                       QTextCursor::KeepAnchor);
+    edit.setTextCursor(cursor);
+  }
+};
+
+// The characters of the control's text that stand before a place in what the edit shows.
+template <class Adapter>
+std::size_t CharactersBefore(qsizetype place, const QString& shown) {
+  return CountCharacters(Adapter::FromShown(shown.left(place)));
 }
 
-template <class Edit>
-void ShowText(const TextBox& box, Edit& edit) {
-  const QString text = ShownText(box, edit);
-  if (text == TextOf(edit)) return;
-  const QSignalBlocker blocker(edit);
-  SetEditText(edit, text);
-  ShowSelection(box, edit);
+template <class Adapter>
+qsizetype PlaceOf(std::size_t characters, const std::string& text) {
+  return Adapter::ToShown(text.substr(0, ByteOffset(text, characters))).size();
 }
 
-template <class Edit>
-void ReportSelection(TextBox& box, const Edit& edit) {
-  const Selection selection = SelectionOf(edit);
-  const std::size_t start = CharactersBefore(selection.start, edit);
-  const std::size_t end = CharactersBefore(selection.start + selection.length, edit);
+template <class Adapter>
+void ShowSelection(const TextBox& box, const Adapter& adapter) {
+  const qsizetype start = PlaceOf<Adapter>(box.SelStart(), box.Text());
+  const qsizetype end = PlaceOf<Adapter>(box.SelStart() + box.SelLength(), box.Text());
+  const Selection selection{start, end - start};
+  if (selection == adapter.Selected()) return;  // keeps the caret at the end the user put it
+  const QSignalBlocker blocker(adapter.edit);
+  adapter.Select(selection);
+}
+
+template <class Adapter>
+void ShowText(const TextBox& box, const Adapter& adapter) {
+  const QString text = Adapter::ToShown(box.Text());
+  if (text == adapter.Shown()) return;
+  const QSignalBlocker blocker(adapter.edit);
+  adapter.Show(text);
+  ShowSelection(box, adapter);
+}
+
+template <class Adapter>
+void ReportSelection(TextBox& box, const Adapter& adapter, const QString& shown) {
+  const Selection selection = adapter.Selected();
+  const std::size_t start = CharactersBefore<Adapter>(selection.start, shown);
+  const std::size_t end = CharactersBefore<Adapter>(selection.start + selection.length, shown);
   if (start != box.SelStart() || end - start != box.SelLength()) box.Select(start, end - start);
 }
 
-std::string TextForControl(const QLineEdit& edit) { return FromQt(edit.text()); }
-std::string TextForControl(const QPlainTextEdit& edit) {
-  return FromShownLines(edit.toPlainText());
+template <class Adapter>
+void ReportText(TextBox& box, const Adapter& adapter) {
+  const QString shown = adapter.Shown();
+  if (shown != Adapter::ToShown(box.Text())) box.SetText(Adapter::FromShown(shown));
+  ReportSelection(box, adapter, shown);
 }
 
-template <class Edit>
-void ReportText(TextBox& box, const Edit& edit) {
-  if (TextOf(edit) != ShownText(box, edit)) box.SetText(TextForControl(edit));
-  ReportSelection(box, edit);
-}
-
-template <class Edit>
-void BindText(TextBox& box, Edit& edit, HandlerGate& gate) {
-  Mirror(box, Property::kText, edit, [&] { ShowText(box, edit); });
-  Mirror(box, Property::kSelection, edit, [&] { ShowSelection(box, edit); });
-  const auto report_text = [&] { gate.Run([&] { ReportText(box, edit); }); };
+template <class Adapter>
+void BindText(TextBox& box, Adapter adapter, HandlerGate& gate) {
+  using Edit = typename Adapter::Edit;
+  Edit& edit = adapter.edit;
+  Mirror(box, Property::kText, edit, [&box, adapter] { ShowText(box, adapter); });
+  Mirror(box, Property::kSelection, edit, [&box, adapter] { ShowSelection(box, adapter); });
+  const auto report_text = [&box, adapter, &gate] { gate.Run([&] { ReportText(box, adapter); }); };
   // The caret moves before the edit tells of its new text, so the text is looked at here as well.
   QObject::connect(&edit, &Edit::textChanged, &edit, report_text);
   QObject::connect(&edit, &Edit::selectionChanged, &edit, report_text);
@@ -159,13 +167,13 @@ void Binder::BindTextEvents(TextBox& box, QWidget& edit, QWidget& surface) {
 
 void Binder::Bind(TextBox& box, QLineEdit& edit) {
   BindControl(box, edit);
-  BindText(box, edit, gate_);
+  BindText(box, LineAdapter{edit}, gate_);
   BindTextEvents(box, edit, edit);
 }
 
 void Binder::Bind(TextBox& box, QPlainTextEdit& edit) {
   BindControl(box, edit);
-  BindText(box, edit, gate_);
+  BindText(box, LinesAdapter{edit}, gate_);
   BindTextEvents(box, edit, *edit.viewport());
 }
 

@@ -154,14 +154,14 @@ QWidget* CalendarView::MakeCell(std::size_t index, QWidget* page) {
 }
 
 QWidget* CalendarView::MakeButtons() {
-  QWidget* area = MakeArea(Spacing(*this), this);
-  auto* row = static_cast<QHBoxLayout*>(area->layout());
+  auto* area = new Area(Spacing(*this), this);
+  QHBoxLayout& row = area->Row();
   for (Button& button : form_.cmdShowPreviousOrNext) {
-    row->addWidget(MakeButton(binder_, button, area));
+    row.addWidget(MakeButton(binder_, button, area));
   }
-  row->addStretch();
-  row->addWidget(MakeButton(binder_, form_.cmdSaveCalendarImage, area));
-  row->addWidget(MakeButton(binder_, form_.cmdClose, area));
+  row.addStretch();
+  row.addWidget(MakeButton(binder_, form_.cmdSaveCalendarImage, area));
+  row.addWidget(MakeButton(binder_, form_.cmdClose, area));
   return area;
 }
 

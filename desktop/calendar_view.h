@@ -1,3 +1,4 @@
+// The lunation calendar on the screen: a night sky with a cell for each day.
 #pragma once
 
 #include <QWidget>
@@ -9,7 +10,6 @@ class QGridLayout;
 
 namespace tarnwick {
 
-// The lunation calendar on the screen: a night sky with a cell for each day.
 class CalendarView final : public QWidget {
  public:
   CalendarView(frmCalendar& form, HandlerGate& gate);

@@ -1,7 +1,5 @@
 #include "desktop/characters.h"
 
-#include <algorithm>
-
 namespace tarnwick {
 
 QString ToQt(const std::string& text) { return QString::fromStdString(text); }
@@ -12,19 +10,6 @@ QString ToShownLines(const std::string& text) { return ToQt(text).replace("\r\n"
 
 std::string FromShownLines(const QString& text) {
   return FromQt(QString(text).replace("\n", "\r\n"));
-}
-
-std::size_t CountCharacters(QStringView text) {
-  return static_cast<std::size_t>(
-      std::count_if(text.begin(), text.end(), [](QChar unit) { return !unit.isLowSurrogate(); }));
-}
-
-qsizetype CodeUnitOffset(QStringView text, std::size_t index) {
-  qsizetype unit = 0;
-  for (std::size_t seen = 0; unit < text.size(); ++unit) {
-    if (!text[unit].isLowSurrogate() && seen++ == index) break;
-  }
-  return unit;
 }
 
 QString WithMnemonic(const QString& caption, char mnemonic) {

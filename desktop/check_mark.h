@@ -1,10 +1,10 @@
+// A small drawn check mark. Its room stays when it is hidden.
 #pragma once
 
 #include <QWidget>
 
 namespace tarnwick {
 
-// A small drawn check mark. Its room stays when it is hidden.
 class CheckMark : public QWidget {
  public:
   explicit CheckMark(QWidget* parent);

@@ -1,3 +1,5 @@
+// Shows a function the events of an object before the object sees them; the function returns true
+// to swallow one. It lives as long as the object.
 #pragma once
 
 #include <QEvent>
@@ -7,8 +9,6 @@
 
 namespace tarnwick {
 
-// Shows a function the events of an object before the object sees them; the function returns true
-// to swallow one. It lives as long as the object.
 class EventHook : public QObject {
  public:
   using Function = std::function<bool(QEvent& event)>;

@@ -1,3 +1,5 @@
+// The one way by which what the user does reaches the forms. No exception may travel through Qt's
+// event loop, so it is caught here; and once the gate is shut no handler runs any more.
 #pragma once
 
 #include <exception>
@@ -7,8 +9,6 @@
 
 namespace tarnwick {
 
-// The one way by which what the user does reaches the forms. No exception may travel through Qt's
-// event loop, so it is caught here; and once the gate is shut no handler runs any more.
 class HandlerGate {
  public:
   // Told of an exception that no handler should have let out; the gate is shut by then.

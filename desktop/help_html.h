@@ -1,3 +1,4 @@
+// The texts of the help for Qt's pages.
 #pragma once
 
 #include <QString>

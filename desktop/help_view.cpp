@@ -49,23 +49,23 @@ HelpView::HelpView(frmHelp& form, HandlerGate& gate) : form_(form), binder_(gate
 }
 
 QWidget* HelpView::MakePages() {
-  QWidget* area = MakeArea(Spacing(*this), this);
-  auto* columns = static_cast<QHBoxLayout*>(area->layout());
+  auto* area = new Area(Spacing(*this), this);
+  QHBoxLayout& columns = area->Row();
   auto* pages = new QListWidget(area);
   pages->setSpacing(Spacing(*this) / 4);
   binder_.Bind(form_.lstPages, *pages);
   pages->setFixedWidth(pages->sizeHintForColumn(0) + 4 * Spacing(*this));
-  columns->addWidget(pages);
-  columns->addWidget(MakePage(binder_, form_.lblText, area), 1);
+  columns.addWidget(pages);
+  columns.addWidget(MakePage(binder_, form_.lblText, area), 1);
   return area;
 }
 
 QWidget* HelpView::MakeButtons() {
-  QWidget* area = MakeArea(Spacing(*this), this);
-  auto* row = static_cast<QHBoxLayout*>(area->layout());
-  row->addWidget(MakeButton(binder_, form_.cmdCredits, area));
-  row->addStretch();
-  row->addWidget(MakeButton(binder_, form_.cmdClose, area));
+  auto* area = new Area(Spacing(*this), this);
+  QHBoxLayout& row = area->Row();
+  row.addWidget(MakeButton(binder_, form_.cmdCredits, area));
+  row.addStretch();
+  row.addWidget(MakeButton(binder_, form_.cmdClose, area));
   return area;
 }
 

@@ -1,3 +1,4 @@
+// The help, the credits and the short notices on the screen.
 #pragma once
 
 #include <QTimer>

@@ -1,11 +1,11 @@
+// A text that can be clicked, by mouse or, where it takes the focus, by Enter and the space bar.
+// It looks like a plain label until it is pointed at or has the focus.
 #pragma once
 
 #include <QAbstractButton>
 
 namespace tarnwick {
 
-// A text that can be clicked, by mouse or, where it takes the focus, by Enter and the space bar.
-// It looks like a plain label until it is pointed at or has the focus.
 class LinkLabel : public QAbstractButton {
   Q_OBJECT
 

@@ -60,7 +60,7 @@ QWidget* LogPreferencesView::MakeIncludePanel() {
 QWidget* LogPreferencesView::MakeFormatPanel() {
   auto* panel = new Panel(Panel::Ground::kDark, this);
   binder_.Bind(form_.lblFormat, panel->Title());
-  QWidget* layouts = MakeArea(3 * Spacing(*this), panel);
+  auto* layouts = new Area(3 * Spacing(*this), panel);
   AddOption(binder_, form_.optLogFormat[0], layouts);
   AddOption(binder_, form_.optLogFormat[1], layouts);
   panel->Content().addWidget(layouts, 0, Qt::AlignLeft);
@@ -68,12 +68,12 @@ QWidget* LogPreferencesView::MakeFormatPanel() {
 }
 
 QWidget* LogPreferencesView::MakeButtons() {
-  QWidget* area = MakeArea(Spacing(*this), this);
-  auto* row = static_cast<QHBoxLayout*>(area->layout());
-  row->addWidget(MakeButton(binder_, form_.cmdSetALL, area));
-  row->addWidget(MakeButton(binder_, form_.cmdClearAll, area));
-  row->addStretch();
-  row->addWidget(MakeButton(binder_, form_.cmdClose, area));
+  auto* area = new Area(Spacing(*this), this);
+  QHBoxLayout& row = area->Row();
+  row.addWidget(MakeButton(binder_, form_.cmdSetALL, area));
+  row.addWidget(MakeButton(binder_, form_.cmdClearAll, area));
+  row.addStretch();
+  row.addWidget(MakeButton(binder_, form_.cmdClose, area));
   return area;
 }
 

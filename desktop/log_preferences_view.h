@@ -1,3 +1,4 @@
+// The log preferences on the screen.
 #pragma once
 
 #include <QWidget>
@@ -7,7 +8,6 @@
 
 namespace tarnwick {
 
-// The log preferences on the screen.
 class LogPreferencesView final : public QWidget {
  public:
   LogPreferencesView(frmLogPreferences& form, HandlerGate& gate);

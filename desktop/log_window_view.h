@@ -1,3 +1,4 @@
+// The log on the screen. The form itself places its controls.
 #pragma once
 
 #include <QWidget>
@@ -7,7 +8,6 @@
 
 namespace tarnwick {
 
-// The log on the screen. The form itself places its controls.
 class LogWindowView final : public QWidget {
  public:
   LogWindowView(frmLog& form, HandlerGate& gate);

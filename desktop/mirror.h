@@ -1,3 +1,4 @@
+// How a widget keeps up with its control.
 #pragma once
 
 #include <QPointer>

@@ -47,12 +47,9 @@ QVBoxLayout* MakeSections(QWidget& window) {
   return sections;
 }
 
-QWidget* MakeArea(int spacing, QWidget* parent) {
-  auto* area = new QWidget(parent);
-  auto* row = new QHBoxLayout(area);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(spacing);
-  return area;
+Area::Area(int spacing, QWidget* parent) : QWidget(parent), row_(new QHBoxLayout(this)) {
+  row_->setContentsMargins(0, 0, 0, 0);
+  row_->setSpacing(spacing);
 }
 
 }  // namespace tarnwick

@@ -1,7 +1,9 @@
+// What a window is made of: panels, one below the other, and rows in them.
 #pragma once
 
 #include <QWidget>
 
+class QHBoxLayout;
 class QLabel;
 class QVBoxLayout;
 
@@ -32,6 +34,15 @@ class Panel : public QWidget {
 QVBoxLayout* MakeSections(QWidget& window);
 
 // A row of widgets that are disabled and hidden together; option buttons in it exclude each other.
-QWidget* MakeArea(int spacing, QWidget* parent);
+class Area : public QWidget {
+ public:
+  Area(int spacing, QWidget* parent);
+  QHBoxLayout& Row() { return *row_; }
+
+ private:
+  QHBoxLayout* row_;
+};
+
+inline Area* MakeArea(int spacing, QWidget* parent) { return new Area(spacing, parent); }
 
 }  // namespace tarnwick

@@ -1,3 +1,6 @@
+// Shows the picture of a file as large as it finds room for, with rounded corners. The picture is
+// retouched when it has the size at which it is shown, in pixels of the screen, so that what is
+// drawn on it is sharp at any scaling.
 #pragma once
 
 #include <QImage>
@@ -9,9 +12,6 @@
 
 namespace tarnwick {
 
-// Shows the picture of a file as large as it finds room for, with rounded corners. The picture is
-// retouched when it has the size at which it is shown, in pixels of the screen, so that what is
-// drawn on it is sharp at any scaling.
 class PictureView : public QWidget {
  public:
   using Retouch = std::function<void(std::span<std::uint32_t> pixels, int width)>;

@@ -1,3 +1,4 @@
+// Where the files that come with the program lie.
 #pragma once
 
 #include <filesystem>

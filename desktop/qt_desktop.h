@@ -1,3 +1,4 @@
+// The real desktop. It needs a QApplication.
 #pragma once
 
 #include "controls/desktop.h"
@@ -5,7 +6,6 @@
 
 namespace tarnwick {
 
-// The real desktop. It needs a QApplication.
 class QtDesktop final : public Desktop {
  public:
   explicit QtDesktop(HandlerGate& gate) : gate_(gate) {}

@@ -1,3 +1,4 @@
+// Who reads what a program writes to standard error.
 #pragma once
 
 namespace tarnwick {

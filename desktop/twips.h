@@ -9,12 +9,12 @@ namespace tarnwick {
 
 inline constexpr int kTwipsPerPixel = 15;  // 1440 an inch, and 96 device-independent pixels
 
-inline QRect ToPixels(const Bounds& bounds) {
+inline QRect ToPixels(const Rectangle& bounds) {
   return {bounds.left / kTwipsPerPixel, bounds.top / kTwipsPerPixel, bounds.width / kTwipsPerPixel,
           bounds.height / kTwipsPerPixel};
 }
 
-inline Bounds ToTwips(const QRect& place) {
+inline Rectangle ToTwips(const QRect& place) {
   return {place.x() * kTwipsPerPixel, place.y() * kTwipsPerPixel, place.width() * kTwipsPerPixel,
           place.height() * kTwipsPerPixel};
 }

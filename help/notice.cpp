@@ -19,7 +19,7 @@ frmNotice::frmNotice(Screen& screen) : Form(screen, "frmNotice", "Notice") {
 }
 
 void frmNotice::ShowOver(const Form& window, const std::string& text) {
-  const tarnwick::Bounds& below = window.Bounds();
+  const Rectangle& below = window.Bounds();
   lblNotice.SetCaption(text);
   SetBounds({below.left + (below.width - kWidth) / 2,
              below.top + below.height - kHeight - kAboveEdge, kWidth, kHeight});

@@ -96,7 +96,7 @@ void frmMain::cmdViewLog_Click() {
     RefreshFunctions();
     return;
   }
-  tarnwick::Bounds place = log_window.Bounds();
+  Rectangle place = log_window.Bounds();
   place.left = Bounds().left;
   place.top = Bounds().top + lblOstrelLWCDate[1].Bounds().top + kLogBelowLabel;
   log_window.SetBounds(place);

@@ -28,7 +28,7 @@ std::string_view BeforeBlankAnd(std::string_view caption, std::string_view mark)
 }
 
 // A date as the layout without calendar names shows it. In the CE and JC labels the first comma
-// stands behind the weekday, which the log has always shown so.
+// stands behind the weekday, so that the weekday is part of it.
 std::string_view DateText(const LogDate& date) {
   const auto calendar = CalendarIndex(date.calendar);
   if (calendar && IsDayCount(*calendar)) return date.caption;

@@ -5,6 +5,7 @@
 #include "app/main_window.h"
 #include "controls/save_path.h"
 #include "controls/text_file.h"
+#include "controls/utf8.h"
 
 namespace tarnwick {
 namespace {
@@ -12,7 +13,7 @@ namespace {
 constexpr std::size_t kCapacity = 1'000'000;  // characters
 
 // Places and sizes in twips.
-constexpr Bounds kInitialSize{0, 0, 13200, 6600};
+constexpr Rectangle kInitialSize{0, 0, 13200, 6600};
 constexpr int kMargin = 150;
 constexpr int kTextMargins = 300;   // left and right of the text
 constexpr int kBelowText = 700;     // beside the height of the buttons
@@ -39,12 +40,9 @@ frmLog::frmLog(Desktop& desktop, Screen& screen, frmMain& main_window)
   Form_Resize();
 }
 
-// Bytes that continue a character are not counted.
 bool frmLog::IsTooLong(const std::string& text) {
-  if (text.size() <= kCapacity) return false;
-  std::size_t characters = 0;
-  for (const char byte : text) characters += (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-  return characters > kCapacity;
+  // A text has no more characters than bytes: most need no counting.
+  return text.size() > kCapacity && CountCharacters(text) > kCapacity;
 }
 
 void frmLog::ShowText(std::string text) {
@@ -67,7 +65,7 @@ void frmLog::PlaceCopyButton(bool for_selection) {
   blnCopiesSelection = for_selection;
   cmdCopyToClipboard.SetCaption(for_selection ? "Copy selected text to clipboard"
                                               : "Copy to clipboard");
-  const tarnwick::Bounds& clear = cmdClear.Bounds();
+  const Rectangle& clear = cmdClear.Bounds();
   cmdCopyToClipboard.SetBounds(
       {clear.left + clear.width + (for_selection ? kBeforeCopySelection : kBeforeCopy), clear.top,
        for_selection ? kCopySelectionWidth : kCopyWidth, clear.height});
@@ -117,8 +115,7 @@ void frmLog::cmdSaveAs_Click() {
   if (error.empty()) {
     main_window_.notice.ShowOver(*this, "Saved");
   } else {
-    desktop_.ShowMessage(
-        {"Error when attempting to save the log: " + error, title, MessageIcon::kExclamation});
+    ReportSaveError(desktop_, "the log", title, error);
   }
 }
 

@@ -127,8 +127,7 @@ void frmCalendar::cmdSaveCalendarImage_Click() {
   if (error.empty()) {
     main_window_.notice.ShowOver(*this, "Saved");
   } else {
-    desktop_.ShowMessage(
-        {"Error when attempting to save the image: " + error, title, MessageIcon::kExclamation});
+    ReportSaveError(desktop_, "the image", title, error);
   }
 }
 

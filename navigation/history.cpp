@@ -15,8 +15,8 @@ namespace {
 constexpr int kMaximumHistory = 8;
 constexpr int kFirstLunarType = 8;
 
-// The zone of an entry, in minutes. Entries name their zone in another form, so that neither marker
-// occurs and a recall always selects GMT; older entries are read all the same.
+// The zone of an entry, in minutes, by the markers that are given. Entries name their zone in another
+// form, in which neither occurs: a recall selects GMT.
 int RecalledOffset(const std::string& entry) {
   for (const auto& [marker, sign] : {std::pair("Greenwich+", 1), std::pair("Greenwich-", -1)}) {
     const std::size_t found = entry.find(marker);

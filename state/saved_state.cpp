@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "app/main_window.h"
+#include "controls/save_path.h"
 #include "controls/text_file.h"
 #include "state/state_record.h"
 
@@ -107,8 +108,7 @@ bool frmMain::SaveState() {
   if (!state_file_) return true;
   const std::string error = WriteTextFile(*state_file_, StateText(StateRecords()));
   if (error.empty()) return true;
-  desktop_.ShowMessage({"Error when attempting to save the state: " + error, "Save state",
-                        MessageIcon::kExclamation});
+  ReportSaveError(desktop_, "the state", "Save state", error);
   return false;
 }
 

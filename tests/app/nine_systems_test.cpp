@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "moment/time_zone.h"
-#include "tools/driver/driver.h"
+#include "tests/driver_answers.h"
 
 namespace tarnwick {
 namespace {
@@ -19,11 +19,8 @@ constexpr const char* kLabels[] = {
 };
 
 std::vector<std::string> RunDriver(const std::string& commands) {
-  std::istringstream input(commands);
-  std::ostringstream output;
-  Driver(input, output, TEST_PROGRAM_FOLDER).Run();
   std::vector<std::string> lines;
-  std::istringstream answers(output.str());
+  std::istringstream answers(DriverAnswers(commands));
   for (std::string line; std::getline(answers, line);) lines.push_back(line);
   return lines;
 }

@@ -101,7 +101,7 @@ void BinderFormTest::nothingRunsAfterTheEnd() {
   QCOMPARE(bound.form.resizes, before);
 }
 
-int RunBinderFormTests(int argc, char** argv) { return Run<BinderFormTest>(argc, argv); }
+const AddSuite<BinderFormTest> added;
 
 }  // namespace tarnwick
 

@@ -335,7 +335,7 @@ void BinderTest::faultIsReportedAndEndsAll() {
   QCOMPARE(bound.faults, std::vector<std::string>{"out of order"});
 }
 
-int RunBinderTests(int argc, char** argv) { return Run<BinderTest>(argc, argv); }
+const AddSuite<BinderTest> added;
 
 }  // namespace tarnwick
 

@@ -143,7 +143,7 @@ void BinderTextTest::mouseUpSeesTheNewSelection() {
   QCOMPARE(lengths.front(), std::size_t{0});  // a click into the selection takes it away
 }
 
-int RunBinderTextTests(int argc, char** argv) { return Run<BinderTextTest>(argc, argv); }
+const AddSuite<BinderTextTest> added;
 
 }  // namespace tarnwick
 

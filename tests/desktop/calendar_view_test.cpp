@@ -88,7 +88,7 @@ void CalendarViewTest::imageHasTwiceTheResolution() {
   QVERIFY(!desktop.SaveImage(page, folder.filePath("no folder/a.png").toStdU16String()).empty());
 }
 
-int RunCalendarViewTests(int argc, char** argv) { return Run<CalendarViewTest>(argc, argv); }
+const AddSuite<CalendarViewTest> added;
 
 }  // namespace tarnwick
 

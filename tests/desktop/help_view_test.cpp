@@ -88,7 +88,7 @@ void HelpViewTest::noticeGoesByItselfAndOnAClick() {
   QTRY_VERIFY(!notice.isVisible());
 }
 
-int RunHelpViewTests(int argc, char** argv) { return Run<HelpViewTest>(argc, argv); }
+const AddSuite<HelpViewTest> added;
 
 }  // namespace tarnwick
 

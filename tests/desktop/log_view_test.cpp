@@ -87,7 +87,7 @@ void LogViewTest::captionsFit() {
   VerifyNothingIsClipped(windows.preferences);
 }
 
-int RunLogViewTests(int argc, char** argv) { return Run<LogViewTest>(argc, argv); }
+const AddSuite<LogViewTest> added;
 
 }  // namespace tarnwick
 

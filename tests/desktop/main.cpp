@@ -10,13 +10,6 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   tarnwick::ApplyLook();
   int failures = 0;
-  for (const auto suite :
-       {tarnwick::RunBinderTests, tarnwick::RunBinderFormTests, tarnwick::RunBinderTextTests,
-        tarnwick::RunCalendarViewTests, tarnwick::RunHelpViewTests, tarnwick::RunLogViewTests,
-        tarnwick::RunMainWindowViewTests, tarnwick::RunMoonPicturesTests,
-        tarnwick::RunNavigationViewTests, tarnwick::RunPictureViewTests,
-        tarnwick::RunQtDesktopTests}) {
-    failures += suite(argc, argv);
-  }
+  for (const tarnwick::SuiteRun run : tarnwick::Suites()) failures += run(argc, argv);
   return failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -58,7 +58,7 @@ void MainWindowViewTest::typedDateIsComputedOnReturn() {
   QCOMPARE(main.Find<QAbstractButton>(main.form.lblTime[1]).text(), "15:55 (local=GMT)");
   QCOMPARE(date.text(), "2003-12-31 CE 15:55");
   QCOMPARE(date.cursorPosition(), 19);
-  QVERIFY(main.desktop.messages.empty());
+  QVERIFY(main.desktop.TakeMessages().empty());
 }
 
 void MainWindowViewTest::faultyEntryIsReported() {
@@ -67,9 +67,10 @@ void MainWindowViewTest::faultyEntryIsReported() {
   auto& date = main.Find<QLineEdit>(main.form.txbDate);
   QTest::keyClicks(&date, "2003-13-31 ce");
   QTest::keyClick(&main.view, Qt::Key_C, Qt::AltModifier);
-  QTRY_COMPARE(main.desktop.messages.size(), std::size_t{1});
-  QCOMPARE(main.desktop.messages.front().title, "Invalid date/time entry");
-  QCOMPARE(date.text(), "2003-13-31 CE");
+  QTRY_COMPARE(date.text(), "2003-13-31 CE");
+  const std::vector<Message> messages = main.desktop.TakeMessages();
+  QCOMPARE(messages.size(), std::size_t{1});
+  QCOMPARE(messages.front().title, "Invalid date/time entry");
 }
 
 void MainWindowViewTest::everyControlHasItsWidget() {
@@ -224,7 +225,7 @@ void MainWindowViewTest::moonIsShownAtItsPhase() {
 void MainWindowViewTest::closeBoxEndsTheProgram() {
   MainWindow main;
   main.view.close();
-  QVERIFY(!main.gate.IsOpen());
+  QVERIFY(main.desktop.TakeEnd());
   QVERIFY(!main.view.isVisible());
 }
 
@@ -280,7 +281,7 @@ void MainWindowViewTest::textsStandOutFromTheirGround() {
   for (const auto& pair : pairs) QVERIFY2(Contrast(pair.text, pair.ground) >= 4.5, pair.name);
 }
 
-int RunMainWindowViewTests(int argc, char** argv) { return Run<MainWindowViewTest>(argc, argv); }
+const AddSuite<MainWindowViewTest> added;
 
 }  // namespace tarnwick
 

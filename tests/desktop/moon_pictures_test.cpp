@@ -56,7 +56,7 @@ void MoonPicturesTest::lightFollowsTheDaysOfALunation() {
   }
 }
 
-int RunMoonPicturesTests(int argc, char** argv) { return Run<MoonPicturesTest>(argc, argv); }
+const AddSuite<MoonPicturesTest> added;
 
 }  // namespace tarnwick
 

@@ -56,7 +56,7 @@ void NavigationViewTest::searchShowsTheEclipse() {
   QCOMPARE(lines.front(), "Total lunar eclipse");
   QVERIFY(lines.back().startsWith("Total phase starts "));
   QVERIFY(lines.back().endsWith("m."));
-  QVERIFY(main.desktop.messages.empty());
+  QVERIFY(main.desktop.TakeMessages().empty());
 }
 
 void NavigationViewTest::runningMoveIsSteeredWhileItsFrameIsDisabled() {
@@ -101,7 +101,7 @@ void NavigationViewTest::longestTextsLeaveTheWindowAlone() {
     QVERIFY2(place == places.at(name), qPrintable(name));
 }
 
-int RunNavigationViewTests(int argc, char** argv) { return Run<NavigationViewTest>(argc, argv); }
+const AddSuite<NavigationViewTest> added;
 
 }  // namespace tarnwick
 

@@ -132,7 +132,7 @@ void PictureViewTest::missingPictureShowsNothing() {
   }
 }
 
-int RunPictureViewTests(int argc, char** argv) { return Run<PictureViewTest>(argc, argv); }
+const AddSuite<PictureViewTest> added;
 
 }  // namespace tarnwick
 

@@ -176,7 +176,7 @@ void QtDesktopTest::endedProgramRunsNothingMore() {
   QCOMPARE(later, 0);
 }
 
-int RunQtDesktopTests(int argc, char** argv) { return Run<QtDesktopTest>(argc, argv); }
+const AddSuite<QtDesktopTest> added;
 
 }  // namespace tarnwick
 

@@ -9,44 +9,13 @@
 #include <vector>
 
 #include "desktop/main_window_view.h"
+#include "tools/driver/driver_desktop.h"
 
 namespace tarnwick {
 
-// A desktop that notes what it is asked for; its clock stands still.
-class NotingDesktop final : public Desktop {
- public:
-  explicit NotingDesktop(HandlerGate& gate) : gate_(gate) {}
-
-  MessageAnswer ShowMessage(const Message& message) override {
-    messages.push_back(message);
-    return MessageAnswer::kOk;
-  }
-  ClockReading ReadClock() const override { return {"2024-03-05", "12:34:56", 0}; }
-  std::string ClipboardText() const override { return {}; }
-  void SetClipboardText(const std::string& /*text*/) override {}
-  std::optional<std::filesystem::path> AskSavePath(const std::string& /*title*/,
-                                                   const std::string& /*suggestion*/) override {
-    return std::nullopt;
-  }
-  std::string SaveImage(const Control& /*area*/, const std::filesystem::path& /*file*/) override {
-    return {};
-  }
-  std::optional<std::filesystem::path> StateFile() const override { return std::nullopt; }
-  std::filesystem::path ProgramFolder() const override {
-    return QCoreApplication::applicationDirPath().toStdString();
-  }
-  void OpenWebPage(const std::string& /*address*/) override {}
-  void Yield(YieldMode /*mode*/) override {}
-  void EndProgram() override { gate_.Shut(); }
-
-  std::vector<Message> messages;
-
- private:
-  HandlerGate& gate_;
-};
-
 struct MainWindow {
   MainWindow() {
+    desktop.SetClock({"2024-03-05", "12:34:56", 0});
     gate.Run([&] { form.Load(); });
   }
 
@@ -73,7 +42,7 @@ struct MainWindow {
   }
 
   HandlerGate gate{[](const std::string& what) { QFAIL(what.c_str()); }};
-  NotingDesktop desktop{gate};
+  DriverDesktop desktop{[](YieldMode) {}, QCoreApplication::applicationDirPath().toStdString()};
   Screen screen;
   frmMain form{desktop, screen};
   MainWindowView view{form, gate};

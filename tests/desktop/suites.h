@@ -1,26 +1,27 @@
+// The suites of this program. A file of tests adds its own: AddSuite<BinderTest> added;
 #pragma once
 
 #include <QTest>
+#include <vector>
 
 namespace tarnwick {
 
-// One for each file of tests; they return the number of failures.
-int RunBinderTests(int argc, char** argv);
-int RunBinderFormTests(int argc, char** argv);
-int RunBinderTextTests(int argc, char** argv);
-int RunCalendarViewTests(int argc, char** argv);
-int RunHelpViewTests(int argc, char** argv);
-int RunLogViewTests(int argc, char** argv);
-int RunMainWindowViewTests(int argc, char** argv);
-int RunMoonPicturesTests(int argc, char** argv);
-int RunNavigationViewTests(int argc, char** argv);
-int RunPictureViewTests(int argc, char** argv);
-int RunQtDesktopTests(int argc, char** argv);
+// Runs one suite; returns the number of failures.
+using SuiteRun = int (*)(int argc, char** argv);
+
+inline std::vector<SuiteRun>& Suites() {
+  static std::vector<SuiteRun> suites;
+  return suites;
+}
 
 template <class Suite>
-int Run(int argc, char** argv) {
-  Suite suite;
-  return QTest::qExec(&suite, argc, argv);
-}
+struct AddSuite {
+  AddSuite() {
+    Suites().push_back([](int argc, char** argv) {
+      Suite suite;
+      return QTest::qExec(&suite, argc, argv);
+    });
+  }
+};
 
 }  // namespace tarnwick

@@ -2,11 +2,10 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <sstream>
 #include <string>
 
 #include "app/main_window.h"
-#include "tools/driver/driver.h"
+#include "tests/driver_answers.h"
 #include "tools/driver/driver_desktop.h"
 
 namespace tarnwick {
@@ -52,22 +51,21 @@ click cmdLogThisResult
 click cmdViewLog
 )";
 
-TEST(Log, SessionReadsAsItAlwaysHas) {
+TEST(Log, SessionIsWrittenToTheByte) {
   const std::string name = "tarnwick log \xC3\xA9.txt";
   const std::string path = testing::TempDir() + name;
   const std::filesystem::path saved(std::u8string(path.begin(), path.end()));
   std::filesystem::remove(saved);
   const std::string save_there = "answer file " + path + "\n";
-  std::istringstream input(kSession + save_there + "click frmLog.cmdSaveAs\n" +
-                           // A file that is there is not replaced unasked.
-                           "set frmLog.txbText other\nanswer no\n" + save_there +
-                           "click frmLog.cmdSaveAs\nanswer file /no folder/log.txt\n" +
-                           "click frmLog.cmdSaveAs\nmessages\n");
-  std::ostringstream output;
-  EXPECT_EQ(Driver(input, output, TEST_PROGRAM_FOLDER).Run(), 0);
-  EXPECT_EQ(output.str(), "question|yesno|Save log|" + name + " already exists.  Replace it?\n" +
-                              "exclamation|ok|Save log|Error when attempting to save the log: "
-                              "No such file or directory\n.\n");
+  const std::string answers =
+      DriverAnswers(kSession + save_there + "click frmLog.cmdSaveAs\n" +
+                    // A file that is there is not replaced unasked.
+                    "set frmLog.txbText other\nanswer no\n" + save_there +
+                    "click frmLog.cmdSaveAs\nanswer file /no folder/log.txt\n" +
+                    "click frmLog.cmdSaveAs\nmessages\n");
+  EXPECT_EQ(answers, "question|yesno|Save log|" + name + " already exists.  Replace it?\n" +
+                         "exclamation|ok|Save log|Error when attempting to save the log: "
+                         "No such file or directory\n.\n");
   EXPECT_EQ(FileBytes(saved), FileBytes(TEST_DATA "/log.txt"));
   std::filesystem::remove(saved);
 }

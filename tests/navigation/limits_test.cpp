@@ -1,21 +1,13 @@
 // Moves and searches at the ends of the accepted range and beyond.
 #include <gtest/gtest.h>
-#include <sstream>
 #include <string>
 
 #include "navigation/step.h"
 #include "navigation/target.h"
-#include "tools/driver/driver.h"
+#include "tests/driver_answers.h"
 
 namespace tarnwick {
 namespace {
-
-std::string Answers(const std::string& commands) {
-  std::istringstream input(commands);
-  std::ostringstream output;
-  Driver(input, output, TEST_PROGRAM_FOLDER).Run();
-  return output.str();
-}
 
 std::string Repeat(const std::string& text, int count) {
   std::string repeated;
@@ -35,7 +27,7 @@ TEST(Limits, AHundredMovesBeyondThemEachTellAndGoOn) {
   for (const Limit& limit : kLimits) {
     for (int step = 0; step < kStepCount; ++step) {
       SCOPED_TRACE(std::string(limit.moment) + ", " + std::string(StepText(step)));
-      const std::string messages = Answers(
+      const std::string messages = DriverAnswers(
           "start\nset txbDate " + std::string(limit.moment) + "\nclick cmdCompute\n" +
           "set cboMoveStep " + std::to_string(step) + "\nclick optMoveDirection(" +
           std::to_string(limit.direction) + ")\n" + Repeat("click cmdMove\n", 100) + "messages\n");
@@ -53,11 +45,11 @@ TEST(Limits, SearchesNearThemEnd) {
       SCOPED_TRACE(std::string(limit.moment) + ", target " + std::to_string(target));
       const std::string eclipse =
           target == kSameSarosTarget ? "set cboTarget 6\nclick cmdSearch\n" : "";
-      const std::string shown =
-          Answers("start\nset txbDate " + std::string(limit.moment) + "\nclick cmdCompute\nclick " +
-                  (limit.direction == 0 ? "optNext" : "optPrevious") + "\n" + eclipse +
-                  "set cboTarget " + std::to_string(target) + "\n" +
-                  Repeat("click cmdSearch\n", 3) + "messages\nget cmdSearch.Enabled\n");
+      const std::string shown = DriverAnswers(
+          "start\nset txbDate " + std::string(limit.moment) + "\nclick cmdCompute\nclick " +
+          (limit.direction == 0 ? "optNext" : "optPrevious") + "\n" + eclipse + "set cboTarget " +
+          std::to_string(target) + "\n" + Repeat("click cmdSearch\n", 3) +
+          "messages\nget cmdSearch.Enabled\n");
       EXPECT_EQ(shown, ".\n1\n");
     }
   }

@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "controls/text_file.h"
-#include "tools/driver/driver.h"
+#include "tests/driver_answers.h"
 
 #ifndef _WIN32
 #include <chrono>
@@ -114,12 +114,8 @@ class SavedState : public testing::Test {
 
   std::string Read() const { return ReadTextFile(File(), kLargestFile).value_or("none"); }
 
-  // The answers to commands, all of which must be carried out.
   std::vector<std::string> Answers(const std::string& commands) const {
-    std::istringstream input("statefile " + File().string() + "\n" + commands);
-    std::stringstream output;
-    const int status = Driver(input, output, TEST_PROGRAM_FOLDER).Run();
-    EXPECT_EQ(status, 0) << output.str();
+    std::istringstream output(DriverAnswers("statefile " + File().string() + "\n" + commands));
     std::vector<std::string> answers;
     for (std::string answer; std::getline(output, answer);) answers.push_back(answer);
     return answers;

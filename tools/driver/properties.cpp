@@ -14,7 +14,7 @@ std::string ColorText(Color color) {
   return text;
 }
 
-std::optional<std::string> BoundsText(const Bounds& bounds, std::string_view property) {
+std::optional<std::string> BoundsText(const Rectangle& bounds, std::string_view property) {
   if (property == "Left") return std::to_string(bounds.left);
   if (property == "Top") return std::to_string(bounds.top);
   if (property == "Width") return std::to_string(bounds.width);
