@@ -5,7 +5,7 @@
 #include <string>
 
 #include "engines/phase_engine.h"
-#include "tools/driver/driver.h"
+#include "tests/driver_answers.h"
 
 namespace tarnwick {
 namespace {
@@ -42,11 +42,7 @@ TEST(Saros, SearchesGoOn223Lunations) {
                 "click optNext\nset cboTarget 6\n" + search + "set cboTarget 13\n" + search +
                 "click optPrevious\n" + search;
   }
-  std::istringstream input(commands);
-  std::ostringstream output;
-  Driver(input, output, TEST_PROGRAM_FOLDER).Run();
-
-  std::istringstream answers(output.str());
+  std::istringstream answers(DriverAnswers(commands));
   int inside = 0;
   for (int i = 0; i < kSamples; ++i) {
     std::optional<Shown> from;

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "tests/driver_answers.h"
 #include "tools/driver/driver.h"
 
 namespace tarnwick {
@@ -79,16 +80,13 @@ TEST(Driver, ExitStatusTellsOfErrors) {
 }
 
 TEST(Driver, DumpPrintsEverythingByName) {
-  std::istringstream input("start\nset txbPlusMinus 7\ndump\n");
-  std::ostringstream output;
-  EXPECT_EQ(Driver(input, output, TEST_PROGRAM_FOLDER).Run(), 0);
-  const std::string dump = output.str();
+  const std::string dump = DriverAnswers("start\nset txbPlusMinus 7\ndump\n");
   std::size_t at = 0;
   for (const std::string line :
        {"frmCredits|Credits|0", "frmLogPreferences|chkIncludeCE|1|1|1|#000000|",
         "frmMain|Tarnwick 18.0|1", "frmMain|Clock|0|0|1|#000000|",
-        "frmMain|lblKSGDate(1)|1-117-08-25 KSG (Tuesday, Hathor 25, 1-117)|1|1|#c8c8c8|"
-        "The 25th day of Hathor in the year 117 of cycle 1",
+        "|1|1|#ffffff|The 5th day of March in the year 2024 in the Common Era Calendar",
+        "frmMain|lblTime(1)|12:00 (local=GMT)|1|1|#000000|",
         "frmMain|picMoon|lastquarter.bmp|1|1|#000000|", "frmMain|txbPlusMinus|7|1|1|#000000|",
         "frmMain.txbPlusMinus\n."}) {
     const std::size_t found = dump.find(line + "\n", at);
