@@ -126,33 +126,6 @@ TEST(LunarWeek, ValidatesMonthThenWeekThenDay) {
   EXPECT_EQ(ErrorOf(Date(5024, 1, 1, 10)), kOLWBadDay);
 }
 
-struct Step {
-  void (*step)(OLWDate& record, bool forward);
-  OLWDate from;
-  bool forward;
-  OLWDate to;
-};
-
-TEST(LunarWeek, StepsWrapAndClamp) {
-  const Step steps[] = {
-      {StepOLWMonth, Date(5024, 12, 2, 3), true, Date(5024, 13, 2, 3)},
-      {StepOLWMonth, Date(5024, 13, 2, 3), true, Date(5025, 1, 2, 3)},
-      {StepOLWMonth, Date(5023, 12, 2, 3), true, Date(5024, 1, 2, 3)},
-      {StepOLWMonth, Date(5025, 1, 2, 3), false, Date(5024, 13, 2, 3)},
-      {StepOLWMonth, Date(5024, 1, 2, 3), false, Date(5023, 12, 2, 3)},
-      {StepOLWYear, Date(5024, 13, 2, 3), true, Date(5025, 12, 2, 3)},
-      {StepOLWYear, Date(5024, 5, 2, 3), false, Date(5023, 5, 2, 3)},
-      {StepOLWWeek, Date(5024, 5, 2, 3), true, Date(5024, 5, 3, 3)},
-      {StepOLWWeek, Date(5024, 5, 4, 3), true, Date(5024, 6, 1, 3)},
-      {StepOLWWeek, Date(5025, 1, 1, 3), false, Date(5024, 13, 4, 3)},
-  };
-  for (const Step& step : steps) {
-    OLWDate date = step.from;
-    step.step(date, step.forward);
-    EXPECT_EQ(OLWDateString(date, 1), OLWDateString(step.to, 1)) << OLWDateString(step.from, 1);
-  }
-}
-
 TEST(LunarWeek, ADayThatTheNewWeekLacksIsLowered) {
   int lowered = 0;
   for (std::int32_t day = 2451545; day < 2451545 + 800; ++day) {

@@ -167,18 +167,6 @@ TEST(Eclipses, NoneIsMissedAndNoneIsInvented) {
   EXPECT_EQ(FoundLunations(LunarEclipseOf), ReferenceLunations("eclipses_lunar.csv"));
 }
 
-TEST(Eclipses, HappenAtNoOtherPhase) {
-  for (std::int32_t n = -600; n < 600; ++n) {
-    SCOPED_TRACE(n);
-    for (const std::int32_t quarter : {1, 3}) {
-      EXPECT_EQ(SolarEclipseAt(Syzygy(n, quarter)).type, 0);
-      EXPECT_EQ(LunarEclipseAt(Syzygy(n, quarter)).type, 0);
-    }
-    EXPECT_EQ(SolarEclipseAt(Syzygy(n, kFullMoon)).type, 0);
-    EXPECT_EQ(LunarEclipseAt(Syzygy(n, kNewMoon)).type, 0);
-  }
-}
-
 // The syzygy is only where the search begins: half an hour more or less leaves the eclipse alone.
 TEST(Eclipses, DoNotDependOnTheExactSyzygy) {
   for (const std::int32_t lunation : {65, 171, 177, 535, -164}) {

@@ -4,15 +4,9 @@
 #include <iterator>
 #include <string>
 
-#include "calendars/archetypes.h"
 #include "calendars/calendar_table.h"
 #include "calendars/date_processing.h"
-#include "calendars/goddess.h"
-#include "calendars/lunar_week.h"
-#include "calendars/solilunar.h"
-#include "calendars/triday.h"
 #include "engines/checked_arithmetic.h"
-#include "engines/date_engine.h"
 #include "moon/syzyg.h"
 
 namespace tarnwick {
@@ -24,60 +18,21 @@ constexpr long kBeforeDawn = 11709;  // 03:15:09
 constexpr long kDay = 86400;
 constexpr long kDawn = kDay / 4;
 
-std::int32_t ARCDayNumber(const std::string& numbers) {
-  DateRecord fields;
-  fields.calendar = 'R';
-  EXPECT_EQ(ParseDateString(numbers, fields), kDateParsed) << numbers;
-  ARCDate date{fields.year, fields.month, fields.day};
-  EXPECT_TRUE(ARCDateToJDN(date)) << numbers;
-  return date.jdn;
-}
-
-std::int32_t KSGDayNumber(const std::string& numbers) {
-  KSGDate date;
-  EXPECT_TRUE(ParseKSGDate(numbers, date) && KSGDateToJDN(date)) << numbers;
-  return date.jdn;
-}
-
-// For the calendars whose reader finds the day number too; `read` is what it returns then.
-template <typename Date, typename Parse, typename Result>
-std::int32_t ParsedDayNumber(const std::string& numbers, Parse parse, Result read) {
-  Date date;
-  EXPECT_EQ(parse(numbers, date), read) << numbers;
-  return date.jdn;
+const CalendarRow& RowNamed(const std::string& calendar) {
+  return RowOf(CalendarIndex(calendar).value());
 }
 
 std::int32_t DayNumberOf(const std::string& numbers, const std::string& calendar) {
-  if (calendar == "ARC") return ARCDayNumber(numbers);
-  if (calendar == "SD") return ParsedDayNumber<SDDate>(numbers, ParseSDDate, true);
-  if (calendar == "LLT") return ParsedDayNumber<LLTDate>(numbers, ParseLLTDate, true);
-  if (calendar == "KSG") return KSGDayNumber(numbers);
-  if (calendar == "OLW") return ParsedDayNumber<OLWDate>(numbers, ParseOLWDate, kOLWValid);
-  return ParsedDayNumber<DateRecord>(numbers, ParseDateString, kDateParsed);
-}
-
-template <typename Date, typename ToDate>
-Date DateOf(std::int32_t day_number, ToDate to_date) {
-  Date date;
-  date.jdn = day_number;
-  to_date(date);
-  return date;
-}
-
-std::string DateTextOf(std::int32_t day, const std::string& calendar) {
-  if (calendar == "ARC") return ARCDateString(DateOf<ARCDate>(day, JDNToARCDate), 1);
-  if (calendar == "SD") return SDDateString(DateOf<SDDate>(day, JDNToSDDate), 1);
-  if (calendar == "LLT") return LLTDateString(DateOf<LLTDate>(day, JDNToLLT), 1);
-  if (calendar == "KSG") return KSGDateString(DateOf<KSGDate>(day, JDNToKSGDate), 1, true);
-  if (calendar == "OLW") return OLWDateString(DateOf<OLWDate>(day, JDNToOLWDate), 1);
-  return DateText(DateOf<DateRecord>(day, jdn_to_euro_date)) + " CE";
+  const ReadDay read = RowNamed(calendar).read(numbers);
+  EXPECT_EQ(read.code, kEntryOk) << numbers;
+  return read.day_number.value;
 }
 
 // The date text and time, "2024-02-29 CE 13:07:09", of a moment.
 std::string TextOf(UniversalTime moment, const std::string& calendar) {
+  const CalendarRow& row = RowNamed(calendar);
   const LocalCJD cjd = AJDToCJD(moment, kOffset);
-  const LocalCJD days = calendar == "OLW" ? cjd - 0.25 : cjd;
-  return DateTextOf(SplitCJD(days).day_number.value, calendar) + " " +
+  return row.texts(SplitCJD(cjd - row.day_shift).day_number).short_form + " " +
          TimeOfDayText(SplitCJD(cjd).fraction, true);
 }
 
