@@ -17,8 +17,8 @@ struct Window {
 
   Window() { form.Load(); }
   void Compute(const std::string& text) {
-    form.txbDate.SetText(text);
-    form.cmdCompute.Click();
+    form.entry.txbDate.SetText(text);
+    form.entry.cmdCompute.Click();
   }
 };
 

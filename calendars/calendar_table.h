@@ -21,6 +21,10 @@ inline constexpr std::int16_t kCalendarCount = 9;
 inline constexpr std::array<Calendar, kCalendarCount> kCalendars{kCE,  kJC,  kARC, kSD, kLLT,
                                                                  kKSG, kCJD, kAJD, kOLW};
 
+// In the order in which the window and the log show them: the day counts last.
+inline constexpr std::array<Calendar, kCalendarCount> kDisplayOrder{kCE,  kJC,  kARC, kSD, kLLT,
+                                                                    kKSG, kOLW, kCJD, kAJD};
+
 // Whether its dates are plain day counts, with the time of day in their fraction.
 constexpr bool IsDayCount(Calendar calendar) { return calendar == kCJD || calendar == kAJD; }
 

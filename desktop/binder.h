@@ -4,6 +4,7 @@
 #include <map>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "controls/controls.h"
 #include "controls/form.h"
@@ -28,7 +29,7 @@ class LinkLabel;
 class Panel;
 class PictureView;
 
-// What a window adds to the caption of a control.
+// What a view adds to the caption of a control.
 struct Wording {
   std::string_view control;   // its name, "lblTime(1)" for one of an array
   char mnemonic = 0;          // the letter of its caption that Alt reaches it by
@@ -43,7 +44,14 @@ struct Wording {
 // control in a frame is disabled or hidden with the widget of the frame.
 class Binder {
  public:
-  Binder(HandlerGate& gate, std::span<const Wording> wordings) : gate_(gate), wordings_(wordings) {}
+  explicit Binder(HandlerGate& gate, std::span<const Wording> wordings = {}) : gate_(gate) {
+    AddWordings(wordings);
+  }
+
+  // Wordings for controls that are bound from now on.
+  void AddWordings(std::span<const Wording> wordings) {
+    wordings_.insert(wordings_.end(), wordings.begin(), wordings.end());
+  }
 
   void Bind(Form& form, QWidget& window);
   void Bind(Frame& frame, QWidget& area);
@@ -81,7 +89,7 @@ class Binder {
   Wording WordingOf(const Control& control) const;
 
   HandlerGate& gate_;
-  std::span<const Wording> wordings_;
+  std::vector<Wording> wordings_;
   std::map<const Control*, QWidget*> widgets_;
 };
 

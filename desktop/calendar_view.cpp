@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/main_window.h"
+#include "controls/choice.h"
 #include "desktop/bound_widgets.h"
 #include "desktop/link_label.h"
 #include "desktop/look.h"

@@ -46,9 +46,9 @@ int main(int argc, char** argv) {
   tarnwick::Screen screen;
   tarnwick::frmMain form(desktop, screen);
   tarnwick::MainWindowView view(form, gate);
-  tarnwick::LogWindowView log_view(form.log_window, gate);
-  tarnwick::LogPreferencesView log_preferences_view(form.log_preferences, gate);
-  tarnwick::CalendarView calendar_view(form.calendar_window, gate);
+  tarnwick::LogWindowView log_view(form.log.log_window, gate);
+  tarnwick::LogPreferencesView log_preferences_view(form.log.log_preferences, gate);
+  tarnwick::CalendarView calendar_view(form.calendar.calendar_window, gate);
   tarnwick::HelpView help_view(form.help_window, gate);
   tarnwick::CreditsView credits_view(form.help_window.credits_window, gate);
   tarnwick::NoticeView notice_view(form.notice, gate);

@@ -1,3 +1,4 @@
+// The main window on the screen: the views of its sections, and the buttons that belong to none.
 #pragma once
 
 #include <QTimer>
@@ -6,12 +7,11 @@
 #include "app/main_window.h"
 #include "desktop/binder.h"
 
-class QGridLayout;
 class QHBoxLayout;
 
 namespace tarnwick {
 
-// The main window on the screen. It shows itself when its form does.
+// It shows itself when its form does.
 class MainWindowView final : public QWidget {
  public:
   MainWindowView(frmMain& form, HandlerGate& gate);
@@ -24,32 +24,9 @@ class MainWindowView final : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
   // Tells the form where the label is that the log window opens below.
   void ReportPlace();
+  QWidget* MakeEntry();
+  QHBoxLayout* MakeRow(const std::initializer_list<std::pair<QWidget*, int>>& parts);
   QWidget* MakeButtons();
-
-  // Entry and time system (convert_panel.cpp).
-  QWidget* MakeConvertPanel();
-  QHBoxLayout* MakeEntryRow(QWidget* panel);
-  QHBoxLayout* MakeCommandRow(QWidget* panel);
-  void AddTimeZone(QHBoxLayout& row, QWidget* panel);
-
-  // One moment in every calendar (dates_panel.cpp) and the Moon (moon_panel.cpp).
-  QWidget* MakeDatesPanel();
-  void AddDate(frmMain::DateLabel& label, QGridLayout& rows, QWidget* panel);
-  QWidget* MakeMoonPanel();
-  void AddMoonRow(frmMain::DateLabel& label, QGridLayout& rows, QWidget* panel);
-
-  // Moves (move_panel.cpp), searches (search_panel.cpp, result_panel.cpp), the history
-  // (history_panel.cpp) and the log (log_panel.cpp).
-  QWidget* MakeMovePanel();
-  QWidget* MakeMoveFrame(QWidget* panel);
-  QWidget* MakeStepList(QWidget* frame);
-  QHBoxLayout* MakePeriodRow(QWidget* panel);
-  QWidget* MakeSteering(QWidget* panel);
-  QWidget* MakeSearchPanel();
-  QWidget* MakeSearchFrame(QWidget* panel);
-  QWidget* MakeResultPanel();
-  QWidget* MakeHistoryPanel();
-  QWidget* MakeLogPanel();
 
   frmMain& form_;
   Binder binder_;

@@ -1,6 +1,5 @@
 #include "log/log_entry.h"
 
-#include "calendars/calendar_table.h"
 #include "engines/checked_arithmetic.h"
 
 namespace tarnwick {
@@ -30,9 +29,10 @@ std::string_view BeforeBlankAnd(std::string_view caption, std::string_view mark)
 // A date as the layout without calendar names shows it. In the CE and JC labels the first comma
 // stands behind the weekday, so that the weekday is part of it.
 std::string_view DateText(const LogDate& date) {
-  const auto calendar = CalendarIndex(date.calendar);
-  if (calendar && IsDayCount(*calendar)) return date.caption;
-  if (calendar == kCE || calendar == kJC) return Before(date.caption, ",");
+  if (IsDayCount(date.calendar)) return date.caption;
+  if (date.calendar == kCE || date.calendar == kJC) {
+    return Before(date.caption, ",");
+  }
   return BeforeBlankAnd(date.caption, "(");
 }
 
@@ -69,8 +69,9 @@ void LogWriter::WriteDates(const LogEntry& entry) {
       AppendLogSeparator();
       Append(DateText(date));
     } else {
-      Append(std::string(date.calendar) + "=");
-      Append(BeforeBlankAnd(date.caption, date.calendar));
+      const std::string_view abbreviation = AbbreviationOf(date.calendar);
+      Append(std::string(abbreviation) + "=");
+      Append(BeforeBlankAnd(date.caption, abbreviation));
       Append("  ");
     }
   }

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "calendars/calendar_table.h"
+
 namespace tarnwick {
 
 enum class LogLayout {
@@ -16,7 +18,7 @@ enum class LogLayout {
 
 // A date as a label of the main window shows it: "2003-12-31 CE (Wednesday, December 31, 2003)".
 struct LogDate {
-  std::string_view calendar;  // its abbreviation
+  Calendar calendar = kCE;
   std::string caption;
 };
 

@@ -1,10 +1,8 @@
 #include "log/log_preferences.h"
 
-#include "app/main_window.h"
-
 namespace tarnwick {
-frmLogPreferences::frmLogPreferences(Screen& screen, frmMain& main_window)
-    : ClosableForm(screen, "frmLogPreferences", "Log preferences"), main_window_(main_window) {
+frmLogPreferences::frmLogPreferences(Screen& screen)
+    : ClosableForm(screen, "frmLogPreferences", "Log preferences") {
   optLogFormat[0].SetCaption("calendar=date");
   optLogFormat[1].SetCaption("date calendar,");
   cmdSetALL.on_click = [this] { cmdSetALL_Click(); };
@@ -42,7 +40,7 @@ void frmLogPreferences::Form_Activate() { cmdClose.SetFocus(); }
 
 void frmLogPreferences::cmdClose_Click() {
   Hide();
-  main_window_.RefreshFunctions();
+  on_closed();
 }
 
 // The choices stay, so the close box does no more than the button.

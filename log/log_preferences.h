@@ -10,12 +10,10 @@
 
 namespace tarnwick {
 
-class frmMain;
-
 // What the entries of the log hold, and how.
 class frmLogPreferences final : public ClosableForm {
  public:
-  frmLogPreferences(Screen& screen, frmMain& main_window);
+  explicit frmLogPreferences(Screen& screen);
 
   Label lblInclude{*this, "lblInclude", "Include in log entries:"};
   CheckBox chkIncludeCE{*this, "chkIncludeCE", "CE (Common Era Calendar)"};
@@ -39,6 +37,9 @@ class frmLogPreferences final : public ClosableForm {
   Button cmdSetALL{*this, "cmdSetALL", "Set all"};
   Button cmdClearAll{*this, "cmdClearAll", "Clear all"};
 
+  // The window has been closed.
+  Control::Handler on_closed;
+
   // Everything included, in the first layout.
   void SetDefaults();
   LogLayout Layout() const;
@@ -53,8 +54,6 @@ class frmLogPreferences final : public ClosableForm {
   void cmdSetALL_Click();
   void cmdClearAll_Click();
   void cmdClose_Click() override;
-
-  frmMain& main_window_;
 };
 
 }  // namespace tarnwick

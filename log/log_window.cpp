@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "app/main_window.h"
+#include "controls/product.h"
 #include "controls/save_path.h"
 #include "controls/text_file.h"
 #include "controls/utf8.h"
@@ -30,8 +30,8 @@ constexpr int kBeforeCopySelection = 1000;
 
 }  // namespace
 
-frmLog::frmLog(Desktop& desktop, Screen& screen, frmMain& main_window)
-    : ClosableForm(screen, "frmLog", "Log"), desktop_(desktop), main_window_(main_window) {
+frmLog::frmLog(Desktop& desktop, Screen& screen, frmNotice& notice)
+    : ClosableForm(screen, "frmLog", "Log"), desktop_(desktop), notice_(notice) {
   cmdClear.on_click = [this] { cmdClear_Click(); };
   cmdCopyToClipboard.on_click = [this] { cmdCopyToClipboard_Click(); };
   cmdSaveAs.on_click = [this] { cmdSaveAs_Click(); };
@@ -54,7 +54,7 @@ void frmLog::ShowText(std::string text) {
 void frmLog::Form_Load() { cmdCopyToClipboard.SetEnabled(true); }
 
 void frmLog::Form_Activate() {
-  SetCaption("Log for " + main_window_.Caption());
+  SetCaption(std::string("Log for ") + kProgramTitle);
   txbText.MoveCaretToEnd();
   PlaceCopyButton(false);
   PlaceCloseButton();
@@ -103,7 +103,6 @@ void frmLog::cmdClear_Click() {
                          MessageButtons::kOkCancel};
   if (desktop_.ShowMessage(question) != MessageAnswer::kOk) return;
   txbText.SetText("");
-  main_window_.cmdViewLog.SetEnabled(false);
   Hide();
 }
 
@@ -113,7 +112,7 @@ void frmLog::cmdSaveAs_Click() {
   if (!file) return;
   const std::string error = WriteTextFile(*file, txbText.Text());
   if (error.empty()) {
-    main_window_.notice.ShowOver(*this, "Saved");
+    notice_.ShowOver(*this, "Saved");
   } else {
     ReportSaveError(desktop_, "the log", title, error);
   }
@@ -121,15 +120,14 @@ void frmLog::cmdSaveAs_Click() {
 
 void frmLog::cmdClose_Click() {
   Hide();
-  main_window_.RefreshFunctions();
+  on_closed();
 }
 
 // The system's close box discards the log; the next entry begins it anew.
 void frmLog::Form_Unload(bool& /*cancel*/) {
   txbText.SetText("");
-  main_window_.RefreshFunctions();
-  main_window_.cmdViewLog.SetEnabled(false);
-  main_window_.cmdLogThisResult.SetEnabled(false);
+  on_discarded();
+  on_closed();
 }
 
 }  // namespace tarnwick

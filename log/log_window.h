@@ -5,21 +5,24 @@
 #include "controls/closable_form.h"
 #include "controls/controls.h"
 #include "controls/desktop.h"
+#include "help/notice.h"
 
 namespace tarnwick {
-
-class frmMain;
 
 // The log: plain text that the program writes and the user may edit. Its text box is the only place
 // where it is kept.
 class frmLog final : public ClosableForm {
  public:
-  frmLog(Desktop& desktop, Screen& screen, frmMain& main_window);
+  frmLog(Desktop& desktop, Screen& screen, frmNotice& notice);
 
   TextBox txbText{*this, "txbText"};
   Button cmdClear{*this, "cmdClear", "Clear log"};
   Button cmdCopyToClipboard{*this, "cmdCopyToClipboard"};
   Button cmdSaveAs{*this, "cmdSaveAs", "Save as ..."};
+
+  // The window has been closed; the log with it.
+  Control::Handler on_closed;
+  Control::Handler on_discarded;
 
   // Replaces the text and brings its end, the newest entry, into view.
   void ShowText(std::string text);
@@ -43,7 +46,7 @@ class frmLog final : public ClosableForm {
   void PlaceCloseButton();
 
   Desktop& desktop_;
-  frmMain& main_window_;
+  frmNotice& notice_;
   bool blnCopiesSelection = false;  // as the copy button says
 };
 

@@ -1,10 +1,9 @@
 #include "lunation_view/calendar_window.h"
 
 #include <filesystem>
-#include <system_error>
 
-#include "app/main_window.h"
 #include "calendars/date_processing.h"
+#include "controls/choice.h"
 #include "controls/save_path.h"
 
 namespace tarnwick {
@@ -15,8 +14,13 @@ constexpr char kCaption[] = "Lunation calendar";
 
 }  // namespace
 
-frmCalendar::frmCalendar(Desktop& desktop, Screen& screen, frmMain& main_window)
-    : ClosableForm(screen, "frmCalendar", kCaption), desktop_(desktop), main_window_(main_window) {
+frmCalendar::frmCalendar(Desktop& desktop, Screen& screen, Session& session, PictureFiles& pictures,
+                         frmNotice& notice)
+    : ClosableForm(screen, "frmCalendar", kCaption),
+      desktop_(desktop),
+      session_(session),
+      pictures_(pictures),
+      notice_(notice) {
   lblTitle.SetForeColor(kTitleColor);
   for (int column = 0; column < kGridColumns; ++column) {
     lblWeekday[static_cast<std::size_t>(column)].SetCaption(WeekdayHeading(column));
@@ -38,28 +42,25 @@ frmCalendar::frmCalendar(Desktop& desktop, Screen& screen, frmMain& main_window)
 
 // A picture belongs to a cell, not to a date: "day1.gif" is that of the first cell.
 void frmCalendar::Form_Load() {
-  const std::filesystem::path folder = desktop_.ProgramFolder() / "assets" / "moon_pics";
   for (int i = 0; i < kGridCells; ++i) {
     if (!IsCellUsed(i)) continue;
-    const std::filesystem::path file = folder / ("day" + std::to_string(i + 1) + ".gif");
-    std::error_code error;
-    if (std::filesystem::exists(file, error)) {
-      imgMoon[static_cast<std::size_t>(i)].SetPicture(file);
-    } else {
-      main_window_.ReportMissingPicture(file);
-    }
+    imgMoon[static_cast<std::size_t>(i)].SetPicture(
+        pictures_.Find("moon_pics/day" + std::to_string(i + 1) + ".gif"));
   }
 }
 
 void frmCalendar::Form_Activate() { cmdShowPreviousOrNext[1].SetFocus(); }
 
-GridReading frmCalendar::Reading() const {
-  return {main_window_.cboMonthCalendar.ListIndex(), main_window_.ReadingOffset()};
-}
+GridReading frmCalendar::Reading() const { return {intMonthCalendar, session_.ReadingOffset()}; }
 
 void frmCalendar::ShowCurrentLunation() {
-  lngLunation = LunationOfDay(UniversalTime(main_window_.Moment()), Reading());
+  lngLunation = LunationOfDay(session_.Moment(), Reading());
   ShowLunation();
+}
+
+void frmCalendar::SetMonthCalendar(int month_calendar) {
+  intMonthCalendar = month_calendar;
+  Refresh();
 }
 
 void frmCalendar::Refresh() {
@@ -70,9 +71,7 @@ void frmCalendar::ShowLunation() {
   grid_ = MakeLunationGrid(lngLunation, Reading());
   lblTitle.SetCaption(grid_.title);
   lblYearAndMonth.SetCaption(grid_.year_and_month);
-  const DayNumber current_day =
-      SplitCJD(AJDToCJD(UniversalTime(main_window_.Moment()), main_window_.ReadingOffset()))
-          .day_number;
+  const DayNumber current_day = SplitCJD(session_.LocalMoment()).day_number;
   for (std::size_t i = 0; i < kGridCells; ++i) {
     if (grid_.cells[i]) {
       ShowCell(i, current_day);
@@ -103,7 +102,7 @@ void frmCalendar::HideCell(std::size_t index) {
 }
 
 void frmCalendar::Cell_Click(std::size_t index) {
-  if (grid_.cells[index]) main_window_.TakeDay(grid_.cells[index]->day_number.value);
+  if (grid_.cells[index]) on_day_click(grid_.cells[index]->day_number);
 }
 
 void frmCalendar::cmdShowPreviousOrNext_Click(int index) {
@@ -125,7 +124,7 @@ void frmCalendar::cmdSaveCalendarImage_Click() {
   if (!file) return;
   const std::string error = desktop_.SaveImage(fraCalendar, *file);
   if (error.empty()) {
-    main_window_.notice.ShowOver(*this, "Saved");
+    notice_.ShowOver(*this, "Saved");
   } else {
     ReportSaveError(desktop_, "the image", title, error);
   }

@@ -2,21 +2,24 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 
 #include "controls/closable_form.h"
 #include "controls/control_array.h"
 #include "controls/controls.h"
 #include "controls/desktop.h"
+#include "controls/picture_files.h"
+#include "help/notice.h"
 #include "lunation_view/lunation_grid.h"
+#include "moment/session.h"
 
 namespace tarnwick {
 
-class frmMain;
-
-// One lunation as a calendar page, in the calendar that the main window's list names.
+// One lunation as a calendar page.
 class frmCalendar final : public ClosableForm {
  public:
-  frmCalendar(Desktop& desktop, Screen& screen, frmMain& main_window);
+  frmCalendar(Desktop& desktop, Screen& screen, Session& session, PictureFiles& pictures,
+              frmNotice& notice);
 
   Frame fraCalendar{*this, "fraCalendar"};  // the page
   Label lblTitle{fraCalendar, "lblTitle"};
@@ -30,6 +33,11 @@ class frmCalendar final : public ClosableForm {
   ControlArray<Button, 2> cmdShowPreviousOrNext{*this, "cmdShowPreviousOrNext"};
   Button cmdSaveCalendarImage{*this, "cmdSaveCalendarImage", "Save as PNG image"};
 
+  // The user has chosen a day of the page.
+  std::function<void(DayNumber day_number)> on_day_click;
+
+  // The calendar in which pages are laid out, by its place in kMonthCalendars.
+  void SetMonthCalendar(int month_calendar);
   // Shows the lunation that the day of the current moment belongs to.
   void ShowCurrentLunation();
   // Draws the page again, if it is on display: a setting or the current moment has changed.
@@ -48,7 +56,10 @@ class frmCalendar final : public ClosableForm {
   void cmdSaveCalendarImage_Click();
 
   Desktop& desktop_;
-  frmMain& main_window_;
+  Session& session_;
+  PictureFiles& pictures_;
+  frmNotice& notice_;
+  int intMonthCalendar = 0;
   std::int32_t lngLunation = 0;
   LunationGrid grid_;
 };

@@ -47,8 +47,9 @@ EclipseTypes AcceptedTypes(int target) {
   return kAcceptedTypes[static_cast<std::size_t>(row)];
 }
 
-PhaseNumber FindQuarter(bool forward, PhaseNumber at, bool exact) {
-  if (!forward && !exact) return at;
+PhaseNumber FindQuarter(bool forward, const MomentPhase& from) {
+  PhaseNumber at = from.at;
+  if (!forward && !from.exact) return at;
   at.phase = static_cast<std::int16_t>(at.phase + (forward ? 1 : -1));
   if (at.phase > kLastQuarter) return {CheckedAdd(at.lunation, 1), kNewMoon};
   if (at.phase < kNewMoon) return {CheckedSubtract(at.lunation, 1), kLastQuarter};
@@ -108,11 +109,12 @@ constexpr std::array<TargetRow, kTargetCount> kTargets{{
     {"Coincidence of 1sts of month"},
 }};
 
-PhaseNumber FindPhase(int target, bool forward, const PhaseNumber& at, bool exact) {
-  if (target == kQuarterTarget) return FindQuarter(forward, at, exact);
+PhaseNumber FindPhase(int target, bool forward, const MomentPhase& from) {
+  if (target == kQuarterTarget) return FindQuarter(forward, from);
+  const PhaseNumber& at = from.at;
   const std::int16_t phase = kTargets[static_cast<std::size_t>(target)].phase;
   if (forward) return {at.phase >= phase ? CheckedAdd(at.lunation, 1) : at.lunation, phase};
-  const bool before = phase > at.phase || (phase == at.phase && exact);
+  const bool before = phase > at.phase || (phase == at.phase && from.exact);
   return {before ? CheckedSubtract(at.lunation, 1) : at.lunation, phase};
 }
 

@@ -40,9 +40,15 @@ struct PhaseNumber {
   friend bool operator==(const PhaseNumber&, const PhaseNumber&) = default;
 };
 
-// The next or previous phase that target 0 to 4 names, from a moment in phase `at`; `exact` tells
-// that the moment is the instant of that phase itself.
-PhaseNumber FindPhase(int target, bool forward, const PhaseNumber& at, bool exact);
+// Where a moment stands: the last principal phase at or before it, and whether it is the instant of
+// that phase itself.
+struct MomentPhase {
+  PhaseNumber at;
+  bool exact = false;
+};
+
+// The next or previous phase that target 0 to 4 names, from a moment.
+PhaseNumber FindPhase(int target, bool forward, const MomentPhase& from);
 
 // Whether a target from 6 to 12 accepts an eclipse of that type.
 bool AcceptsEclipse(int target, std::int32_t type);

@@ -23,15 +23,15 @@ namespace {
 
 struct CalendarWindow {
   CalendarWindow() {
-    main.form.cmdDisplayCalendar.Click();
+    main.form.calendar.cmdDisplayCalendar.Click();
     QVERIFY(QTest::qWaitForWindowActive(&view));
   }
 
-  frmCalendar& Form() { return main.form.calendar_window; }
+  frmCalendar& Form() { return main.form.calendar.calendar_window; }
   QWidget& WidgetOf(const Control& control) { return *view.WidgetOf(control); }
 
   MainWindow main;
-  CalendarView view{main.form.calendar_window, main.gate};
+  CalendarView view{main.form.calendar.calendar_window, main.gate};
 };
 
 }  // namespace
@@ -40,7 +40,7 @@ void CalendarViewTest::pagesFit() {
   CalendarWindow calendar;
   const QSize size = calendar.view.size();
   for (int list = 0; list < 4; ++list) {
-    calendar.main.form.cboMonthCalendar.SetListIndex(list);
+    calendar.main.form.calendar.cboMonthCalendar.SetListIndex(list);
     for (int i = 0; i < 2; ++i) calendar.Form().cmdShowPreviousOrNext[1].Click();
     QCoreApplication::processEvents();
     VerifyNothingIsClipped(calendar.view);
@@ -55,7 +55,7 @@ void CalendarViewTest::pagesFit() {
 
 void CalendarViewTest::dayIsTakenByMouseAndByKeyboard() {
   CalendarWindow calendar;
-  const Label& shown = calendar.main.form.lblCommonEraDate[1];
+  const Label& shown = calendar.main.form.dates.lblCommonEraDate[1];
   QTest::mouseClick(&calendar.WidgetOf(calendar.Form().imgMoon[0]), Qt::LeftButton);
   QCOMPARE(shown.Caption(), "2024-02-09 CE (Friday, February 9, 2024)");
   QTest::keyClick(&calendar.WidgetOf(calendar.Form().lblDate[31]), Qt::Key_Return);

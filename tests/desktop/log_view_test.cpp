@@ -24,19 +24,19 @@ namespace {
 struct LogWindows {
   LogWindows() {
     main.view.move(60, 40);
-    main.form.chkLog.SetValue(true);
-    main.form.cmdMove.Click();
-    main.form.cmdViewLog.Click();
+    main.form.log.chkLog.SetValue(true);
+    main.form.move.cmdMove.Click();
+    main.form.log.cmdViewLog.Click();
     QVERIFY(QTest::qWaitForWindowActive(&log));
   }
 
   QPlainTextEdit& Text() {
-    return *qobject_cast<QPlainTextEdit*>(log.WidgetOf(main.form.log_window.txbText));
+    return *qobject_cast<QPlainTextEdit*>(log.WidgetOf(main.form.log.log_window.txbText));
   }
 
   MainWindow main;
-  LogWindowView log{main.form.log_window, main.gate};
-  LogPreferencesView preferences{main.form.log_preferences, main.gate};
+  LogWindowView log{main.form.log.log_window, main.gate};
+  LogPreferencesView preferences{main.form.log.log_preferences, main.gate};
 };
 
 }  // namespace
@@ -44,21 +44,21 @@ struct LogWindows {
 void LogViewTest::logOpensBelowTheLabelAndFollowsItsSize() {
   LogWindows windows;
   const QWidget& main = windows.main.view;
-  const QWidget* label = windows.main.view.WidgetOf(windows.main.form.lblOstrelLWCDate[1]);
+  const QWidget* label = windows.main.view.WidgetOf(windows.main.form.dates.lblOstrelLWCDate[1]);
   const int below = label->mapTo(&main, QPoint()).y() + 800 / kTwipsPerPixel;
   QCOMPARE(windows.log.pos(), main.pos() + QPoint(0, below));
 
   windows.log.resize(900, 500);
   QCoreApplication::processEvents();
   QCOMPARE(windows.Text().geometry(), QRect(10, 10, 880, 420));
-  const QWidget* close = windows.log.WidgetOf(windows.main.form.log_window.cmdClose);
+  const QWidget* close = windows.log.WidgetOf(windows.main.form.log.log_window.cmdClose);
   QCOMPARE(close->geometry().right() + 1, 900 - 210 / kTwipsPerPixel);
 }
 
 void LogViewTest::selectionByMouseWidensTheButton() {
   LogWindows windows;
   auto* copy = qobject_cast<QPushButton*>(
-      windows.log.WidgetOf(windows.main.form.log_window.cmdCopyToClipboard));
+      windows.log.WidgetOf(windows.main.form.log.log_window.cmdCopyToClipboard));
   const int narrow = copy->width();
   QTest::mouseDClick(windows.Text().viewport(), Qt::LeftButton, {}, QPoint(20, 12));
   QTest::mouseRelease(windows.Text().viewport(), Qt::LeftButton, {}, QPoint(20, 12));
@@ -69,7 +69,7 @@ void LogViewTest::selectionByMouseWidensTheButton() {
 void LogViewTest::captionsFit() {
   LogWindows windows;
   windows.log.resize(windows.log.minimumSize());
-  frmLog& form = windows.main.form.log_window;
+  frmLog& form = windows.main.form.log.log_window;
   form.txbText.Select(0, 1);
   form.txbText.on_mouse_up();
   VerifyNothingIsClipped(windows.log);
@@ -82,7 +82,7 @@ void LogViewTest::captionsFit() {
     end = place.right();
   }
 
-  windows.main.form.cmdLogPreferences.Click();
+  windows.main.form.log.cmdLogPreferences.Click();
   QVERIFY(QTest::qWaitForWindowActive(&windows.preferences));
   VerifyNothingIsClipped(windows.preferences);
 }

@@ -49,13 +49,13 @@ void MainWindowViewTest::typedDateIsComputedOnReturn() {
   MainWindow main;
   QVERIFY(QTest::qWaitForWindowActive(&main.view));
   QCOMPARE(main.view.windowTitle(), "Tarnwick 18.0");
-  auto& date = main.Find<QLineEdit>(main.form.txbDate);
+  auto& date = main.Find<QLineEdit>(main.form.entry.txbDate);
   QVERIFY(date.hasFocus());
   QTest::keyClicks(&date, "2003-12-31 ce 15:55");
   QTest::keyClick(&date, Qt::Key_Return);
-  QCOMPARE(main.Find<QAbstractButton>(main.form.lblCommonEraDate[1]).text(),
+  QCOMPARE(main.Find<QAbstractButton>(main.form.dates.lblCommonEraDate[1]).text(),
            "2003-12-31 CE (Wednesday, December 31, 2003)");
-  QCOMPARE(main.Find<QAbstractButton>(main.form.lblTime[1]).text(), "15:55 (local=GMT)");
+  QCOMPARE(main.Find<QAbstractButton>(main.form.dates.lblTime[1]).text(), "15:55 (local=GMT)");
   QCOMPARE(date.text(), "2003-12-31 CE 15:55");
   QCOMPARE(date.cursorPosition(), 19);
   QVERIFY(main.desktop.TakeMessages().empty());
@@ -64,7 +64,7 @@ void MainWindowViewTest::typedDateIsComputedOnReturn() {
 void MainWindowViewTest::faultyEntryIsReported() {
   MainWindow main;
   QVERIFY(QTest::qWaitForWindowActive(&main.view));
-  auto& date = main.Find<QLineEdit>(main.form.txbDate);
+  auto& date = main.Find<QLineEdit>(main.form.entry.txbDate);
   QTest::keyClicks(&date, "2003-13-31 ce");
   QTest::keyClick(&main.view, Qt::Key_C, Qt::AltModifier);
   QTRY_COMPARE(date.text(), "2003-13-31 CE");
@@ -91,7 +91,7 @@ void MainWindowViewTest::everyControlHasItsWidget() {
 
 void MainWindowViewTest::mnemonicsAreUnique() {
   MainWindow main;
-  main.form.fraStopPauseResume.SetVisible(true);
+  main.form.move.fraStopPauseResume.SetVisible(true);
   std::set<QString> seen;
   for (const QWidget* widget : TextWidgets(main.view)) {
     const QVariant text = widget->property("text");
@@ -104,7 +104,7 @@ void MainWindowViewTest::mnemonicsAreUnique() {
 
 void MainWindowViewTest::tabKeyFollowsTheOrderOfUse() {
   MainWindow main;
-  main.form.fraStopPauseResume.SetVisible(true);
+  main.form.move.fraStopPauseResume.SetVisible(true);
   QVERIFY(QTest::qWaitForWindowActive(&main.view));
   QStringList order;
   for (int i = 0; i < 45 && (i == 0 || main.view.focusWidget()->objectName() != "txbDate"); ++i) {
@@ -156,10 +156,10 @@ void MainWindowViewTest::tabKeyFollowsTheOrderOfUse() {
 void MainWindowViewTest::labelIsCopiedByKeyboard() {
   MainWindow main;
   QVERIFY(QTest::qWaitForWindowActive(&main.view));
-  auto& julian = main.Find<QWidget>(main.form.lblJulianCalendarDate[1]);
+  auto& julian = main.Find<QWidget>(main.form.dates.lblJulianCalendarDate[1]);
   julian.setFocus(Qt::TabFocusReason);
   QTest::keyClick(&julian, Qt::Key_Return);
-  auto& date = main.Find<QLineEdit>(main.form.txbDate);
+  auto& date = main.Find<QLineEdit>(main.form.entry.txbDate);
   QCOMPARE(date.text(), "2024-02-21 JC 12:34");
   QVERIFY(date.hasFocus());
 }
@@ -167,15 +167,15 @@ void MainWindowViewTest::labelIsCopiedByKeyboard() {
 void MainWindowViewTest::groupsOfOptionsStayApart() {
   MainWindow main;
   frmMain& form = main.form;
-  for (OptionButton* option :
-       {&form.optMinus, &form.optGreenwich, &form.optMoveDirection[1], &form.optPrevious}) {
+  for (OptionButton* option : {&form.entry.optMinus, &form.time.optGreenwich,
+                               &form.move.optMoveDirection[1], &form.search.optPrevious}) {
     main.Find<QAbstractButton>(*option).click();
   }
-  for (OptionButton* option :
-       {&form.optMinus, &form.optGreenwich, &form.optMoveDirection[1], &form.optPrevious}) {
+  for (OptionButton* option : {&form.entry.optMinus, &form.time.optGreenwich,
+                               &form.move.optMoveDirection[1], &form.search.optPrevious}) {
     QVERIFY(option->Value() && main.Find<QAbstractButton>(*option).isChecked());
   }
-  QVERIFY(!main.Find<QAbstractButton>(form.optLocal).isChecked());
+  QVERIFY(!main.Find<QAbstractButton>(form.time.optLocal).isChecked());
 }
 
 void MainWindowViewTest::checkMarkAppearsBesideNow() {
@@ -192,32 +192,33 @@ void MainWindowViewTest::checkMarkAppearsBesideNow() {
 
 void MainWindowViewTest::currentCalendarIsWhite() {
   MainWindow main;
-  const auto color = [&](frmMain::DateLabel& label) {
+  const auto color = [&](ValueLabel& label) {
     return main.Find<QWidget>(label[1]).palette().color(QPalette::WindowText);
   };
-  QCOMPARE(color(main.form.lblCommonEraDate), QColor(255, 255, 255));
-  QCOMPARE(color(main.form.lblKSGDate), QColor(200, 200, 200));
-  QTest::mouseClick(&main.Find<QWidget>(main.form.lblKSGDate[0]), Qt::LeftButton);
-  QCOMPARE(color(main.form.lblCommonEraDate), QColor(200, 200, 200));
-  QCOMPARE(color(main.form.lblKSGDate), QColor(255, 255, 255));
+  QCOMPARE(color(main.form.dates.lblCommonEraDate), QColor(255, 255, 255));
+  QCOMPARE(color(main.form.dates.lblKSGDate), QColor(200, 200, 200));
+  QTest::mouseClick(&main.Find<QWidget>(main.form.dates.lblKSGDate[0]), Qt::LeftButton);
+  QCOMPARE(color(main.form.dates.lblCommonEraDate), QColor(200, 200, 200));
+  QCOMPARE(color(main.form.dates.lblKSGDate), QColor(255, 255, 255));
 }
 
 void MainWindowViewTest::moonIsShownAtItsPhase() {
   MainWindow main;
-  auto& picture = main.Find<QWidget>(main.form.picMoon);
+  auto& picture = main.Find<QWidget>(main.form.moon.picMoon);
   const auto brightness = [&](double across) {
     const QImage shown = picture.grab().toImage();
     const double x = shown.width() / 2.0 + across * shown.height() / 2.0;
     return qGray(shown.pixel(static_cast<int>(x), shown.height() / 2));
   };
   const QSize before = main.view.size();
-  main.form.txbDate.SetText("2024-01-21 CE 12:00");  // 82.8 %, waxing: the edge at 0.63 of the left
-  main.form.cmdCompute.Click();
+  main.form.entry.txbDate.SetText(
+      "2024-01-21 CE 12:00");  // 82.8 %, waxing: the edge at 0.63 of the left
+  main.form.entry.cmdCompute.Click();
   QVERIFY(brightness(0.8) > 80);
   QVERIFY(brightness(-0.5) > 60);
   QVERIFY(brightness(-0.8) < 60);
-  main.form.txbDate.SetText("2024-01-11 CE 12:00");
-  main.form.cmdCompute.Click();
+  main.form.entry.txbDate.SetText("2024-01-11 CE 12:00");
+  main.form.entry.cmdCompute.Click();
   QVERIFY(brightness(0.8) < 60);
   QCOMPARE(main.view.size(), before);
 }
@@ -250,7 +251,7 @@ void MainWindowViewTest::noTextIsClipped() {
     main.view.resize(1, 1);
     QCoreApplication::processEvents();
     VerifyNothingIsClipped(main.view);
-    const auto& date = main.Find<QLineEdit>(main.form.txbDate);
+    const auto& date = main.Find<QLineEdit>(main.form.entry.txbDate);
     QVERIFY(date.fontMetrics().horizontalAdvance(date.placeholderText()) <
             date.width() - date.textMargins().left() - date.textMargins().right());
   }

@@ -32,22 +32,22 @@ void NavigationViewTest::moveIsMadeByKeyboard() {
   MainWindow main;
   QVERIFY(QTest::qWaitForWindowActive(&main.view));
   QTest::keyClick(&main.view, Qt::Key_B, Qt::AltModifier);
-  QTRY_VERIFY(main.Find<QWidget>(main.form.cmdMove).hasFocus());
+  QTRY_VERIFY(main.Find<QWidget>(main.form.move.cmdMove).hasFocus());
   QTest::keyClick(&main.view, Qt::Key_V, Qt::AltModifier);
-  QTRY_COMPARE(main.Find<QComboBox>(main.form.cboHistory).currentText(),
+  QTRY_COMPARE(main.Find<QComboBox>(main.form.history.cboHistory).currentText(),
                "2024-03-04 CE 12:34 (local = GMT)");
-  QCOMPARE(main.Find<QAbstractButton>(main.form.lblCommonEraDate[1]).text(),
+  QCOMPARE(main.Find<QAbstractButton>(main.form.dates.lblCommonEraDate[1]).text(),
            "2024-03-04 CE (Monday, March 4, 2024)");
 }
 
 void NavigationViewTest::searchShowsTheEclipse() {
   MainWindow main;
   QVERIFY(QTest::qWaitForWindowActive(&main.view));
-  auto& targets = main.Find<QComboBox>(main.form.cboTarget);
+  auto& targets = main.Find<QComboBox>(main.form.search.cboTarget);
   targets.setFocus();
   for (int i = 0; i < 3; ++i) QTest::keyClick(&targets, Qt::Key_Up);
   QCOMPARE(targets.currentText(), "Total lunar eclipse");
-  const auto& result = main.Find<QLabel>(main.form.lblActualEclipseData);
+  const auto& result = main.Find<QLabel>(main.form.search.lblActualEclipseData);
   QVERIFY(result.text().isEmpty());
   QTest::keyClick(&main.view, Qt::Key_S, Qt::AltModifier);
   QTRY_VERIFY(!result.text().isEmpty());
@@ -62,18 +62,19 @@ void NavigationViewTest::searchShowsTheEclipse() {
 void NavigationViewTest::runningMoveIsSteeredWhileItsFrameIsDisabled() {
   MainWindow main;
   frmMain& form = main.form;
-  form.fraStopPauseResume.SetVisible(true);
-  form.lblSearching.SetVisible(true);
-  form.fraMove.SetEnabled(false);
-  form.fraSearch.SetEnabled(false);
+  form.move.fraStopPauseResume.SetVisible(true);
+  form.search.lblSearching.SetVisible(true);
+  form.move.fraMove.SetEnabled(false);
+  form.search.fraSearch.SetEnabled(false);
   for (const Control* control : std::initializer_list<const Control*>{
-           &form.cboMoveStep, &form.optMoveDirection[0], &form.chkRepeatedly, &form.cmdMove,
-           &form.cboTarget, &form.optNext, &form.cmdSearch}) {
+           &form.move.cboMoveStep, &form.move.optMoveDirection[0], &form.move.chkRepeatedly,
+           &form.move.cmdMove, &form.search.cboTarget, &form.search.optNext,
+           &form.search.cmdSearch}) {
     QVERIFY2(!main.Find<QWidget>(*control).isEnabled(), control->Name().c_str());
   }
   for (const Control* control : std::initializer_list<const Control*>{
-           &form.cmdStop, &form.cmdPauseResume, &form.cboRefreshPeriod, &form.lblRefreshPeriod,
-           &form.lblSearching}) {
+           &form.move.cmdStop, &form.move.cmdPauseResume, &form.move.cboRefreshPeriod,
+           &form.move.lblRefreshPeriod, &form.search.lblSearching}) {
     const auto& widget = main.Find<QWidget>(*control);
     QVERIFY2(widget.isEnabled() && widget.isVisible(), control->Name().c_str());
   }
@@ -82,7 +83,7 @@ void NavigationViewTest::runningMoveIsSteeredWhileItsFrameIsDisabled() {
 void NavigationViewTest::longestTextsLeaveTheWindowAlone() {
   MainWindow main;
   QVERIFY(QTest::qWaitForWindowExposed(&main.view));
-  main.form.fraStopPauseResume.SetVisible(true);
+  main.form.move.fraStopPauseResume.SetVisible(true);
   QCoreApplication::processEvents();
   const QSize smallest = main.view.minimumSizeHint();
   const auto places = Places(main.view);
@@ -92,9 +93,9 @@ void NavigationViewTest::longestTextsLeaveTheWindowAlone() {
   QVERIFY(Places(main.view) == places);
   VerifyNothingIsClipped(main.view);
 
-  main.form.fraStopPauseResume.SetVisible(false);
-  main.form.lblSearching.SetVisible(false);
-  main.form.lblActualEclipseData.SetCaption("");
+  main.form.move.fraStopPauseResume.SetVisible(false);
+  main.form.search.lblSearching.SetVisible(false);
+  main.form.search.lblActualEclipseData.SetCaption("");
   QCoreApplication::processEvents();
   QCOMPARE(main.view.minimumSizeHint(), smallest);
   for (const auto& [name, place] : Places(main.view))

@@ -26,18 +26,18 @@ struct MainWindow {
 
   // Shows whatever can be shown, each at its longest.
   void FillWithLongestTexts() {
-    form.lblOstrelLWCDate[1].SetCaption(
+    form.dates.lblOstrelLWCDate[1].SetCaption(
         "9000-13-3-3 OLW (Daythree in Weekthree of De Quincy, 9000)");
-    form.lblAgeOfMoon[1].SetCaption("[-64316] 29 days, 23 hrs, 59 mins (100.0%)");
-    form.lblActualEclipseData.SetCaption(
+    form.moon.lblAgeOfMoon[1].SetCaption("[-64316] 29 days, 23 hrs, 59 mins (100.0%)");
+    form.search.lblActualEclipseData.SetCaption(
         "Total lunar eclipse\r\nLunation number = -64316\r\nSaros number = 100\r\n"
         "Penumbral phase starts 20:58 and lasts 6h 28m.\r\n"
         "Umbral phase starts 20:58 and lasts 3h 58m.\r\n"
         "Total phase starts 20:58 and lasts 1h 48m.\r\n");
-    form.cboHistory.AddItem("5003-10-2-1 OLW 09:55 (Greenwich; local = GMT+05:30)");
-    form.fraStopPauseResume.SetVisible(true);
-    form.cmdPauseResume.SetCaption("Resume");
-    form.lblSearching.SetVisible(true);
+    form.history.cboHistory.AddItem("5003-10-2-1 OLW 09:55 (Greenwich; local = GMT+05:30)");
+    form.move.fraStopPauseResume.SetVisible(true);
+    form.move.cmdPauseResume.SetCaption("Resume");
+    form.search.lblSearching.SetVisible(true);
     QCoreApplication::processEvents();
   }
 

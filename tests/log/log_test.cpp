@@ -74,9 +74,9 @@ class LogTest : public testing::Test {
  protected:
   LogTest() {
     form_.Load();
-    form_.log_window.txbText.SetText("begun\r\n");
+    form_.log.log_window.txbText.SetText("begun\r\n");
   }
-  const std::string& Text() { return form_.log_window.txbText.Text(); }
+  const std::string& Text() { return form_.log.log_window.txbText.Text(); }
 
   DriverDesktop desktop_{[](YieldMode) {}, TEST_PROGRAM_FOLDER};
   Screen screen_;
@@ -90,12 +90,13 @@ TEST_F(LogTest, CaptionThatCannotBeCutIsReportedAndWhatWasWrittenStays) {
     const char* ends_with;
   };
   for (const auto& [label, caption, ends_with] :
-       {Case{form_.lblKSGDate[1], "no date", "  KSG="}, Case{form_.lblKSGDate[1], "KSG", "  KSG="},
-        Case{form_.lblPhaseOfMoon[1], "Moon", ".0000  \r\n"}}) {
-    form_.log_window.ShowText("begun\r\n");
-    form_.cmdMove.Click();
+       {Case{form_.dates.lblKSGDate[1], "no date", "  KSG="},
+        Case{form_.dates.lblKSGDate[1], "KSG", "  KSG="},
+        Case{form_.moon.lblPhaseOfMoon[1], "Moon", ".0000  \r\n"}}) {
+    form_.log.log_window.ShowText("begun\r\n");
+    form_.move.cmdMove.Click();
     label.SetCaption(caption);
-    form_.cmdLogThisResult.Click();
+    form_.log.cmdLogThisResult.Click();
     const auto messages = desktop_.TakeMessages();
     ASSERT_EQ(messages.size(), 1U) << caption;
     EXPECT_EQ(messages[0].title, "Error when adding log entry.");
@@ -112,12 +113,12 @@ TEST_F(LogTest, FullLogIsClearedOnlyAfterTwoQuestions) {
   };
   using enum MessageAnswer;
   const std::string almost_full(999'990, 'x');  // not even room for what was done
-  form_.chkLog.SetValue(true);
+  form_.log.chkLog.SetValue(true);
   for (const auto& [answers, cleared] :
        {Case{{kNo}, false}, Case{{kYes, kCancel}, false}, Case{{kYes, kOk}, true}}) {
-    form_.log_window.ShowText(almost_full);
+    form_.log.log_window.ShowText(almost_full);
     for (const MessageAnswer answer : answers) desktop_.QueueAnswer(answer);
-    form_.cmdMove.Click();
+    form_.move.cmdMove.Click();
     const auto messages = desktop_.TakeMessages();
     ASSERT_EQ(messages.size(), answers.size());
     EXPECT_EQ(messages[0].text, "Log is full.  Clear log?");
@@ -131,11 +132,11 @@ TEST_F(LogTest, FullLogIsClearedOnlyAfterTwoQuestions) {
 
 TEST_F(LogTest, LogHoldsAMillionCharacters) {
   const auto log_same_result = [this] {
-    for (OptionButton& direction : form_.optMoveDirection) {
+    for (OptionButton& direction : form_.move.optMoveDirection) {
       direction.SetValue(true);
-      form_.cmdMove.Click();
+      form_.move.cmdMove.Click();
     }
-    form_.cmdLogThisResult.Click();
+    form_.log.cmdLogThisResult.Click();
   };
   const std::string begun = Text();
   log_same_result();
@@ -143,12 +144,12 @@ TEST_F(LogTest, LogHoldsAMillionCharacters) {
   ASSERT_GT(entry, 100U);
 
   const std::string fitting = "\xC3\xA9" + std::string(999'999 - entry, 'x');
-  form_.log_window.ShowText(fitting);
+  form_.log.log_window.ShowText(fitting);
   log_same_result();
   EXPECT_EQ(Text().size(), fitting.size() + entry);
   EXPECT_TRUE(desktop_.TakeMessages().empty());
 
-  form_.log_window.ShowText(fitting + "x");
+  form_.log.log_window.ShowText(fitting + "x");
   desktop_.QueueAnswer(MessageAnswer::kNo);
   log_same_result();
   EXPECT_EQ(desktop_.TakeMessages().size(), 1U);

@@ -41,10 +41,10 @@ TEST(Targets, PhasesFromEveryPhase) {
   for (const Row& row : rows) {
     SCOPED_TRACE(std::to_string(row.target) + " from phase " + std::to_string(row.phase));
     const PhaseNumber at{10, row.phase};
-    EXPECT_EQ(FindPhase(row.target, true, at, false), row.forward);
-    EXPECT_EQ(FindPhase(row.target, true, at, true), row.forward);
-    EXPECT_EQ(FindPhase(row.target, false, at, false), row.back);
-    EXPECT_EQ(FindPhase(row.target, false, at, true), row.back_from_instant);
+    EXPECT_EQ(FindPhase(row.target, true, {at, false}), row.forward);
+    EXPECT_EQ(FindPhase(row.target, true, {at, true}), row.forward);
+    EXPECT_EQ(FindPhase(row.target, false, {at, false}), row.back);
+    EXPECT_EQ(FindPhase(row.target, false, {at, true}), row.back_from_instant);
   }
 }
 

@@ -4,7 +4,7 @@
 #include "app/main_window.h"
 #include "controls/save_path.h"
 #include "controls/text_file.h"
-#include "state/state_record.h"
+#include "navigation/target.h"
 
 namespace tarnwick {
 namespace {
@@ -32,76 +32,77 @@ StateRecord TargetRecord(ComboBox& list) {
 
 // A move may have ended one step beyond the limits, where nothing can be taken up again.
 StateRecord frmMain::MomentRecord() {
-  return {[this] { return NumberRecord(std::clamp(dblMoment, kLowerLimit, kUpperLimit)); },
+  return {[this] { return NumberRecord(std::clamp(session_.Moment(), kLowerLimit, kUpperLimit).days); },
           [this](StateReader& reader) {
-            const auto moment = reader.ReadNumber();
-            if (!moment || *moment < kLowerLimit || *moment > kUpperLimit) return false;
-            dblMoment = *moment;
+            const auto ajd = reader.ReadNumber();
+            if (!ajd) return false;
+            const UniversalTime moment(*ajd);
+            if (moment < kLowerLimit || moment > kUpperLimit) return false;
+            session_.SetMoment(moment);
             return true;
           }};
 }
 
 StateRecord frmMain::CalendarRecord() {
-  return {[this] { return NumberRecord(static_cast<std::int16_t>(intCalendar)); },
+  return {[this] { return NumberRecord(static_cast<std::int16_t>(session_.CurrentCalendar())); },
           [this](StateReader& reader) {
-            const auto calendar = reader.ReadInteger();
-            if (!calendar || *calendar < 0 || *calendar >= kCalendarCount) return false;
-            intCalendar = static_cast<Calendar>(*calendar);
+            const auto index = reader.ReadInteger();
+            if (!index || *index < 0 || *index >= kCalendarCount) return false;
+            session_.SetCalendar(static_cast<Calendar>(*index));
             return true;
           }};
 }
 
 StateRecord frmMain::EclipseTextRecord() {
-  return {[this] { return TextRecord(lblActualEclipseData.Caption()); },
+  return {[this] { return TextRecord(session_.EclipseText()); },
           [this](StateReader& reader) {
             const auto text = reader.ReadText();
-            if (text) lblActualEclipseData.SetCaption(*text);
+            if (text) session_.SetEclipseText(*text);
             return text.has_value();
           }};
 }
 
 std::vector<StateRecord> frmMain::StateRecords() {
-  frmLogPreferences& log = log_preferences;
+  frmLogPreferences& preferences = log.log_preferences;
   return {
       MomentRecord(),
       CalendarRecord(),
-      RecordOf(optMoveDirection[0], optMoveDirection[1]),
-      RecordOf(optPlus, optMinus),
-      RecordOf(optNext, optPrevious),
-      RecordOf(optGreenwich, optLocal),
-      RecordOf(cboMoveStep),
-      TargetRecord(cboTarget),
-      RecordOf(cboTimeZone),
-      RecordOf(cboRefreshPeriod),
-      RecordOf(chkRepeatedly),
-      RecordOf(chkLog),
+      RecordOf(move.optMoveDirection[0], move.optMoveDirection[1]),
+      RecordOf(entry.optPlus, entry.optMinus),
+      RecordOf(search.optNext, search.optPrevious),
+      RecordOf(time.optGreenwich, time.optLocal),
+      RecordOf(move.cboMoveStep),
+      TargetRecord(search.cboTarget),
+      RecordOf(time.cboTimeZone),
+      RecordOf(move.cboRefreshPeriod),
+      RecordOf(move.chkRepeatedly),
+      RecordOf(log.chkLog),
       EclipseTextRecord(),
       MarkerRecord(),
-      RecordOf(log.optLogFormat[0], log.optLogFormat[1]),
-      RecordOf(log.chkIncludeCE),
-      RecordOf(log.chkIncludeJC),
-      RecordOf(log.chkIncludeARC),
-      RecordOf(log.chkIncludeSD),
-      RecordOf(log.chkIncludeLLT),
-      RecordOf(log.chkIncludeKSG),
-      RecordOf(log.chkIncludeCJD),
-      RecordOf(log.chkIncludeAJD),
-      RecordOf(log.chkIncludePhaseOfMoonAndIllumination),
-      RecordOf(log.chkIncludeLunationAndAgeOfMoon),
-      RecordOf(log.chkIncludeOLWC),
-      RecordOf(cboMonthCalendar),
+      RecordOf(preferences.optLogFormat[0], preferences.optLogFormat[1]),
+      RecordOf(preferences.chkIncludeCE),
+      RecordOf(preferences.chkIncludeJC),
+      RecordOf(preferences.chkIncludeARC),
+      RecordOf(preferences.chkIncludeSD),
+      RecordOf(preferences.chkIncludeLLT),
+      RecordOf(preferences.chkIncludeKSG),
+      RecordOf(preferences.chkIncludeCJD),
+      RecordOf(preferences.chkIncludeAJD),
+      RecordOf(preferences.chkIncludePhaseOfMoonAndIllumination),
+      RecordOf(preferences.chkIncludeLunationAndAgeOfMoon),
+      RecordOf(preferences.chkIncludeOLWC),
+      RecordOf(calendar.cboMonthCalendar),
   };
 }
 
 void frmMain::RestoreState() {
   state_file_ = desktop_.StateFile();
   if (!state_file_) return;
-  blnRestoring = true;
+  session_.blnRestoring = true;
   if (const auto text = ReadTextFile(*state_file_, kLargestFile)) {
     ReadState(StateRecords(), *text);
   }
-  blnRestoring = false;
-  intStoredOffset = TimeZoneOffsetMinutes();
+  session_.blnRestoring = false;
 }
 
 bool frmMain::SaveState() {
@@ -114,8 +115,9 @@ bool frmMain::SaveState() {
 
 void frmMain::cmdSaveState_Click() {
   if (!SaveState()) return;
-  RefreshFunctions();
-  cmdSaveState.SetEnabled(false);
+  blnSaved = true;
+  UpdateAvailability();
+  move.TakeFocus();
   notice.ShowOver(*this, "Saved");
 }
 

@@ -1,0 +1,88 @@
+#include "desktop/entry_view.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "desktop/bound_widgets.h"
+#include "desktop/look.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr Wording kWordings[] = {
+    {"txbDate", 0, "Date and time"},
+    {"optPlus", 'p', ""},
+    {"optMinus", 'm', ""},
+    {"txbPlusMinus", 0, "Days to add or subtract"},
+    {"lblDays", 'd', ""},
+    {"cmdCompute", 'C', ""},
+    {"cmdClearDate", 'l', ""},
+};
+
+constexpr char kLongestDayCount[] = "+9,999,999";
+
+QLineEdit* MakeLineEdit(QWidget* panel) {
+  auto* edit = new QLineEdit(panel);
+  const int margin = Spacing(*panel) / 2;
+  edit->setTextMargins(margin, margin / 4, margin, margin / 4);
+  return edit;
+}
+
+// The width of a line edit that shows all of a text.
+int EditWidth(const QLineEdit& edit, const QString& text) {
+  return edit.fontMetrics().horizontalAdvance(text) + 2 * edit.fontMetrics().height();
+}
+
+}  // namespace
+
+EntryView::EntryView(EntrySection& section, Binder& binder, QWidget* parent)
+    : Panel(Ground::kDark, parent), section_(section), binder_(binder) {
+  binder_.AddWordings(kWordings);
+  binder_.Bind(section_.fraConvert, *this);
+  Content().addLayout(MakeEntryRow());
+  commands_ = MakeCommandRow();
+  Content().addLayout(commands_);
+}
+
+QHBoxLayout* EntryView::MakeEntryRow() {
+  const int space = Spacing(*this);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(space);
+
+  QLineEdit* date = MakeLineEdit(this);
+  date->setPlaceholderText("date, e.g. 2003-12-31 CE 15:55");
+  date->setMinimumWidth(EditWidth(*date, date->placeholderText()));
+  binder_.Bind(section_.txbDate, *date);
+  row->addWidget(date, 1);
+  row->addSpacing(space);
+
+  QWidget* direction = MakeArea(2 * space, this);
+  AddOption(binder_, section_.optPlus, direction);
+  AddOption(binder_, section_.optMinus, direction);
+  row->addWidget(direction);
+
+  QLineEdit* days = MakeLineEdit(this);
+  days->setAlignment(Qt::AlignRight);
+  days->setFixedWidth(EditWidth(*days, kLongestDayCount));
+  binder_.Bind(section_.txbPlusMinus, *days);
+  row->addWidget(days);
+
+  auto* unit = new QLabel(this);
+  unit->setBuddy(days);
+  binder_.Bind(section_.lblDays, *unit);
+  row->addWidget(unit);
+  return row;
+}
+
+QHBoxLayout* EntryView::MakeCommandRow() {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(Spacing(*this));
+  row->addWidget(MakeButton(binder_, section_.cmdCompute, this));
+  row->addWidget(MakeButton(binder_, section_.cmdClearDate, this));
+  return row;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,41 @@
+#include "desktop/log_view.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "desktop/bound_widgets.h"
+#include "desktop/look.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr Wording kWordings[] = {
+    {"chkLog", 'a', ""},
+    {"cmdLogThisResult", 'h', ""},
+    {"cmdViewLog", 'w', ""},
+    {"cmdLogPreferences", 0, "", "Ctrl+P"},
+};
+
+}  // namespace
+
+LogView::LogView(LogSection& section, Binder& binder, QWidget* parent)
+    : Panel(Ground::kDark, parent) {
+  binder.AddWordings(kWordings);
+  SetTitle("Log");
+  auto* row = new QHBoxLayout;
+  row->setSpacing(Spacing(*this));
+  auto* all = new QCheckBox(this);
+  binder.Bind(section.chkLog, *all);
+  row->addWidget(all);
+  row->addStretch();
+  for (Button* button :
+       {&section.cmdLogThisResult, &section.cmdViewLog, &section.cmdLogPreferences}) {
+    row->addWidget(MakeButton(binder, *button, this));
+  }
+  Content().addLayout(row);
+  Content().addStretch();
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,131 @@
+#include "log/log_section.h"
+
+#include <utility>
+
+#include "controls/choice.h"
+#include "controls/product.h"
+#include "engines/checked_arithmetic.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kLogBelowLabel = 800;  // twips
+
+// The text of the log can take no more.
+struct LogFull {};
+
+}  // namespace
+
+LogSection::LogSection(Form& form, Screen& screen, Session& session, Desktop& desktop,
+                       DatesSection& dates, MoonSection& moon, frmNotice& notice)
+    : chkLog(form, "chkLog", "Log all results"),
+      cmdLogThisResult(form, "cmdLogThisResult", "Log this result"),
+      cmdViewLog(form, "cmdViewLog", "View log"),
+      cmdLogPreferences(form, "cmdLogPreferences", "Set log preferences"),
+      log_window(desktop, screen, notice),
+      log_preferences(screen),
+      form_(form),
+      session_(session),
+      desktop_(desktop),
+      dates_(dates),
+      moon_(moon) {
+  ShowChoice(chkLog);
+  chkLog.on_click = [this] { chkLog_Click(); };
+  cmdLogThisResult.on_click = [this] { cmdLogThisResult_Click(); };
+  cmdViewLog.on_click = [this] { cmdViewLog_Click(); };
+  cmdLogPreferences.on_click = [this] { cmdLogPreferences_Click(); };
+  log_window.txbText.Watch([this](Property changed) {
+    if (changed == Property::kText) UpdateAvailability();
+  });
+  log_window.on_discarded = [this] { DropPendingResult(); };
+  log_window.on_closed = log_preferences.on_closed = [this] { session_.hooks.focus_on_move(); };
+}
+
+void LogSection::SetDefaults() { chkLog.SetValue(false); }
+
+void LogSection::UpdateAvailability() {
+  const bool idle = session_.IsIdle();
+  SetEnabled({&chkLog, &cmdLogPreferences}, idle);
+  cmdLogThisResult.SetEnabled(idle && pending_);
+  cmdViewLog.SetEnabled(idle && !log_window.IsEmpty());
+}
+
+void LogSection::DropPendingResult() {
+  pending_.reset();
+  UpdateAvailability();
+}
+
+void LogSection::AddLogEntry(const Logged& result) {
+  DropPendingResult();
+  if (result.result.empty()) return;
+  if (chkLog.Value()) {
+    WriteToLog(LogEntryFor(result));
+  } else {
+    pending_ = result;
+    UpdateAvailability();
+  }
+}
+
+LogEntry LogSection::LogEntryFor(const Logged& result) {
+  LogEntry entry{
+      result.result, result.operation, result.description, log_preferences.Layout(), {}, {}, {}};
+  for (const Calendar calendar : kDisplayOrder) {
+    // The result is a date in the current calendar already.
+    if (calendar == session_.CurrentCalendar()) continue;
+    if (!log_preferences.IncludeOf(calendar).Value()) continue;
+    entry.dates.push_back({calendar, dates_.LabelOf(calendar)[1].Caption()});
+  }
+  if (log_preferences.chkIncludePhaseOfMoonAndIllumination.Value()) {
+    entry.phase = moon_.lblPhaseOfMoon[1].Caption();
+  }
+  if (log_preferences.chkIncludeLunationAndAgeOfMoon.Value()) {
+    entry.age = moon_.lblAgeOfMoon[1].Caption();
+  }
+  return entry;
+}
+
+// What was written before an error stays in the log.
+void LogSection::WriteToLog(const LogEntry& entry) {
+  log_window.Load();
+  std::string text = log_window.txbText.Text();
+  const auto append = [&text](std::string_view piece) {
+    text += piece;
+    if (!frmLog::IsTooLong(text)) return;
+    text.resize(text.size() - piece.size());
+    throw LogFull();
+  };
+  try {
+    if (text.empty()) append(std::string(kProgramTitle) + "\r\n" + kWebPage + "\r\n\r\n");
+    WriteLogEntry(entry, append);
+    log_window.ShowText(text);
+  } catch (const LogFull&) {
+    log_window.ShowText(text);
+    const Message question{"Log is full.  Clear log?", "", MessageIcon::kQuestion,
+                           MessageButtons::kYesNo};
+    if (desktop_.ShowMessage(question) == MessageAnswer::kYes) log_window.cmdClear_Click();
+  } catch (const RuntimeError& error) {
+    log_window.ShowText(text);
+    desktop_.ShowMessage({error.what(), "Error when adding log entry.", MessageIcon::kExclamation});
+  }
+}
+
+void LogSection::chkLog_Click() { ShowChoice(chkLog); }
+
+void LogSection::cmdLogThisResult_Click() {
+  if (!pending_) return;
+  const LogEntry entry = LogEntryFor(*pending_);
+  DropPendingResult();
+  WriteToLog(entry);
+}
+
+void LogSection::cmdViewLog_Click() {
+  Rectangle place = log_window.Bounds();
+  place.left = form_.Bounds().left;
+  place.top = form_.Bounds().top + dates_.lblOstrelLWCDate[1].Bounds().top + kLogBelowLabel;
+  log_window.SetBounds(place);
+  log_window.Show();
+}
+
+void LogSection::cmdLogPreferences_Click() { log_preferences.Show(); }
+
+}  // namespace tarnwick

@@ -1,0 +1,70 @@
+// Convert: the entry of a moment, and the days to add to it or subtract from it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "controls/controls.h"
+#include "controls/desktop.h"
+#include "controls/form.h"
+#include "moment/session.h"
+
+namespace tarnwick {
+
+class EntrySection {
+ public:
+  EntrySection(Form& form, Session& session, Desktop& desktop);
+
+  Frame fraConvert;
+  TextBox txbDate{fraConvert, "txbDate"};
+  OptionGroup grpPlusMinus;
+  OptionButton optPlus{fraConvert, "optPlus", grpPlusMinus, "plus"};
+  OptionButton optMinus{fraConvert, "optMinus", grpPlusMinus, "minus"};
+  TextBox txbPlusMinus{fraConvert, "txbPlusMinus"};
+  Label lblDays{fraConvert, "lblDays", "days"};
+  Button cmdCompute{fraConvert, "cmdCompute", "Compute"};
+  Button cmdClearDate{fraConvert, "cmdClearDate", "Clear"};
+
+  void SetDefaults();
+  void UpdateAvailability();
+  // To the date box, its caret at the end; nothing where the user could not go either.
+  void TakeFocus();
+  // Empties both boxes.
+  void ClearTexts();
+
+  // Copies the moment to the date box, in the current calendar.
+  void CopyDateToEntryBox();
+  // Copies it again if the box still holds what was last copied there.
+  void RenewCopiedDate();
+  // Writes the time of day behind the date that stands in the box, in place of one that is there.
+  void CopyTimeToEntryBox();
+
+  // Reads an entry. On success the code is 0, `moment` the moment and the calendar of the entry the
+  // current one; else `moment` stays as it was.
+  void ParseDateEntry(const std::string& text, std::int16_t& error_code, UniversalTime& moment);
+  // Makes a moment typed into the date box the current one; false if it is refused, which the user
+  // has been told.
+  bool TakeUpTypedMoment(bool within_range);
+  // Shows a moment that the user has named, and makes the entries in history and log.
+  void TakeMoment(UniversalTime moment, const std::string& operation);
+  // Whether the moment lies outside the accepted range, after telling the user.
+  bool DateOutOfRange(UniversalTime moment);
+
+ private:
+  void cmdCompute_Click();
+  void cmdClearDate_Click();
+  void txbDate_KeyPress(int& key);
+  void txbPlusMinus_KeyPress(int& key);
+  void txbDate_LostFocus();
+  void optPlus_Click();
+  void optMinus_Click();
+  void ReportDateEntryError(std::int16_t code);
+  std::string ConvertOperation(const std::string& days) const;
+
+  Form& form_;
+  Session& session_;
+  Desktop& desktop_;
+  std::string strCopiedEntry;  // what was last copied to the date box
+};
+
+}  // namespace tarnwick

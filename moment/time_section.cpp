@@ -1,0 +1,65 @@
+#include "moment/time_section.h"
+
+#include "controls/choice.h"
+#include "engines/time_units.h"
+#include "moment/time_zone.h"
+
+namespace tarnwick {
+
+TimeSection::TimeSection(EntrySection& entry, Session& session)
+    : lblTimeSystem(entry.fraConvert, "lblTimeSystem", "Time system"),
+      optGreenwich(entry.fraConvert, "optGreenwich", grpTimeSystem, "Greenwich"),
+      optLocal(entry.fraConvert, "optLocal", grpTimeSystem, "local"),
+      lblTimeZone(entry.fraConvert, "lblTimeZone", "Time zone"),
+      cboTimeZone(entry.fraConvert, "cboTimeZone"),
+      entry_(entry),
+      session_(session) {
+  for (int i = 0; i < kTimeZoneCount; ++i) cboTimeZone.AddItem(TimeZoneText(i));
+  cboTimeZone.SetListIndex(kGmtTimeZone);
+  SetDefaults();
+  ShowChoice(optLocal, optGreenwich);
+  optGreenwich.on_click = [this] { optGreenwich_Click(); };
+  optLocal.on_click = [this] { optLocal_Click(); };
+  cboTimeZone.on_click = [this] { cboTimeZone_Click(); };
+}
+
+void TimeSection::SetDefaults() { optLocal.SetValue(true); }
+
+// Common to both time systems: the moment stays, only its reading changes.
+void TimeSection::ShowTimeSystem() {
+  session_.SetGreenwich(optGreenwich.Value());
+  if (session_.blnRestoringHistory) return;
+  session_.hooks.show_moment();
+  entry_.RenewCopiedDate();
+  session_.hooks.focus_on_date();
+}
+
+void TimeSection::optGreenwich_Click() {
+  ShowChoice(optGreenwich, optLocal);
+  ShowTimeSystem();
+}
+
+void TimeSection::optLocal_Click() {
+  ShowChoice(optLocal, optGreenwich);
+  ShowTimeSystem();
+}
+
+// Keeps the local date and time on display, so that the moment itself moves.
+void TimeSection::cboTimeZone_Click() {
+  session_.SetZoneOffset(TimeZoneOffset(cboTimeZone.Text()));
+  if (cboTimeZone.ListIndex() < 0 || session_.blnRestoring) return;
+  session_.SetEclipseText("");
+  const int change = intStoredOffset - session_.ZoneOffset();
+  session_.SetMoment(session_.Moment() + static_cast<double>(change) / kMinutesPerDay);
+  StoreOffset();
+  const std::string summary = session_.hooks.show_moment();
+  entry_.RenewCopiedDate();
+  if (!session_.blnRestoringHistory) {
+    Outcome outcome{summary, "Timezone changed."};
+    outcome.only_if_new = true;
+    session_.hooks.finish(outcome);
+  }
+  session_.hooks.focus_on_date();
+}
+
+}  // namespace tarnwick

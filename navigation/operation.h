@@ -1,0 +1,28 @@
+// What moves, searches and recalls have in common.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "controls/desktop.h"
+#include "engines/phase_engine.h"
+#include "moment/session.h"
+#include "navigation/target.h"
+
+namespace tarnwick {
+
+// Carries out an operation on the current moment. If a number overflows in it, the moment becomes
+// what it was before and is shown, and the user is told, under `title`.
+void CarryOut(Session& session, Desktop& desktop, const std::string& title,
+              const std::function<void()>& operation);
+
+// The lunation and phase of a moment; nothing, after telling the user that it happened in
+// `routine`, if the phase engine's answers do not fit together.
+std::optional<MomentPhase> PhaseOf(UniversalTime moment, Desktop& desktop,
+                                   const std::string& routine);
+
+// Puts an eclipse on display; returns its description in one line, for the log.
+std::string DescribeEclipse(Session& session, const EclipseRecord& record);
+
+}  // namespace tarnwick

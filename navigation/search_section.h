@@ -1,0 +1,62 @@
+// Search: the moment goes to the next or previous phase, eclipse or coincidence of calendars. The
+// eclipse that is on display stands beside it, in words.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "controls/controls.h"
+#include "controls/desktop.h"
+#include "controls/form.h"
+#include "moment/entry_section.h"
+#include "moment/session.h"
+#include "navigation/target.h"
+
+namespace tarnwick {
+
+class SearchSection {
+ public:
+  SearchSection(Form& form, Session& session, Desktop& desktop, EntrySection& entry);
+
+  Frame fraSearch;
+  ComboBox cboTarget{fraSearch, "cboTarget"};
+  OptionGroup grpNextPrevious;
+  OptionButton optNext{fraSearch, "optNext", grpNextPrevious, "next"};
+  OptionButton optPrevious{fraSearch, "optPrevious", grpNextPrevious, "previous"};
+  Button cmdSearch{fraSearch, "cmdSearch", "Search"};
+  Label lblSearching;          // shown during a long search
+  Label lblActualEclipseData;  // the eclipse on display
+
+  void SetDefaults();
+  void UpdateAvailability();
+  // There is no eclipse on display to take the series of: any eclipse takes its place.
+  void LeaveSameSaros();
+  // A running search gives up.
+  void GiveUp() { blnSearching = false; }
+  void ShowEclipseText() { lblActualEclipseData.SetCaption(session_.EclipseText()); }
+
+ private:
+  struct Result;
+
+  void cmdSearch_Click();
+  void optNext_Click();
+  void optPrevious_Click();
+  void Search(int target);
+  std::optional<Result> Find(int target, const MomentPhase& at, const std::string& shown_eclipse);
+  std::optional<Result> FindPhaseTarget(int target, const MomentPhase& at);
+  std::optional<Result> FindEclipseTarget(int target, const MomentPhase& at);
+  std::optional<Result> FindSameSaros(const std::string& shown_eclipse);
+  std::optional<Result> TakeEclipse(const std::optional<FoundEclipse>& found);
+  std::optional<Result> FindCoincidenceTarget();
+  void TakeResult(const Result& result, const std::string& operation);
+  bool KeepSearching();
+  std::string SearchOperation(int target) const;
+
+  Form& form_;
+  Session& session_;
+  Desktop& desktop_;
+  EntrySection& entry_;
+  bool blnSearching = false;  // a search is to go on
+};
+
+}  // namespace tarnwick
