@@ -91,8 +91,8 @@ bool DateCanBeRead(DateRecord record) {
 
 std::int64_t MinutesOf(const std::tm& time) {
   const CivilDate date{std::int64_t{time.tm_year} + 1900, time.tm_mon + 1, time.tm_mday};
-  return DayNumber(kGregorian, date) * kMinutesPerDay + time.tm_hour * kMinutesPerHour +
-         time.tm_min;
+  return DayNumber(kGregorian, date) * kMinutesPerDay +
+         std::int64_t{time.tm_hour} * kMinutesPerHour + time.tm_min;
 }
 
 }  // namespace

@@ -19,7 +19,8 @@ struct Instant {
   constexpr Instant() = default;
   constexpr explicit Instant(double julian_date) : days(julian_date) {}
 
-  friend constexpr auto operator<=>(const Instant&, const Instant&) = default;
+  friend constexpr bool operator==(const Instant&, const Instant&) = default;
+  friend constexpr auto operator<=>(Instant a, Instant b) { return a.days <=> b.days; }
   friend constexpr double operator-(Instant a, Instant b) { return a.days - b.days; }
   friend constexpr Instant operator+(Instant a, double days) { return Instant(a.days + days); }
   friend constexpr Instant operator-(Instant a, double days) { return Instant(a.days - days); }
@@ -40,7 +41,8 @@ struct DayNumber {
   constexpr DayNumber() = default;
   constexpr explicit DayNumber(std::int32_t number) : value(number) {}
 
-  friend constexpr auto operator<=>(const DayNumber&, const DayNumber&) = default;
+  friend constexpr bool operator==(const DayNumber&, const DayNumber&) = default;
+  friend constexpr auto operator<=>(DayNumber a, DayNumber b) { return a.value <=> b.value; }
   friend constexpr std::int32_t operator-(DayNumber a, DayNumber b) { return a.value - b.value; }
   friend constexpr DayNumber operator+(DayNumber a, std::int32_t days) {
     return DayNumber(a.value + days);

@@ -1,10 +1,9 @@
 // Lunations and the principal phases of the Moon in the program's own time scale.
 //
 // A lunation runs from its new moon (inclusive) to the next (exclusive); lunation 0 begins with the
-// new moon of 2000 January 6 (Meeus, Astronomical Algorithms, 2nd ed., ch. 49). Phases: 0 new moon,
-// 1 first quarter, 2 full moon, 3 last quarter. Delta T, Terrestrial less Universal Time, is in
-// minutes and constant within a Gregorian year.
-// A moment or lunation whose number does not fit 32 bits throws RuntimeError.
+// new moon of 2000 January 6 (Meeus, Astronomical Algorithms, 2nd ed., ch. 49). Phases are named by
+// the indexes of engines/phases.h. A moment or lunation whose number does not fit 32 bits throws
+// RuntimeError.
 #pragma once
 
 #include <cstdint>
@@ -18,7 +17,8 @@ namespace tarnwick {
 inline constexpr double SynodicMonth = 29.5305888531;  // mean length of a lunation, days
 UniversalTime LunationBase();                          // new moon of lunation 0
 
-// Of the Gregorian year at Greenwich that holds the instant, in its own scale.
+// Delta T, Terrestrial less Universal Time, in minutes. It is constant within a Gregorian year:
+// that of the instant, as its own scale counts.
 double DeltaTForYear(std::int32_t year);
 double DeltaT(TerrestrialTime instant);
 double DeltaT(UniversalTime instant);
