@@ -79,18 +79,20 @@ void ExpectCell(const std::string& cell, const std::string& expected) {
 }
 
 // By the reference that the engine is tested against; delta T was 69.1 s.
+constexpr char kEclipsesOf2018[] =
+    R"(lunation,phase,type,saros,tt,ut,gamma,magnitude,penumbral_magnitude,penumbral,umbral,total
+223,2,10,124,2458150.0631950,2458150.0623952,-0.30141,1.31546,2.29414,158.641,101.376,38.037
+224,0,1,150,2458165.3698290,2458165.3690292,-1.21163,0.59910,,,,
+229,0,1,117,2458312.6265750,2458312.6257752,-1.35423,0.33652,,,,
+229,2,10,129,2458327.3492400,2458327.3484402,0.11680,1.60868,2.67922,186.936,117.279,51.476
+230,0,1,155,2458341.9079620,2458341.9071622,1.14758,0.73676,,,,
+)";
+
 TEST(Tables, HoldTheEclipsesOfAYear) {
-  const char* const rows[] = {
-      "lunation,phase,type,saros,tt,ut,gamma,magnitude,penumbral_magnitude,penumbral,umbral,total",
-      "223,2,10,124,2458150.0631950,2458150.0623952,-0.30141,1.31546,2.29414,158.641,101.376,38."
-      "037",
-      "224,0,1,150,2458165.3698290,2458165.3690292,-1.21163,0.59910,,,,",
-      "229,0,1,117,2458312.6265750,2458312.6257752,-1.35423,0.33652,,,,",
-      "229,2,10,129,2458327.3492400,2458327.3484402,0.11680,1.60868,2.67922,186.936,117.279,51.476",
-      "230,0,1,155,2458341.9079620,2458341.9071622,1.14758,0.73676,,,,"};
   std::istringstream lines(Print({"eclipses", "2018", "2019"}));
+  std::istringstream rows(kEclipsesOf2018);
   std::string line;
-  for (const char* const row : rows) {
+  for (std::string row; std::getline(rows, row);) {
     ASSERT_TRUE(std::getline(lines, line));
     const std::vector<std::string> cells = SplitCells(line);
     const std::vector<std::string> expected = SplitCells(row);
