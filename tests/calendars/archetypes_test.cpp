@@ -77,6 +77,7 @@ TEST(Archetypes, StepsByTheRulesOfTheYearBefore) {
   };
   for (const Step& step : {Step{{4701, 12, 5}, StepARCMonth, true, "4702-01-05 ARC"},
                            {{4702, 12, 5}, StepARCMonth, true, "4702-13-05 ARC"},
+                           {{4703, 1, 30}, StepARCMonth, false, "4702-13-30 ARC"},
                            {{4702, 13, 30}, StepARCYear, true, "4703-12-29 ARC"},
                            {{4703, 13, 30}, StepARCYear, false, "4702-13-30 ARC"},
                            {{4704, 10, 30}, StepARCYear, true, "4705-10-30 ARC"},
