@@ -1,8 +1,10 @@
 #include "desktop/bound_widgets.h"
 
-#include <QLayout>
+#include <QHBoxLayout>
 #include <QPushButton>
 #include <QRadioButton>
+
+#include "desktop/panel.h"
 
 namespace tarnwick {
 
@@ -16,9 +18,9 @@ QPushButton* MakeButton(Binder& binder, Button& button, QWidget* parent) {
   return push;
 }
 
-void AddOption(Binder& binder, OptionButton& option, QWidget* group) {
-  auto* radio = new QRadioButton(group);
-  group->layout()->addWidget(radio);
+void AddOption(Binder& binder, OptionButton& option, Area& group) {
+  auto* radio = new QRadioButton(&group);
+  group.Row().addWidget(radio);
   binder.Bind(option, *radio);
 }
 

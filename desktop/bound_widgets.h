@@ -9,10 +9,12 @@ class QWidget;
 
 namespace tarnwick {
 
+class Area;
+
 // A command, in bold. The Enter key belongs to what has the focus, never to a button elsewhere.
 QPushButton* MakeButton(Binder& binder, Button& button, QWidget* parent);
 
-// Adds an option button to the layout of its group's widget.
-void AddOption(Binder& binder, OptionButton& option, QWidget* group);
+// Adds an option button to the row of its group.
+void AddOption(Binder& binder, OptionButton& option, Area& group);
 
 }  // namespace tarnwick

@@ -59,9 +59,9 @@ QHBoxLayout* EntryView::MakeEntryRow() {
   row->addWidget(date, 1);
   row->addSpacing(space);
 
-  QWidget* direction = MakeArea(2 * space, this);
-  AddOption(binder_, section_.optPlus, direction);
-  AddOption(binder_, section_.optMinus, direction);
+  auto* direction = new Area(2 * space, this);
+  AddOption(binder_, section_.optPlus, *direction);
+  AddOption(binder_, section_.optMinus, *direction);
   row->addWidget(direction);
 
   QLineEdit* days = MakeLineEdit(this);

@@ -61,8 +61,8 @@ QWidget* LogPreferencesView::MakeFormatPanel() {
   auto* panel = new Panel(Panel::Ground::kDark, this);
   binder_.Bind(form_.lblFormat, panel->Title());
   auto* layouts = new Area(3 * Spacing(*this), panel);
-  AddOption(binder_, form_.optLogFormat[0], layouts);
-  AddOption(binder_, form_.optLogFormat[1], layouts);
+  AddOption(binder_, form_.optLogFormat[0], *layouts);
+  AddOption(binder_, form_.optLogFormat[1], *layouts);
   panel->Content().addWidget(layouts, 0, Qt::AlignLeft);
   return panel;
 }

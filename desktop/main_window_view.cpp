@@ -83,7 +83,7 @@ QWidget* MainWindowView::MakeEntry() {
 }
 
 QWidget* MainWindowView::MakeButtons() {
-  Area* area = MakeArea(Spacing(*this), this);
+  auto* area = new Area(Spacing(*this), this);
   QHBoxLayout& row = area->Row();
   row.addWidget(MakeButton(binder_, form_.cmdReset, area));
   row.addWidget(MakeButton(binder_, form_.cmdSaveState, area));

@@ -69,23 +69,23 @@ QWidget* MoveView::MakeFrame() {
   binder_.Bind(section_.chkRepeatedly, *repeatedly);
   rows->addWidget(repeatedly, 0, 1);
 
-  QWidget* direction = MakeArea(2 * space, frame);
+  auto* direction = new Area(2 * space, frame);
   binder_.Bind(section_.fraMoveDirection, *direction);
-  AddOption(binder_, section_.optMoveDirection[0], direction);
-  AddOption(binder_, section_.optMoveDirection[1], direction);
+  AddOption(binder_, section_.optMoveDirection[0], *direction);
+  AddOption(binder_, section_.optMoveDirection[1], *direction);
   rows->addWidget(direction, 1, 0, Qt::AlignLeft);
   rows->addWidget(MakeButton(binder_, section_.cmdMove, frame), 1, 1);
   return frame;
 }
 
 QWidget* MoveView::MakeStepList(QWidget* frame) {
-  QWidget* area = MakeArea(0, frame);
+  auto* area = new Area(0, frame);
   binder_.Bind(section_.fraMoveStep, *area);
   auto* steps = new QComboBox(area);
   ReserveWidth(*steps, kLongestStep);
   steps->setMaxVisibleItems(kVisibleSteps);
   binder_.Bind(section_.cboMoveStep, *steps);
-  area->layout()->addWidget(steps);
+  area->Row().addWidget(steps);
   return area;
 }
 
@@ -106,14 +106,14 @@ QHBoxLayout* MoveView::MakePeriodRow() {
 }
 
 QWidget* MoveView::MakeSteering() {
-  QWidget* area = MakeArea(Spacing(*this), this);
+  auto* area = new Area(Spacing(*this), this);
   KeepRoomWhenHidden(*area);
   binder_.Bind(section_.fraStopPauseResume, *area);
-  area->layout()->addWidget(MakeButton(binder_, section_.cmdStop, area));
+  area->Row().addWidget(MakeButton(binder_, section_.cmdStop, area));
 
   QPushButton* pause = MakeButton(binder_, section_.cmdPauseResume, area);
   pause->setMinimumWidth(WidthWith(*pause, "Resume"));
-  area->layout()->addWidget(pause);
+  area->Row().addWidget(pause);
   return area;
 }
 

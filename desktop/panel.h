@@ -43,6 +43,4 @@ class Area : public QWidget {
   QHBoxLayout* row_;
 };
 
-inline Area* MakeArea(int spacing, QWidget* parent) { return new Area(spacing, parent); }
-
 }  // namespace tarnwick

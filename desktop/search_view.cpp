@@ -62,9 +62,9 @@ QWidget* SearchView::MakeFrame() {
 
   auto* command = new QHBoxLayout;
   command->setSpacing(space);
-  QWidget* direction = MakeArea(2 * space, frame);
-  AddOption(binder_, section_.optNext, direction);
-  AddOption(binder_, section_.optPrevious, direction);
+  auto* direction = new Area(2 * space, frame);
+  AddOption(binder_, section_.optNext, *direction);
+  AddOption(binder_, section_.optPrevious, *direction);
   command->addWidget(direction);
   command->addStretch();
   command->addWidget(MakeButton(binder_, section_.cmdSearch, frame));

@@ -34,9 +34,9 @@ void TimeView::AddTimeSystem() {
   binder_.Bind(section_.lblTimeSystem, *caption);
   SetTextColor(*caption, Look::kCaption);
   Row().addWidget(caption);
-  QWidget* system = MakeArea(2 * Spacing(*this), this);
-  AddOption(binder_, section_.optGreenwich, system);
-  AddOption(binder_, section_.optLocal, system);
+  auto* system = new Area(2 * Spacing(*this), this);
+  AddOption(binder_, section_.optGreenwich, *system);
+  AddOption(binder_, section_.optLocal, *system);
   Row().addWidget(system);
 }
 
