@@ -32,15 +32,16 @@ StateRecord TargetRecord(ComboBox& list) {
 
 // A move may have ended one step beyond the limits, where nothing can be taken up again.
 StateRecord frmMain::MomentRecord() {
-  return {[this] { return NumberRecord(std::clamp(session_.Moment(), kLowerLimit, kUpperLimit).days); },
-          [this](StateReader& reader) {
-            const auto ajd = reader.ReadNumber();
-            if (!ajd) return false;
-            const UniversalTime moment(*ajd);
-            if (moment < kLowerLimit || moment > kUpperLimit) return false;
-            session_.SetMoment(moment);
-            return true;
-          }};
+  return {
+      [this] { return NumberRecord(std::clamp(session_.Moment(), kLowerLimit, kUpperLimit).days); },
+      [this](StateReader& reader) {
+        const auto ajd = reader.ReadNumber();
+        if (!ajd) return false;
+        const UniversalTime moment(*ajd);
+        if (moment < kLowerLimit || moment > kUpperLimit) return false;
+        session_.SetMoment(moment);
+        return true;
+      }};
 }
 
 StateRecord frmMain::CalendarRecord() {
