@@ -1,6 +1,7 @@
 #!/bin/bash
-# Checks the form of the C++ sources with clang-format, then their sense with clang-tidy.
-# usage: scripts/check.sh [--format]     --format: clang-format only
+# Checks that no folder uses one above it, the form of the C++ sources with clang-format, then their
+# sense with clang-tidy.
+# usage: scripts/check.sh [--format]     --format: without clang-tidy, which takes long
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -10,6 +11,7 @@ if (($# > 1)) || [[ ${1:-} != @(|--format) ]]; then
 fi
 
 scripts/packages.sh check
+git ls-files -z '*.h' '*.cpp' '*.inc' '*CMakeLists.txt' | xargs -0rx scripts/layers.awk
 git ls-files -z '*.h' '*.cpp' | xargs -0r clang-format --dry-run -Werror
 [[ ${1:-} == --format ]] && exit
 
