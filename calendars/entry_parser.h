@@ -1,3 +1,4 @@
+// The reading of what the user types: a date in any of the calendars, and a time.
 #pragma once
 
 #include <cstdint>

@@ -1,3 +1,4 @@
+// The windows of the help and of the credits.
 #pragma once
 
 #include "controls/closable_form.h"

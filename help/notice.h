@@ -1,3 +1,4 @@
+// A short notice, such as "Saved", that goes by itself or on a click and never takes the focus.
 #pragma once
 
 #include <string>
@@ -7,7 +8,6 @@
 
 namespace tarnwick {
 
-// A short notice, such as "Saved", that goes by itself or on a click and never takes the focus.
 class frmNotice final : public Form {
  public:
   explicit frmNotice(Screen& screen);

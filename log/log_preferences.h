@@ -1,3 +1,4 @@
+// The window in which the user chooses what the entries of the log hold, and how.
 #pragma once
 
 #include <array>
@@ -10,7 +11,6 @@
 
 namespace tarnwick {
 
-// What the entries of the log hold, and how.
 class frmLogPreferences final : public ClosableForm {
  public:
   explicit frmLogPreferences(Screen& screen);

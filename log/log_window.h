@@ -1,3 +1,5 @@
+// The log: plain text that the program writes and the user may edit. Its text box is the only place
+// where it is kept.
 #pragma once
 
 #include <string>
@@ -9,8 +11,6 @@
 
 namespace tarnwick {
 
-// The log: plain text that the program writes and the user may edit. Its text box is the only place
-// where it is kept.
 class frmLog final : public ClosableForm {
  public:
   frmLog(Desktop& desktop, Screen& screen, frmNotice& notice);

@@ -1,3 +1,5 @@
+// The window of the lunation calendar: one lunation as a page that can be leafed through, clicked
+// and saved as a picture.
 #pragma once
 
 #include <array>
@@ -15,7 +17,6 @@
 
 namespace tarnwick {
 
-// One lunation as a calendar page.
 class frmCalendar final : public ClosableForm {
  public:
   frmCalendar(Desktop& desktop, Screen& screen, Session& session, PictureFiles& pictures,

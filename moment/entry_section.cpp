@@ -194,7 +194,7 @@ void EntrySection::ReportDateEntryError(std::int16_t code) {
 bool EntrySection::DateOutOfRange(UniversalTime moment) {
   const bool late = moment > kUpperLimit;
   if (moment >= kLowerLimit && !late) return false;
-  // The texts are given, with their spelling.
+  // The spelling belongs to the text.
   desktop_.ShowMessage({late ? "Resulting date is later than 6000-01-01 CE."
                              : "Resultng date is earlier than -3200-01-01 CE.",
                         "Date out of range", MessageIcon::kExclamation});

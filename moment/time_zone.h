@@ -1,3 +1,4 @@
+// The time zones of the list: every half hour from GMT - 12:00 to GMT + 12:00.
 #pragma once
 
 #include <cstdint>
@@ -6,7 +7,6 @@
 
 namespace tarnwick {
 
-// The time zones run from GMT - 12:00 to GMT + 12:00 in half hours.
 inline constexpr int kTimeZoneCount = 49;
 inline constexpr int kGmtTimeZone = 24;
 

@@ -17,8 +17,8 @@ struct MoonData {
   bool waxing = false;
 };
 
-// The Moon at a moment. From 1600 to 2099 the illuminated fraction comes from
-// the longitudes of Moon and Sun, else from the instants of the principal phases around the moment.
+// The Moon at a moment. From 1600 to 2099 the illuminated fraction comes from the longitudes of
+// Moon and Sun, else from the instants of the principal phases around the moment.
 MoonData MoonDataAt(UniversalTime moment);
 
 // The illuminated fraction by either way. `lunation` and `phase` are those of the moment.

@@ -1,3 +1,5 @@
+// The saved state as a list of records, each of which knows how it is written and how it is taken
+// up again.
 #pragma once
 
 #include <functional>
@@ -10,7 +12,6 @@
 
 namespace tarnwick {
 
-// One record of the state file and what it keeps.
 struct StateRecord {
   // As it stands in the file.
   std::function<std::string()> write;

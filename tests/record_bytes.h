@@ -1,3 +1,4 @@
+// All bytes of a record, unused ones too, for comparison.
 #pragma once
 
 #include <array>
@@ -8,7 +9,6 @@
 
 namespace tarnwick {
 
-// All bytes of a record, unused ones too, for comparison.
 inline std::array<std::byte, sizeof(EclipseRecord)> BytesOf(const EclipseRecord& record) {
   return std::bit_cast<std::array<std::byte, sizeof(EclipseRecord)>>(record);
 }

@@ -29,8 +29,8 @@ inline std::vector<std::string> SplitCells(const std::string& line) {
 }
 
 // The rows of a CSV file whose first line, after comments that begin with "#", names the columns.
-// Throws when a row has another number
-// of cells, or when there is no row, so that no test passes for want of data.
+// Throws when a row has another number of cells, or when there is no row, so that no test passes
+// for want of data.
 inline std::vector<ReferenceRow> ReadReferenceData(const std::string& file_name) {
   std::ifstream file(std::string(TEST_DATA "/") + file_name);
   std::string line;

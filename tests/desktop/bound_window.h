@@ -1,3 +1,4 @@
+// A window of widgets bound to the controls of a form, for the tests of the binder.
 #pragma once
 
 #include <QTest>

@@ -1,3 +1,4 @@
+// The whole main window on the screen, for the tests of its views.
 #pragma once
 
 #include <QAbstractButton>

@@ -84,7 +84,7 @@ TEST(Syzyg, IsWithinASecondOfTheEphemerisOver9200Years) {
   }
   errors.Print("phase instants", "seconds");
   EXPECT_EQ(errors.Count(), 2000U);
-  EXPECT_LT(errors.Largest(), 1.05);
+  EXPECT_LT(errors.Largest(), 1.0);
   EXPECT_LT(errors.Rms(), 0.2);
   EXPECT_LT(std::fabs(errors.Mean()), 0.1);
 }

@@ -56,7 +56,7 @@ TEST(MoonData, PhasesHaveTheirFractionsInEveryAge) {
       EXPECT_EQ(moon.lunation, lunation);
       EXPECT_EQ(moon.phase, phase);
       EXPECT_EQ(moon.waxing, phase < 2);
-      // Up to two minutes between Universal and dynamical time.
+      // Up to two minutes between Universal and Terrestrial Time.
       EXPECT_NEAR(moon.fraction, fractions[phase], 0.0006) << lunation << " " << phase;
       EXPECT_EQ(moon.age, instant - PhaseTime(lunation, 0));
       EXPECT_NEAR(moon.length, 29.53, 0.35);

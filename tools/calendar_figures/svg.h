@@ -1,3 +1,4 @@
+// The figures of docs/calendars.md as SVG.
 #pragma once
 
 #include <string>

@@ -1,3 +1,5 @@
+// Runs the program by text: one command a line, each answered before the next is read. A command
+// that cannot be carried out prints "error: ..." and changes nothing.
 #pragma once
 
 #include <filesystem>
@@ -15,8 +17,6 @@
 
 namespace tarnwick {
 
-// Runs the program by text: one command a line, each answered before the next is read. A command
-// that cannot be carried out prints "error: ..." and changes nothing.
 class Driver {
  public:
   // `program_folder` is where the program's files lie.

@@ -1,3 +1,5 @@
+// The desktop of a program without one: a clock that stands still until it is set, message boxes
+// that are kept and answered from a queue, a clipboard of its own.
 #pragma once
 
 #include <deque>
@@ -10,8 +12,6 @@
 
 namespace tarnwick {
 
-// The desktop of a program without one: a clock that stands still until it is set, message boxes
-// that are kept and answered from a queue, a clipboard of its own.
 class DriverDesktop final : public Desktop {
  public:
   // Runs at every yield of the program.

@@ -1,3 +1,4 @@
+// Draws the Moon at a phase: a square picture, pixels 0xffRRGGBB row by row from the top.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +8,6 @@
 
 namespace tarnwick {
 
-// Draws the Moon at a phase: a square picture, pixels 0xffRRGGBB row by row from the top.
 std::vector<std::uint32_t> DrawMoon(int width, MoonPhase phase);
 
 }  // namespace tarnwick
