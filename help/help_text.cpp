@@ -22,7 +22,7 @@ After Now the moment follows the clock until you compute, move, search or recall
 
 Greenwich and local say in which time dates are read and shown; switching between them leaves the moment as it is. Local time is that of the chosen time zone. Choosing another zone keeps the local date and time and so moves the moment.
 
-The list of zones starts at GMT. Choose your computer's own zone once, and again when summer time changes it, then click Now: after Now the time line shows the computer's clock and takes it for the time of the chosen zone, so that with another zone it would not fit the dates.
+The list of zones starts at GMT. Choose your computer's own zone once, and again when summer time changes it; then the time after Now is that of its clock.
 
 # Range and state
 
