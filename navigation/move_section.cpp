@@ -82,7 +82,7 @@ void MoveSection::cmdMove_Click() {
 
 // One step, and what waits meanwhile.
 std::string MoveSection::Move() {
-  const std::string summary = MakeStep();
+  std::string summary = MakeStep();
   if (!RangeExceeded()) desktop_.Yield(YieldMode::kPoll);
   return summary;
 }
