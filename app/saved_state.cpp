@@ -11,6 +11,9 @@ namespace {
 
 constexpr std::size_t kLargestFile = 65536;  // bytes; a true one has about 400
 
+// A description has at most about 250; more would let the file grow beyond what is read.
+constexpr std::size_t kLongestEclipseText = 1000;
+
 // Fills its place in the file, and has no other use.
 StateRecord MarkerRecord() {
   return {[] { return TextRecord("Looking for something?"); },
@@ -32,15 +35,16 @@ StateRecord TargetRecord(ComboBox& list) {
 
 // A move may have ended one step beyond the limits, where nothing can be taken up again.
 StateRecord frmMain::MomentRecord() {
-  return {[this] { return NumberRecord(std::clamp(session_.Moment(), kLowerLimit, kUpperLimit).days); },
-          [this](StateReader& reader) {
-            const auto ajd = reader.ReadNumber();
-            if (!ajd) return false;
-            const UniversalTime moment(*ajd);
-            if (moment < kLowerLimit || moment > kUpperLimit) return false;
-            session_.SetMoment(moment);
-            return true;
-          }};
+  return {
+      [this] { return NumberRecord(std::clamp(session_.Moment(), kLowerLimit, kUpperLimit).days); },
+      [this](StateReader& reader) {
+        const auto ajd = reader.ReadNumber();
+        if (!ajd) return false;
+        const UniversalTime moment(*ajd);
+        if (moment < kLowerLimit || moment > kUpperLimit) return false;
+        session_.SetMoment(moment);
+        return true;
+      }};
 }
 
 StateRecord frmMain::CalendarRecord() {
@@ -53,12 +57,19 @@ StateRecord frmMain::CalendarRecord() {
           }};
 }
 
+// The text tells which eclipse it was. One that the engine does not have stays as it stands, until
+// there is another.
 StateRecord frmMain::EclipseTextRecord() {
-  return {[this] { return TextRecord(session_.EclipseText()); },
+  return {[this] { return TextRecord(search.lblActualEclipseData.Caption()); },
           [this](StateReader& reader) {
             const auto text = reader.ReadText();
-            if (text) session_.SetEclipseText(*text);
-            return text.has_value();
+            if (!text || text->size() > kLongestEclipseText) return false;
+            if (const auto eclipse = SearchSection::EclipseOf(*text)) {
+              session_.TakeEclipse(*eclipse);
+            } else {
+              search.lblActualEclipseData.SetCaption(*text);
+            }
+            return true;
           }};
 }
 
@@ -98,11 +109,10 @@ std::vector<StateRecord> frmMain::StateRecords() {
 void frmMain::RestoreState() {
   state_file_ = desktop_.StateFile();
   if (!state_file_) return;
-  session_.blnRestoring = true;
+  const ScopedFlag restoring(session_.blnRestoring);
   if (const auto text = ReadTextFile(*state_file_, kLargestFile)) {
     ReadState(StateRecords(), *text);
   }
-  session_.blnRestoring = false;
 }
 
 bool frmMain::SaveState() {
