@@ -20,7 +20,7 @@ frmMain::frmMain(Desktop& desktop, Screen& screen)
       dates(*this, session_, entry),
       moon(*this, session_, desktop, pictures_),
       move(*this, session_, desktop, entry, dates, Clock),
-      search(*this, session_, desktop, entry),
+      search(*this, session_, desktop, entry, notice),
       history(*this, session_, desktop, entry, time),
       log(*this, screen, session_, desktop, dates, moon, notice),
       calendar(*this, screen, session_, desktop, entry, pictures_, notice) {
@@ -37,9 +37,10 @@ void frmMain::WireSession() {
   hooks.log = [this](const Logged& result) { log.AddLogEntry(result); };
   hooks.focus_on_date = [this] { entry.TakeFocus(); };
   hooks.focus_on_move = [this] { move.TakeFocus(); };
+  hooks.remember = [this] { history.Remember(); };
   hooks.activity_changed = [this] { UpdateAvailability(); };
-  hooks.calendar_changed = [this] { dates.MarkCurrentCalendar(); };
-  hooks.eclipse_changed = [this] { search.ShowEclipseText(); };
+  hooks.calendar_changed = [this] { dates.ShowCalendar(); };
+  hooks.eclipse_changed = [this] { search.ShowEclipse(); };
   hooks.clock_changed = [this] { ShowClock(); };
 }
 
@@ -68,6 +69,7 @@ void frmMain::WatchForChanges() {
 
 void frmMain::Form_Load() {
   session_.SetMoment(PresentMoment());
+  time.SelectZone(static_cast<std::int16_t>(desktop_.ReadClock().offset_minutes));
   RestoreState();
   time.StoreOffset();
   Finish({ShowMoment(), "Restore saved state on startup"});
@@ -106,6 +108,7 @@ std::string frmMain::ShowPresentMoment() {
 }
 
 void frmMain::Finish(const Outcome& outcome) {
+  history.Remember();
   const std::string added = history.AddHistoryEntry(outcome.summary, outcome.eclipse_type);
   if (added.empty() && outcome.only_if_new) return;
   log.AddLogEntry({added, outcome.operation, outcome.description});

@@ -11,6 +11,9 @@ namespace {
 
 constexpr std::size_t kLargestFile = 65536;  // bytes; a true one has about 400
 
+// A description has at most about 250; more would let the file grow beyond what is read.
+constexpr std::size_t kLongestEclipseText = 1000;
+
 // Fills its place in the file, and has no other use.
 StateRecord MarkerRecord() {
   return {[] { return TextRecord("Looking for something?"); },
@@ -54,12 +57,19 @@ StateRecord frmMain::CalendarRecord() {
           }};
 }
 
+// The text tells which eclipse it was. One that the engine does not have stays as it stands, until
+// there is another.
 StateRecord frmMain::EclipseTextRecord() {
-  return {[this] { return TextRecord(session_.EclipseText()); },
+  return {[this] { return TextRecord(search.lblActualEclipseData.Caption()); },
           [this](StateReader& reader) {
             const auto text = reader.ReadText();
-            if (text) session_.SetEclipseText(*text);
-            return text.has_value();
+            if (!text || text->size() > kLongestEclipseText) return false;
+            if (const auto eclipse = SearchSection::EclipseOf(*text)) {
+              session_.TakeEclipse(*eclipse);
+            } else {
+              search.lblActualEclipseData.SetCaption(*text);
+            }
+            return true;
           }};
 }
 
@@ -99,11 +109,10 @@ std::vector<StateRecord> frmMain::StateRecords() {
 void frmMain::RestoreState() {
   state_file_ = desktop_.StateFile();
   if (!state_file_) return;
-  session_.blnRestoring = true;
+  const ScopedFlag restoring(session_.blnRestoring);
   if (const auto text = ReadTextFile(*state_file_, kLargestFile)) {
     ReadState(StateRecords(), *text);
   }
-  session_.blnRestoring = false;
 }
 
 bool frmMain::SaveState() {

@@ -13,7 +13,9 @@ enum class MessageIcon { kNone, kExclamation, kInformation, kQuestion };
 enum class MessageButtons { kOk, kOkCancel, kYesNo };
 enum class MessageAnswer { kOk, kCancel, kYes, kNo };
 
-enum class YieldMode { kPoll, kWait };
+// How events are let in: those that wait, or first waiting until there is one, or none of the
+// user's but that the program be ended.
+enum class YieldMode { kPoll, kWait, kOnlyQuitting };
 
 struct Message {
   std::string text;
@@ -58,7 +60,7 @@ class Desktop {
   virtual std::filesystem::path ProgramFolder() const = 0;
   virtual void OpenWebPage(const std::string& address) = 0;
 
-  // Lets waiting events be handled. kWait sleeps until there is one, kPoll returns at once.
+  // Lets waiting events be handled.
   virtual void Yield(YieldMode mode) = 0;
   // Ends the program once the running handlers have returned.
   virtual void EndProgram() = 0;

@@ -1,14 +1,21 @@
 #include "desktop/history_view.h"
 
 #include <QComboBox>
+#include <QHBoxLayout>
+#include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/bound_widgets.h"
 #include "desktop/look.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr Wording kWordings[] = {{"cboHistory", 0, "History"}};
+constexpr Wording kWordings[] = {
+    {"cboHistory", 0, "History"},
+    {"cmdBack", 0, "Back", "Alt+Left"},
+    {"cmdForward", 0, "Forward", "Alt+Right"},
+};
 
 constexpr char kLongestEntry[] = "-5011-13-3-3 OLW 09:55 (Greenwich; local = GMT+05:30)";
 
@@ -18,10 +25,15 @@ HistoryView::HistoryView(HistorySection& section, Binder& binder, QWidget* paren
     : Panel(Ground::kDark, parent) {
   binder.AddWordings(kWordings);
   binder.Bind(section.fraHistory, *this);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(Spacing(*this));
+  row->addWidget(MakeButton(binder, section.cmdBack, this));
+  row->addWidget(MakeButton(binder, section.cmdForward, this));
   auto* entries = new QComboBox(this);
   ReserveWidth(*entries, kLongestEntry);
   binder.Bind(section.cboHistory, *entries);
-  Content().addWidget(entries);
+  row->addWidget(entries, 1);
+  Content().addLayout(row);
   Content().addStretch();
 }
 

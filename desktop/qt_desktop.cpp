@@ -56,6 +56,18 @@ MessageAnswer AnswerOf(int pressed, MessageButtons buttons) {
   return buttons == MessageButtons::kYesNo ? MessageAnswer::kNo : MessageAnswer::kCancel;
 }
 
+QEventLoop::ProcessEventsFlags FlagsOf(YieldMode mode) {
+  switch (mode) {
+    case YieldMode::kWait:
+      return QEventLoop::WaitForMoreEvents;
+    case YieldMode::kOnlyQuitting:  // the window's close box is not the user's input to it
+      return QEventLoop::ExcludeUserInputEvents;
+    case YieldMode::kPoll:
+      break;
+  }
+  return QEventLoop::AllEvents;
+}
+
 // Makes room for the title beside the buttons of the window's frame, and for a line of text that
 // would else break just before its end.
 void Widen(QMessageBox& box) {
@@ -132,9 +144,7 @@ void QtDesktop::OpenWebPage(const std::string& address) { platform::OpenWebPage(
 
 void QtDesktop::Yield(YieldMode mode) {
   if (!gate_.IsOpen()) return;
-  QCoreApplication::processEvents(mode == YieldMode::kWait
-                                      ? QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents
-                                      : QEventLoop::AllEvents);
+  QCoreApplication::processEvents(FlagsOf(mode));
 }
 
 void QtDesktop::EndProgram() {

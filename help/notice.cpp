@@ -1,12 +1,20 @@
 #include "help/notice.h"
 
+#include <algorithm>
+
+#include "controls/utf8.h"
+
 namespace tarnwick {
 namespace {
 
-constexpr int kMilliseconds = 2000;  // enough to read a word or two
+// Enough to read a word or two, and more for every character.
+constexpr int kMilliseconds = 2000;
+constexpr int kMillisecondsPerCharacter = 50;
 
 // In twips.
-constexpr int kWidth = 2400;
+constexpr int kLeastWidth = 2400;
+constexpr int kMargins = 900;
+constexpr int kWidthPerCharacter = 130;
 constexpr int kHeight = 675;
 constexpr int kAboveEdge = 900;
 
@@ -15,14 +23,16 @@ constexpr int kAboveEdge = 900;
 frmNotice::frmNotice(Screen& screen) : Form(screen, "frmNotice", "Notice") {
   lblNotice.on_click = [this] { Hide(); };
   tmrNotice.on_timer = [this] { Hide(); };
-  tmrNotice.SetInterval(kMilliseconds);
 }
 
 void frmNotice::ShowOver(const Form& window, const std::string& text) {
   const Rectangle& below = window.Bounds();
+  const auto length = static_cast<int>(CountCharacters(text));
+  const int width = std::max(kLeastWidth, kMargins + kWidthPerCharacter * length);
   lblNotice.SetCaption(text);
-  SetBounds({below.left + (below.width - kWidth) / 2,
-             below.top + below.height - kHeight - kAboveEdge, kWidth, kHeight});
+  SetBounds({below.left + (below.width - width) / 2,
+             below.top + below.height - kHeight - kAboveEdge, width, kHeight});
+  tmrNotice.SetInterval(kMilliseconds + kMillisecondsPerCharacter * length);
   tmrNotice.SetEnabled(false);  // a notice still shown begins its time anew
   tmrNotice.SetEnabled(true);
   ShowInactive();

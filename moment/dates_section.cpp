@@ -47,6 +47,11 @@ DatesSection::DatesSection(Form& form, Session& session, EntrySection& entry)
   }
 }
 
+void DatesSection::ShowCalendar() {
+  MarkCurrentCalendar();
+  DisplayTime();
+}
+
 std::string DatesSection::Show() {
   DisplayTime();
   return DisplayAllDates();

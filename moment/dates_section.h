@@ -37,10 +37,11 @@ class DatesSection {
 
   // Shows the moment; returns it in the current calendar, in short form.
   std::string Show();
-  // Sets the current calendar apart.
-  void MarkCurrentCalendar();
+  // Sets the current calendar apart, and shows the time as it counts the day.
+  void ShowCalendar();
 
  private:
+  void MarkCurrentCalendar();
   void DisplayTime();
   std::string DisplayAllDates();
   void Label_Click(Calendar calendar, int index);

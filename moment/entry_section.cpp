@@ -56,19 +56,20 @@ void EntrySection::cmdCompute_Click() {
     ReportDateEntryError(kNoDateGiven);
     return;
   }
-  session_.ForgetEclipseMark();
   txbPlusMinus.SetText(std::string(Trim(txbPlusMinus.Text())));
   const std::string days(StripLeading(txbPlusMinus.Text(), "0"));
 
-  std::int16_t code = kInvalidPlusMinus;
-  UniversalTime moment = session_.Moment();
-  if (days.empty() || IsSignedNumber(days, true)) ParseDateEntry(txbDate.Text(), code, moment);
-  if (code != kEntryOk) {
-    ReportDateEntryError(code);
+  Entry read;
+  read.code = kInvalidPlusMinus;
+  if (days.empty() || IsSignedNumber(days, true)) read = ParseDateEntry(txbDate.Text());
+  if (read.code != kEntryOk) {
+    ReportDateEntryError(read.code);
     session_.hooks.focus_on_date();
     return;
   }
+  UniversalTime moment = read.ajd;
   if (days.empty() && moment == session_.Moment()) {
+    session_.SetCalendar(*read.calendar);
     desktop_.ShowMessage({"Nothing to do!", "Compute date", MessageIcon::kExclamation});
     return;
   }
@@ -78,6 +79,7 @@ void EntrySection::cmdCompute_Click() {
   }
   if (DateOutOfRange(moment)) return;
 
+  session_.SetCalendar(*read.calendar);
   TakeMoment(moment, ConvertOperation(days));
 }
 
@@ -144,8 +146,7 @@ void EntrySection::CopyTimeToEntryBox() {
   txbDate.SetText(std::string(Trim(text)) + " " + session_.TimeText());
 }
 
-void EntrySection::ParseDateEntry(const std::string& text, std::int16_t& error_code,
-                                  UniversalTime& moment) {
+Entry EntrySection::ParseDateEntry(const std::string& text) {
   const bool recalled = session_.blnRestoringHistory;
   std::string normalised = UpperCase(Trim(text));
   if (!recalled) txbDate.SetText(normalised);
@@ -158,30 +159,28 @@ void EntrySection::ParseDateEntry(const std::string& text, std::int16_t& error_c
   if (entry.calendar_supplied) {
     txbDate.SetText(txbDate.Text() + " " + std::string(AbbreviationOf(current)));
   }
-  error_code = entry.code;
-  if (entry.code != kEntryOk) return;
-  session_.SetCalendar(*entry.calendar);
-  moment = entry.ajd;
+  return entry;
 }
 
-bool EntrySection::TakeUpTypedMoment(bool within_range) {
+bool EntrySection::TakeUpTypedMoment() {
   txbDate.SetText(std::string(Trim(txbDate.Text())));
   if (txbDate.Text().empty()) return true;
-  std::int16_t code = kEntryOk;
-  UniversalTime moment = session_.Moment();
-  ParseDateEntry(txbDate.Text(), code, moment);
-  if (code != kEntryOk) {
-    ReportDateEntryError(code);
+  const Entry read = ParseDateEntry(txbDate.Text());
+  if (read.code != kEntryOk) {
+    ReportDateEntryError(read.code);
     session_.hooks.focus_on_date();
     return false;
   }
-  if (std::fabs(moment - session_.Moment()) < kSameMoment) return true;
-  if (within_range && DateOutOfRange(moment)) {
+  const bool same = std::fabs(read.ajd - session_.Moment()) < kSameMoment;
+  if (!same && DateOutOfRange(read.ajd)) {
     session_.hooks.focus_on_date();
     return false;
   }
-  session_.SetMoment(moment);
-  session_.ForgetEclipseMark();
+  session_.SetCalendar(*read.calendar);
+  if (same) return true;
+  session_.ClearEclipse();
+  session_.SetClockRunning(false);
+  session_.SetMoment(read.ajd);
   session_.hooks.show_moment();
   return true;
 }

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "calendars/entry_parser.h"
 #include "controls/controls.h"
 #include "controls/desktop.h"
 #include "controls/form.h"
@@ -39,12 +40,11 @@ class EntrySection {
   // Writes the time of day behind the date that stands in the box, in place of one that is there.
   void CopyTimeToEntryBox();
 
-  // Reads an entry. On success the code is 0, `moment` the moment and the calendar of the entry the
-  // current one; else `moment` stays as it was.
-  void ParseDateEntry(const std::string& text, std::int16_t& error_code, UniversalTime& moment);
-  // Makes a moment typed into the date box the current one; false if it is refused, which the user
-  // has been told.
-  bool TakeUpTypedMoment(bool within_range);
+  // Reads an entry; the current calendar stays as it is.
+  Entry ParseDateEntry(const std::string& text);
+  // Makes a moment typed into the date box the current one, and shows it; false if it is refused,
+  // which the user has been told.
+  bool TakeUpTypedMoment();
   // Shows a moment that the user has named, and makes the entries in history and log.
   void TakeMoment(UniversalTime moment, const std::string& operation);
   // Whether the moment lies outside the accepted range, after telling the user.

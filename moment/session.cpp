@@ -1,7 +1,5 @@
 #include "moment/session.h"
 
-#include <utility>
-
 #include "calendars/date_processing.h"
 
 namespace tarnwick {
@@ -17,19 +15,25 @@ std::string Session::TimeText() const {
   return TimeOfDayText(SplitCJD(LocalMoment() - RowOf(intCalendar).day_shift).fraction, false);
 }
 
-void Session::SetEclipseText(std::string text) {
-  eclipse_text_ = std::move(text);
+void Session::SetGreenwich(bool greenwich) {
+  greenwich_ = greenwich;
   hooks.eclipse_changed();
 }
 
-void Session::MarkEclipse(std::int32_t lunation, std::int16_t phase) {
-  lngEclipseLunation = lunation;
-  intEclipsePhase = phase;
+void Session::DescribeEclipse(std::optional<PhaseNumber> syzygy) {
+  described_eclipse_ = syzygy;
+  hooks.eclipse_changed();
+}
+
+void Session::TakeEclipse(const PhaseNumber& syzygy) {
+  lngEclipseLunation = syzygy.lunation;
+  intEclipsePhase = syzygy.phase;
+  DescribeEclipse(syzygy);
 }
 
 void Session::ClearEclipse() {
-  SetEclipseText("");
-  ForgetEclipseMark();
+  lngEclipseLunation = kNoEclipse;
+  DescribeEclipse(std::nullopt);
 }
 
 void Session::SetActivity(Activity activity) {

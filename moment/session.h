@@ -5,10 +5,12 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "calendars/calendar_table.h"
 #include "engines/instant.h"
+#include "moon/syzyg.h"
 
 namespace tarnwick {
 
@@ -54,7 +56,10 @@ class Session {
     // Put the focus where the user goes on: to the date box, to the button Move.
     std::function<void()> focus_on_date = [] {};
     std::function<void()> focus_on_move = [] {};
-    // What has changed: the activity, the current calendar, the text of the eclipse, the clock.
+    // The moment on display, though no operation has led to it, is one to come back to.
+    std::function<void()> remember = [] {};
+    // What has changed: the activity, the current calendar, the eclipse on display or the way in
+    // which its times are read, the clock.
     std::function<void()> activity_changed = [] {};
     std::function<void()> calendar_changed = [] {};
     std::function<void()> eclipse_changed = [] {};
@@ -71,7 +76,7 @@ class Session {
   // How moments are read: the zone chosen, in minutes east of Greenwich, and whether Greenwich time
   // takes its place.
   bool IsGreenwich() const { return greenwich_; }
-  void SetGreenwich(bool greenwich) { greenwich_ = greenwich; }
+  void SetGreenwich(bool greenwich);
   std::int16_t ZoneOffset() const { return zone_offset_; }
   void SetZoneOffset(std::int16_t minutes) { zone_offset_ = minutes; }
   int ReadingOffset() const { return greenwich_ ? 0 : zone_offset_; }
@@ -80,14 +85,14 @@ class Session {
   LocalCJD LocalMoment() const;
   std::string TimeText() const;
 
-  // The eclipse on display, in words; empty if there is none.
-  const std::string& EclipseText() const { return eclipse_text_; }
-  void SetEclipseText(std::string text);
-  // And the syzygy at which a search has found it: a lunation, or kNoEclipse, and a phase, 0 or 2.
-  std::int32_t EclipseLunation() const { return lngEclipseLunation; }
-  std::int16_t EclipsePhase() const { return intEclipsePhase; }
-  void MarkEclipse(std::int32_t lunation, std::int16_t phase);
-  void ForgetEclipseMark() { lngEclipseLunation = kNoEclipse; }
+  // The eclipse that is described on display, by its syzygy.
+  const std::optional<PhaseNumber>& DescribedEclipse() const { return described_eclipse_; }
+  void DescribeEclipse(std::optional<PhaseNumber> syzygy);
+  // The eclipse that a search has found last, which the next one passes over: another one may be
+  // described meanwhile, recalled from the history.
+  PhaseNumber FoundEclipse() const { return {lngEclipseLunation, intEclipsePhase}; }
+  // Describes an eclipse that is also the one found last.
+  void TakeEclipse(const PhaseNumber& syzygy);
   // Both are gone.
   void ClearEclipse();
 
@@ -113,12 +118,25 @@ class Session {
   Calendar intCalendar = kCE;
   bool greenwich_ = false;
   std::int16_t zone_offset_ = 0;
-  std::string eclipse_text_;
+  std::optional<PhaseNumber> described_eclipse_;
   std::int32_t lngEclipseLunation = kNoEclipse;
   std::int16_t intEclipsePhase = 0;
   Activity activity_ = Activity::kIdle;
   bool blnEnding = false;
   bool blnClockRunning = false;
+};
+
+// A flag that is set within a scope.
+class ScopedFlag {
+ public:
+  explicit ScopedFlag(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
+  ~ScopedFlag() { flag_ = before_; }
+  ScopedFlag(const ScopedFlag&) = delete;
+  ScopedFlag& operator=(const ScopedFlag&) = delete;
+
+ private:
+  bool& flag_;
+  bool before_;
 };
 
 // An activity that ends with its scope, however that is left.

@@ -25,6 +25,18 @@ TimeSection::TimeSection(EntrySection& entry, Session& session)
 
 void TimeSection::SetDefaults() { optLocal.SetValue(true); }
 
+void TimeSection::SelectZone(std::int16_t offset_minutes) {
+  const ScopedFlag restoring(session_.blnRestoring);
+  cboTimeZone.SetListIndex(TimeZoneIndex(offset_minutes));
+  StoreOffset();
+}
+
+void TimeSection::Select(bool greenwich, std::int16_t offset_minutes) {
+  const ScopedFlag recalling(session_.blnRestoringHistory);
+  (greenwich ? optGreenwich : optLocal).SetValue(true);
+  SelectZone(offset_minutes);
+}
+
 // Common to both time systems: the moment stays, only its reading changes.
 void TimeSection::ShowTimeSystem() {
   session_.SetGreenwich(optGreenwich.Value());
@@ -46,19 +58,28 @@ void TimeSection::optLocal_Click() {
 
 // Keeps the local date and time on display, so that the moment itself moves.
 void TimeSection::cboTimeZone_Click() {
-  session_.SetZoneOffset(TimeZoneOffset(cboTimeZone.Text()));
-  if (cboTimeZone.ListIndex() < 0 || session_.blnRestoring) return;
-  session_.SetEclipseText("");
-  const int change = intStoredOffset - session_.ZoneOffset();
-  session_.SetMoment(session_.Moment() + static_cast<double>(change) / kMinutesPerDay);
+  if (cboTimeZone.ListIndex() < 0) return;
+  const std::int16_t offset = TimeZoneOffset(cboTimeZone.Text());
+  if (session_.blnRestoring) {
+    session_.SetZoneOffset(offset);
+    return;
+  }
+  const int change = intStoredOffset - offset;
+  const UniversalTime moment = session_.Moment() + static_cast<double>(change) / kMinutesPerDay;
+  if (entry_.DateOutOfRange(moment)) {
+    SelectZone(intStoredOffset);
+    session_.hooks.focus_on_date();
+    return;
+  }
+  session_.SetZoneOffset(offset);
   StoreOffset();
+  session_.ClearEclipse();
+  session_.SetMoment(moment);
   const std::string summary = session_.hooks.show_moment();
   entry_.RenewCopiedDate();
-  if (!session_.blnRestoringHistory) {
-    Outcome outcome{summary, "Timezone changed."};
-    outcome.only_if_new = true;
-    session_.hooks.finish(outcome);
-  }
+  Outcome outcome{summary, "Timezone changed."};
+  outcome.only_if_new = true;
+  session_.hooks.finish(outcome);
   session_.hooks.focus_on_date();
 }
 

@@ -22,6 +22,9 @@ class TimeSection {
   ComboBox cboTimeZone;
 
   void SetDefaults();
+  // Selects a zone, and the time system too; the moment stays, and nothing is shown.
+  void SelectZone(std::int16_t offset_minutes);
+  void Select(bool greenwich, std::int16_t offset_minutes);
   // The moment now counts as set in the zone chosen: a change of zone moves it from there on.
   void StoreOffset() { intStoredOffset = session_.ZoneOffset(); }
 

@@ -1,5 +1,6 @@
 #include "moment/time_zone.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "calendars/text.h"
@@ -13,6 +14,13 @@ std::string TimeZoneText(int index) {
   const int size = std::abs(half_hours);
   return std::string("GMT") + (half_hours > 0 ? " + " : " - ") + TwoDigits(size / 2) +
          (size % 2 != 0 ? ":30" : ":00");
+}
+
+int TimeZoneIndex(int offset_minutes) {
+  constexpr int kHalfHour = kMinutesPerHour / 2;
+  const int half_hours = (std::abs(offset_minutes) + kHalfHour / 2 - 1) / kHalfHour;
+  const int index = kGmtTimeZone + (offset_minutes < 0 ? -half_hours : half_hours);
+  return std::clamp(index, 0, kTimeZoneCount - 1);
 }
 
 std::int16_t TimeZoneOffset(std::string_view text) {

@@ -28,6 +28,13 @@ UniversalTime ToUniversalTime(TerrestrialTime instant);
 // The instant of greatest eclipse.
 UniversalTime GreatestEclipse(const EclipseRecord& eclipse);
 
+// A principal phase by lunation and phase index.
+struct PhaseNumber {
+  std::int32_t lunation = 0;
+  std::int16_t phase = 0;
+  friend bool operator==(const PhaseNumber&, const PhaseNumber&) = default;
+};
+
 // The instant of a phase in Terrestrial Time, and in Universal Time. FindPhaseEvent has both, and
 // the eclipse at it.
 TerrestrialTime Syzygy(std::int32_t n, std::int16_t phase);

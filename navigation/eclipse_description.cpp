@@ -29,7 +29,7 @@ std::string PhaseLine(std::string_view name, double semi_minutes, LocalCJD cjd) 
 std::vector<std::string> EclipseLines(const EclipseRecord& record, LocalCJD cjd) {
   std::vector<std::string> lines{
       std::string(EclipseTypeText(static_cast<std::int16_t>(record.type))),
-      "Lunation number = " + std::to_string(record.lunation),
+      std::string(kLunationText) + std::to_string(record.lunation),
       "Saros number = " + std::to_string(record.saros)};
   if (record.type >= kPenumbralLunar) {
     lines.push_back(PhaseLine("Penumbral", record.penumbral_minutes, cjd));

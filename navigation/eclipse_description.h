@@ -3,12 +3,16 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "engines/instant.h"
 #include "engines/phase_engine.h"
 
 namespace tarnwick {
+
+// Stands before the number of the lunation, on a line of its own.
+inline constexpr std::string_view kLunationText = "Lunation number = ";
 
 // The lines that describe an eclipse whose greatest phase is at `cjd`: type, lunation, saros, and
 // for a lunar eclipse the beginning and duration of each of its phases.

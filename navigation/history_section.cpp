@@ -1,6 +1,5 @@
 #include "navigation/history_section.h"
 
-#include <cmath>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -11,6 +10,7 @@
 #include "engines/phases.h"
 #include "moment/time_zone.h"
 #include "moon/phase_cache.h"
+#include "navigation/eclipse_description.h"
 #include "navigation/operation.h"
 
 namespace tarnwick {
@@ -20,20 +20,16 @@ constexpr int kMaximumHistory = 8;
 
 // The zone of an entry, in minutes. Entries name their zone in another form, so that neither marker
 // occurs and a recall always selects GMT.
-int RecalledOffset(const std::string& entry) {
+std::int16_t RecalledOffset(const std::string& entry) {
   for (const auto& [marker, sign] : {std::pair("Greenwich+", 1), std::pair("Greenwich-", -1)}) {
     const std::size_t found = entry.find(marker);
     if (found == std::string::npos) continue;
     const std::string_view rest = std::string_view(entry).substr(found + 10);
     const double hours = LeadingNumber(rest.substr(0, 2));
     const double minutes = rest.size() > 3 ? LeadingNumber(rest.substr(3, 2)) : 0;
-    return sign * static_cast<int>(60 * hours + minutes);
+    return static_cast<std::int16_t>(sign * (60 * hours + minutes));
   }
   return 0;
-}
-
-int TimeZoneIndex(int offset_minutes) {
-  return kGmtTimeZone + static_cast<int>(std::nearbyint(2 * offset_minutes / 60.0));
 }
 
 // Greatest eclipse can lie just before its syzygy, in the phase before.
@@ -45,10 +41,12 @@ PhaseNumber SyzygyOf(PhaseNumber at, int eclipse_type) {
   return at;
 }
 
-std::string DescribeRecalledEclipse(Session& session, const PhaseNumber& at, int eclipse_type) {
+// The eclipse of that type at a recalled moment.
+std::optional<PhaseNumber> RecalledEclipse(const PhaseNumber& at, int eclipse_type) {
+  if (eclipse_type == kNotEclipsed) return std::nullopt;
   const PhaseNumber syzygy = SyzygyOf(at, eclipse_type);
   const EclipseRecord record = FindPhaseEvent(syzygy.lunation, syzygy.phase).eclipse;
-  return record.type == 0 ? "" : DescribeEclipse(session, record);
+  return record.type == kNotEclipsed ? std::nullopt : std::optional(syzygy);
 }
 
 }  // namespace
@@ -60,10 +58,41 @@ HistorySection::HistorySection(Form& form, Session& session, Desktop& desktop, E
       desktop_(desktop),
       entry_(entry),
       time_(time) {
+  cmdBack.SetToolTipText("Back to what was shown before");
+  cmdForward.SetToolTipText("Forward again");
   cboHistory.on_click = [this] { cboHistory_Click(); };
+  cmdBack.on_click = [this] { Return(trail_.GoBack()); };
+  cmdForward.on_click = [this] { Return(trail_.GoForward()); };
+  UpdateAvailability();
 }
 
-void HistorySection::UpdateAvailability() { fraHistory.SetEnabled(session_.IsIdle()); }
+void HistorySection::UpdateAvailability() {
+  fraHistory.SetEnabled(session_.IsIdle());
+  cmdBack.SetEnabled(trail_.CanGoBack());
+  cmdForward.SetEnabled(trail_.CanGoForward());
+}
+
+void HistorySection::Remember() {
+  trail_.Add({session_.Moment(), session_.CurrentCalendar(), session_.IsGreenwich(),
+              session_.ZoneOffset(), session_.DescribedEclipse()});
+  UpdateAvailability();
+}
+
+// A search goes on from the eclipse described, which it would else find again.
+void HistorySection::Return(const Visit& visit) {
+  time_.Select(visit.greenwich, visit.zone_offset);
+  session_.SetClockRunning(false);
+  session_.SetCalendar(visit.calendar);
+  session_.SetMoment(visit.moment);
+  if (visit.eclipse) {
+    session_.TakeEclipse(*visit.eclipse);
+  } else {
+    session_.ClearEclipse();
+  }
+  session_.hooks.show_moment();
+  entry_.CopyDateToEntryBox();
+  UpdateAvailability();
+}
 
 std::string HistorySection::HistoryText(const std::string& date) const {
   std::string text = date;
@@ -75,49 +104,55 @@ std::string HistorySection::HistoryText(const std::string& date) const {
 std::string HistorySection::AddHistoryEntry(const std::string& date, std::int16_t eclipse_type) {
   std::string entry = HistoryText(date);
   const std::string last = cboHistory.ListCount() == 0 ? "" : cboHistory.Items().back().text;
-  if (entry == last) return "";
-  blnAddingHistory = true;
+  if (entry == last) {
+    SelectNewest();
+    return "";
+  }
   if (cboHistory.ListCount() == kMaximumHistory) cboHistory.RemoveItem(0);
   cboHistory.AddItem(entry, eclipse_type);
+  SelectNewest();
+  return entry;
+}
+
+void HistorySection::SelectNewest() {
+  const ScopedFlag adding(blnAddingHistory);
   cboHistory.SetListIndex(cboHistory.ListCount() - 1);
   intHistoryIndex = static_cast<std::int16_t>(cboHistory.ListIndex());
-  blnAddingHistory = false;
-  return entry;
 }
 
 void HistorySection::cboHistory_Click() {
   if (blnAddingHistory) return;
   if (cboHistory.ListIndex() != intHistoryIndex) {
-    session_.blnRestoringHistory = true;
+    const ScopedFlag recalling(session_.blnRestoringHistory);
     RecallHistory();
-    session_.blnRestoringHistory = false;
   }
   session_.hooks.focus_on_date();
 }
 
 void HistorySection::RecallHistory() {
-  session_.SetEclipseText("");
+  session_.DescribeEclipse(std::nullopt);
   entry_.ClearTexts();
   session_.SetClockRunning(false);
   const std::string text = cboHistory.Text();
-  (Contains(text, "Greenwich;") ? time_.optGreenwich : time_.optLocal).SetValue(true);
-  time_.cboTimeZone.SetListIndex(TimeZoneIndex(RecalledOffset(text)));
+  time_.Select(Contains(text, "Greenwich;"), RecalledOffset(text));
 
-  std::int16_t code = kEntryOk;
-  UniversalTime moment = session_.Moment();
-  entry_.ParseDateEntry(text, code, moment);
-  if (code != kEntryOk) {
-    desktop_.ShowMessage({"Error" + std::to_string(code) + " when selecting from History.", "Error",
-                          MessageIcon::kExclamation});
+  const Entry read = entry_.ParseDateEntry(text);
+  if (read.code != kEntryOk) {
+    desktop_.ShowMessage({"Error" + std::to_string(read.code) + " when selecting from History.",
+                          "Error", MessageIcon::kExclamation});
     return;
   }
-  session_.SetMoment(moment);
+  session_.SetCalendar(*read.calendar);
+  session_.SetMoment(read.ajd);
   session_.hooks.show_moment();
-  const auto at = PhaseOf(moment, desktop_, "cboHistory_Click");
-  const int eclipse_type = cboHistory.ItemData();
-  session_.hooks.log(
-      {text, "Selection from history",
-       at && eclipse_type > 0 ? DescribeRecalledEclipse(session_, at->at, eclipse_type) : ""});
+  if (const auto at = PhaseOf(read.ajd, desktop_, "cboHistory_Click")) {
+    session_.DescribeEclipse(RecalledEclipse(at->at, cboHistory.ItemData()));
+  }
+  // Read in another zone, an entry may lie beyond the limits.
+  RangeExceeded(session_, desktop_);
+  const auto lines = DescribedEclipseLines(session_);
+  session_.hooks.log({text, "Selection from history", lines.empty() ? "" : EclipseSentence(lines)});
+  Remember();
   intHistoryIndex = static_cast<std::int16_t>(cboHistory.ListIndex());
 }
 

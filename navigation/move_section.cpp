@@ -69,7 +69,7 @@ std::string MoveSection::MoveOperation() const {
 
 void MoveSection::cmdMove_Click() {
   CarryOut(session_, desktop_, form_.Caption(), [this] {
-    if (!entry_.TakeUpTypedMoment(false)) return;
+    if (!entry_.TakeUpTypedMoment()) return;
     session_.ClearEclipse();
     session_.SetClockRunning(false);
     const std::string operation = MoveOperation();
@@ -80,10 +80,10 @@ void MoveSection::cmdMove_Click() {
   });
 }
 
-// One step, and what waits meanwhile.
+// One step; meanwhile the program can be ended, and nothing else.
 std::string MoveSection::Move() {
   std::string summary = MakeStep();
-  if (!RangeExceeded()) desktop_.Yield(YieldMode::kPoll);
+  if (!RangeExceeded(session_, desktop_)) desktop_.Yield(YieldMode::kOnlyQuitting);
   return summary;
 }
 
@@ -101,7 +101,7 @@ std::string MoveSection::MoveRepeatedly() {
     if (blnStepDue && !session_.IsPaused()) {
       blnStepDue = false;
       summary = MakeStep();
-      if (RangeExceeded()) break;
+      if (RangeExceeded(session_, desktop_)) break;
     }
     desktop_.Yield(YieldMode::kWait);
   }
@@ -119,15 +119,6 @@ std::string MoveSection::MakeStep() {
   std::string summary = session_.hooks.show_moment();
   entry_.CopyDateToEntryBox();
   return summary;
-}
-
-// Whether the moment has left the accepted range, after telling the user.
-bool MoveSection::RangeExceeded() {
-  const bool late = session_.Moment() > kUpperLimit;
-  if (session_.Moment() >= kLowerLimit && !late) return false;
-  desktop_.ShowMessage({late ? "Latest date exceeded." : "Earliest date exceeded.", "Out of range",
-                        MessageIcon::kExclamation});
-  return true;
 }
 
 void MoveSection::SetClockToRefreshPeriod() {

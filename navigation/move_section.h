@@ -51,7 +51,6 @@ class MoveSection {
   std::string Move();
   std::string MoveRepeatedly();
   std::string MakeStep();
-  bool RangeExceeded();
   std::string MoveOperation() const;
 
   Form& form_;

@@ -1,7 +1,9 @@
 #include "navigation/operation.h"
 
+#include "calendars/date_processing.h"
 #include "engines/checked_arithmetic.h"
 #include "moment/moon_section.h"
+#include "moon/phase_cache.h"
 #include "moon/syzyg.h"
 #include "navigation/eclipse_description.h"
 
@@ -28,10 +30,19 @@ std::optional<MomentPhase> PhaseOf(UniversalTime moment, Desktop& desktop,
   return std::nullopt;
 }
 
-std::string DescribeEclipse(Session& session, const EclipseRecord& record) {
-  const auto lines = EclipseLines(record, session.LocalMoment());
-  session.SetEclipseText(EclipseCaption(lines));
-  return EclipseSentence(lines);
+bool RangeExceeded(const Session& session, Desktop& desktop) {
+  const bool late = session.Moment() > kUpperLimit;
+  if (session.Moment() >= kLowerLimit && !late) return false;
+  desktop.ShowMessage({late ? "Latest date exceeded." : "Earliest date exceeded.", "Out of range",
+                       MessageIcon::kExclamation});
+  return true;
+}
+
+std::vector<std::string> DescribedEclipseLines(const Session& session) {
+  const auto& syzygy = session.DescribedEclipse();
+  if (!syzygy) return {};
+  const EclipseRecord record = FindPhaseEvent(syzygy->lunation, syzygy->phase).eclipse;
+  return EclipseLines(record, AJDToCJD(GreatestEclipse(record), session.ReadingOffset()));
 }
 
 }  // namespace tarnwick

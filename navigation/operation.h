@@ -4,9 +4,9 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "controls/desktop.h"
-#include "engines/phase_engine.h"
 #include "moment/session.h"
 #include "navigation/target.h"
 
@@ -22,7 +22,11 @@ void CarryOut(Session& session, Desktop& desktop, const std::string& title,
 std::optional<MomentPhase> PhaseOf(UniversalTime moment, Desktop& desktop,
                                    const std::string& routine);
 
-// Puts an eclipse on display; returns its description in one line, for the log.
-std::string DescribeEclipse(Session& session, const EclipseRecord& record);
+// Whether the moment has left the accepted range, after telling the user.
+bool RangeExceeded(const Session& session, Desktop& desktop);
+
+// The lines that describe the eclipse on display, with the times as they are read; none where there
+// is no eclipse.
+std::vector<std::string> DescribedEclipseLines(const Session& session);
 
 }  // namespace tarnwick

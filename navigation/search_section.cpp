@@ -2,13 +2,14 @@
 
 #include <cstdint>
 #include <string_view>
-#include <utility>
 
 #include "calendars/date_processing.h"
 #include "calendars/text.h"
 #include "controls/choice.h"
+#include "engines/phases.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
+#include "navigation/eclipse_description.h"
 #include "navigation/operation.h"
 
 namespace tarnwick {
@@ -18,9 +19,8 @@ constexpr double kAlmostASaros = 6580.0;  // days; a saros has 6585.32
 
 bool IsBlank(int target) { return target == kFirstBlankTarget || target == kSecondBlankTarget; }
 
-// A description begins with the type of its eclipse.
-bool TellsOfLunarEclipse(std::string_view description) {
-  return Contains(description.substr(0, description.find('\r')), "lunar");
+std::int32_t SarosOf(const PhaseNumber& syzygy) {
+  return FindPhaseEvent(syzygy.lunation, syzygy.phase).eclipse.saros;
 }
 
 }  // namespace
@@ -29,17 +29,25 @@ bool TellsOfLunarEclipse(std::string_view description) {
 struct SearchSection::Result {
   UniversalTime moment;
   std::int32_t eclipse_type = 0;
-  std::optional<EclipseRecord> eclipse;  // to be described
+  std::optional<PhaseNumber> eclipse;  // to be described
 };
 
-SearchSection::SearchSection(Form& form, Session& session, Desktop& desktop, EntrySection& entry)
+std::optional<SearchSection::Result> SearchSection::ResultOf(
+    const std::optional<FoundEclipse>& found) {
+  if (!found) return std::nullopt;
+  return Result{GreatestEclipse(found->record), found->record.type, found->at};
+}
+
+SearchSection::SearchSection(Form& form, Session& session, Desktop& desktop, EntrySection& entry,
+                             frmNotice& notice)
     : fraSearch(form, "fraSearch", "Search"),
       lblSearching(form, "lblSearching", "Searching ..."),
       lblActualEclipseData(form, "lblActualEclipseData"),
       form_(form),
       session_(session),
       desktop_(desktop),
-      entry_(entry) {
+      entry_(entry),
+      notice_(notice) {
   for (const TargetRow& row : kTargets) cboTarget.AddItem(std::string(row.text), row.phase);
   cboTarget.SetListIndex(kTotalSolarTarget);
   lblSearching.SetVisible(false);
@@ -70,59 +78,97 @@ std::string SearchSection::SearchOperation(int target) const {
   return std::string("Search for") + (optNext.Value() ? " next " : " previous ") + text + ".";
 }
 
+void SearchSection::ShowEclipse() {
+  lblActualEclipseData.SetCaption(EclipseCaption(DescribedEclipseLines(session_)));
+}
+
+std::optional<PhaseNumber> SearchSection::EclipseOf(std::string_view description) {
+  const std::size_t number = description.find(kLunationText);
+  if (number == std::string_view::npos) return std::nullopt;
+  const auto lunation =
+      static_cast<std::int32_t>(LeadingNumber(description.substr(number + kLunationText.size())));
+  for (const std::int16_t phase : {kNewMoon, kFullMoon}) {
+    const std::int32_t type = FindPhaseEvent(lunation, phase).eclipse.type;
+    if (type != 0 && description.starts_with(EclipseTypeText(static_cast<std::int16_t>(type)))) {
+      return PhaseNumber{lunation, phase};
+    }
+  }
+  return std::nullopt;
+}
+
 void SearchSection::cmdSearch_Click() {
   CarryOut(session_, desktop_, form_.Caption(), [this] {
-    if (!entry_.TakeUpTypedMoment(true)) return;
+    if (!entry_.TakeUpTypedMoment()) return;
     const int target = cboTarget.ListIndex();
     if (target < 0 || IsBlank(target)) {
       desktop_.ShowMessage(
           {"Please specify target for search.", "Search", MessageIcon::kExclamation});
+    } else if (Search(target)) {
       return;
     }
-    Search(target);
+    if (!session_.IsEnding()) session_.hooks.remember();
   });
 }
 
-void SearchSection::Search(int target) {
-  const std::string shown_eclipse = session_.EclipseText();
-  session_.SetEclipseText("");
+// Whether anything was found.
+bool SearchSection::Search(int target) {
+  const std::optional<PhaseNumber> described = session_.DescribedEclipse();
   entry_.txbDate.SetText("");
   session_.SetClockRunning(false);
   const auto at = PhaseOf(session_.Moment(), desktop_, "cmdSearch_Click");
-  if (!at) return;
-  if (target == kSameSarosTarget && shown_eclipse.empty()) {
+  if (!at) return false;
+  if (target == kSameSarosTarget && !described) {
     desktop_.ShowMessage(
         {"Eclipse date must be displayed in order to search for the next or "
          "previous eclipse in the same saros series.",
          "No eclipse displayed"});
-    return;
+    return false;
   }
-  const auto result = Find(target, *at, shown_eclipse);
-  if (session_.IsEnding()) return;
+  session_.DescribeEclipse(std::nullopt);
+  const auto result = Find(target, *at, described);
+  if (session_.IsEnding()) return false;
   if (result) {
     TakeResult(*result, SearchOperation(target));
+    if (target == kSameSarosTarget) TellOfNewSeries(*described, *result->eclipse);
   } else {
     session_.hooks.focus_on_date();
   }
+  return result.has_value();
 }
 
-std::optional<SearchSection::Result> SearchSection::Find(int target, const MomentPhase& at,
-                                                         const std::string& shown_eclipse) {
+std::optional<SearchSection::Result> SearchSection::Find(
+    int target, const MomentPhase& at, const std::optional<PhaseNumber>& described) {
   const ActivityScope searching(session_, Activity::kSearching);
   blnSearching = true;
-  if (target == kSameSarosTarget) return FindSameSaros(shown_eclipse);
+  if (target == kSameSarosTarget) return FindSameSaros(*described);
   if (target == kCoincidenceTarget) return FindCoincidenceTarget();
   return target < kAnyEclipseTarget ? FindPhaseTarget(target, at) : FindEclipseTarget(target, at);
 }
 
 void SearchSection::TakeResult(const Result& result, const std::string& operation) {
   session_.SetMoment(result.moment);
-  if (!result.eclipse) session_.ForgetEclipseMark();
+  if (result.eclipse) {
+    session_.TakeEclipse(*result.eclipse);
+  } else {
+    session_.ClearEclipse();
+  }
   Outcome outcome{session_.hooks.show_moment(), operation};
   entry_.CopyDateToEntryBox();
-  if (result.eclipse) outcome.description = DescribeEclipse(session_, *result.eclipse);
+  if (result.eclipse) outcome.description = EclipseSentence(DescribedEclipseLines(session_));
   outcome.eclipse_type = static_cast<std::int16_t>(result.eclipse_type);
+  RangeExceeded(session_, desktop_);
   session_.hooks.finish(outcome);
+}
+
+// A saros later there may be no eclipse of the series any more, but one of its neighbour.
+void SearchSection::TellOfNewSeries(const PhaseNumber& described, const PhaseNumber& found) {
+  const std::int32_t old_series = SarosOf(described);
+  const std::int32_t new_series = SarosOf(found);
+  if (old_series == new_series) return;
+  notice_.ShowOver(form_, "Saros series " + std::to_string(old_series) +
+                              (optNext.Value() ? " ends" : " begins") +
+                              " here: the eclipse found belongs to series " +
+                              std::to_string(new_series) + ".");
 }
 
 // One pass of a search: lets events in and tells whether to go on.
@@ -138,25 +184,16 @@ std::optional<SearchSection::Result> SearchSection::FindPhaseTarget(int target,
   return Result{event.ut, event.eclipse.type, std::nullopt};
 }
 
-// The eclipse found, from now on the one on display.
-std::optional<SearchSection::Result> SearchSection::TakeEclipse(
-    const std::optional<FoundEclipse>& found) {
-  if (!found) return std::nullopt;
-  session_.MarkEclipse(found->at.lunation, found->at.phase);
-  return Result{GreatestEclipse(found->record), found->record.type, found->record};
-}
-
 std::optional<SearchSection::Result> SearchSection::FindEclipseTarget(int target,
                                                                       const MomentPhase& at) {
-  const PhaseNumber shown{session_.EclipseLunation(), session_.EclipsePhase()};
-  return TakeEclipse(FindEclipse(
-      target, optNext.Value(), at.at, [&](const FoundEclipse& one) { return one.at != shown; },
+  const PhaseNumber last = session_.FoundEclipse();
+  return ResultOf(FindEclipse(
+      target, optNext.Value(), at.at, [&](const FoundEclipse& one) { return one.at != last; },
       [this] { return KeepSearching(); }));
 }
 
 // The nearest eclipse of the same kind beyond a moment that is a little less than a saros away.
-std::optional<SearchSection::Result> SearchSection::FindSameSaros(
-    const std::string& shown_eclipse) {
+std::optional<SearchSection::Result> SearchSection::FindSameSaros(const PhaseNumber& described) {
   const bool forward = optNext.Value();
   const UniversalTime moment = session_.Moment() + (forward ? kAlmostASaros : -kAlmostASaros);
   PhaseNumber at{LunationOf(moment), 0};
@@ -168,8 +205,8 @@ std::optional<SearchSection::Result> SearchSection::FindSameSaros(
     const UniversalTime greatest = GreatestEclipse(one.record);
     return forward ? greatest > moment : greatest < moment;
   };
-  const int target = TellsOfLunarEclipse(shown_eclipse) ? kLunarEclipseTarget : kSolarEclipseTarget;
-  return TakeEclipse(FindEclipse(target, forward, at, beyond, [this] { return KeepSearching(); }));
+  const int target = described.phase == kFullMoon ? kLunarEclipseTarget : kSolarEclipseTarget;
+  return ResultOf(FindEclipse(target, forward, at, beyond, [this] { return KeepSearching(); }));
 }
 
 std::optional<SearchSection::Result> SearchSection::FindCoincidenceTarget() {
@@ -177,8 +214,10 @@ std::optional<SearchSection::Result> SearchSection::FindCoincidenceTarget() {
   const DayNumber today = SplitCJD(session_.LocalMoment()).day_number;
   const auto found = FindCoincidence(today, optNext.Value(), [this] { return KeepSearching(); });
   lblSearching.SetVisible(false);
-  if (!found) return std::nullopt;
-  return Result{NoonOf(*found, session_.ReadingOffset()), 0, std::nullopt};
+  if (found) return Result{NoonOf(*found, session_.ReadingOffset()), 0, std::nullopt};
+  const bool given_up = !blnSearching || session_.IsEnding();
+  if (!given_up) notice_.ShowOver(form_, "No coincidence was found.");
+  return std::nullopt;
 }
 
 void SearchSection::optNext_Click() {

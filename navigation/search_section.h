@@ -4,10 +4,12 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "controls/controls.h"
 #include "controls/desktop.h"
 #include "controls/form.h"
+#include "help/notice.h"
 #include "moment/entry_section.h"
 #include "moment/session.h"
 #include "navigation/target.h"
@@ -16,7 +18,8 @@ namespace tarnwick {
 
 class SearchSection {
  public:
-  SearchSection(Form& form, Session& session, Desktop& desktop, EntrySection& entry);
+  SearchSection(Form& form, Session& session, Desktop& desktop, EntrySection& entry,
+                frmNotice& notice);
 
   Frame fraSearch;
   ComboBox cboTarget{fraSearch, "cboTarget"};
@@ -33,22 +36,27 @@ class SearchSection {
   void LeaveSameSaros();
   // A running search gives up.
   void GiveUp() { blnSearching = false; }
-  void ShowEclipseText() { lblActualEclipseData.SetCaption(session_.EclipseText()); }
+  // Describes the eclipse on display; nothing where there is none.
+  void ShowEclipse();
+  // The eclipse whose description this is, if the engine has it; nothing else.
+  static std::optional<PhaseNumber> EclipseOf(std::string_view description);
 
  private:
   struct Result;
+  static std::optional<Result> ResultOf(const std::optional<FoundEclipse>& found);
 
   void cmdSearch_Click();
   void optNext_Click();
   void optPrevious_Click();
-  void Search(int target);
-  std::optional<Result> Find(int target, const MomentPhase& at, const std::string& shown_eclipse);
+  bool Search(int target);
+  std::optional<Result> Find(int target, const MomentPhase& at,
+                             const std::optional<PhaseNumber>& described);
   std::optional<Result> FindPhaseTarget(int target, const MomentPhase& at);
   std::optional<Result> FindEclipseTarget(int target, const MomentPhase& at);
-  std::optional<Result> FindSameSaros(const std::string& shown_eclipse);
-  std::optional<Result> TakeEclipse(const std::optional<FoundEclipse>& found);
+  std::optional<Result> FindSameSaros(const PhaseNumber& described);
   std::optional<Result> FindCoincidenceTarget();
   void TakeResult(const Result& result, const std::string& operation);
+  void TellOfNewSeries(const PhaseNumber& described, const PhaseNumber& found);
   bool KeepSearching();
   std::string SearchOperation(int target) const;
 
@@ -56,6 +64,7 @@ class SearchSection {
   Session& session_;
   Desktop& desktop_;
   EntrySection& entry_;
+  frmNotice& notice_;
   bool blnSearching = false;  // a search is to go on
 };
 

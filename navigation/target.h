@@ -9,6 +9,7 @@
 
 #include "engines/instant.h"
 #include "engines/phase_engine.h"
+#include "moon/syzyg.h"
 
 namespace tarnwick {
 
@@ -32,13 +33,6 @@ struct TargetRow {
 };
 inline constexpr int kTargetCount = 16;
 extern const std::array<TargetRow, kTargetCount> kTargets;
-
-// A principal phase by lunation and phase index.
-struct PhaseNumber {
-  std::int32_t lunation = 0;
-  std::int16_t phase = 0;
-  friend bool operator==(const PhaseNumber&, const PhaseNumber&) = default;
-};
 
 // Where a moment stands: the last principal phase at or before it, and whether it is the instant of
 // that phase itself.

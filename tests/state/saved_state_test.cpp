@@ -137,6 +137,21 @@ class SavedState : public testing::Test {
       testing::TempDir() + "tarnwick_state_" + std::to_string(std::random_device()());
 };
 
+// The eclipse on display is the one last found after a restart too, its times as they are read now.
+TEST_F(SavedState, EclipseOnDisplayIsTakenUp) {
+  Answers("start\nchoose cboTarget Total lunar eclipse\nclick cmdSearch\nclick cmdQuit\n");
+  const auto restarted = Answers(
+      "start\nget lblCommonEraDate(1)\nget lblActualEclipseData\nclick cmdSearch\n"
+      "get lblCommonEraDate(1)\nmessages\n");
+  EXPECT_EQ(restarted, (std::vector<std::string>{
+                           "2025-03-14 CE (Friday, March 14, 2025)",
+                           "Total lunar eclipse\\r\\nLunation number = 311\\r\\nSaros number = 123"
+                           "\\r\\nPenumbral phase starts 03:57 and lasts 6h 3m.\\r\\nUmbral phase "
+                           "starts 05:09 and lasts 3h 38m.\\r\\nTotal phase starts 06:26 and lasts "
+                           "1h 5m.\\r\\n",
+                           "2025-09-07 CE (Sunday, September 7, 2025)", "."}));
+}
+
 TEST_F(SavedState, FileIsWrittenAsItWasRead) {
   Write(FileOf(kRecords));
   EXPECT_EQ(Answers("start\nclose frmMain\nmessages\n"), std::vector<std::string>{"."});

@@ -195,8 +195,10 @@ void Driver::EndIfAsked() {
 
 // A waiting program takes the next command; a busy one goes on.
 void Driver::OnYield(YieldMode mode) {
-  if (mode == YieldMode::kPoll) {
+  if (mode != YieldMode::kWait) {
+    only_quitting_ = mode == YieldMode::kOnlyQuitting;
     if (yields_until_during_ > 0 && --yields_until_during_ == 0) Execute(during_command_);
+    only_quitting_ = false;
     return;
   }
   if (ticks_left_ > 0) {
@@ -239,6 +241,7 @@ Form& Driver::FindForm(std::string_view name) {
   Form* form = screen_->Find(name);
   if (form == nullptr) throw CommandError("unknown form: " + std::string(name));
   if (!form->Visible()) throw CommandError(std::string(name) + " is hidden");
+  if (only_quitting_ && form != &Main()) throw CommandError(std::string(name) + " has to wait");
   return *form;
 }
 
@@ -252,7 +255,8 @@ Control& Driver::FindControl(std::string_view name) {
 
 Control& Driver::FindUsable(std::string_view name) {
   Control& control = FindControl(name);
-  if (!control.IsUsable()) throw CommandError(control.Name() + " is disabled or hidden");
+  if (!control.IsUsable() || (only_quitting_ && &control != &Main().cmdQuit))
+    throw CommandError(control.Name() + " is disabled or hidden");
   return control;
 }
 

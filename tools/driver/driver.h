@@ -83,6 +83,7 @@ class Driver {
   int ticks_left_ = 0;           // of a "tick N" that the running move has not had yet
   int yields_until_during_ = 0;  // 0: nothing is to be run
   std::string during_command_;
+  bool only_quitting_ = false;  // the yield takes nothing of the user's but that he quits
 };
 
 }  // namespace tarnwick
