@@ -13,6 +13,15 @@ namespace {
 
 bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
 
+// A remark reaches from the first "(" to the last ")", or to the end.
+std::string_view BeforeRemark(std::string_view text) { return text.substr(0, text.find('(')); }
+
+bool GoesOnAfterRemark(std::string_view text) {
+  const std::size_t begin = text.find('(');
+  const std::size_t end = text.rfind(')');
+  return end != std::string_view::npos && begin < end && end + 1 < text.size();
+}
+
 enum class Sought { kAny, kWithDates };
 
 // The first calendar whose abbreviation occurs anywhere in the text.
@@ -24,15 +33,22 @@ std::optional<Calendar> FindCalendar(std::string_view text, Sought sought) {
   return std::nullopt;
 }
 
-// What stands before the abbreviation.
-std::string_view BeforeAbbreviation(std::string_view text, Calendar calendar) {
-  return text.substr(0, text.find(AbbreviationOf(calendar)));
+// What stands before the abbreviation of a calendar, and what after it.
+struct Parts {
+  std::string_view date;
+  std::string_view time;
+};
+
+Parts SplitAt(std::string_view text, Calendar calendar) {
+  const std::string_view abbreviation = AbbreviationOf(calendar);
+  const std::size_t place = text.find(abbreviation);
+  return {text.substr(0, place), text.substr(place + abbreviation.size())};
 }
 
-// After the abbreviation come the time, a remark in parentheses, or nothing.
-bool IsFollowedProperly(std::string_view text, std::string_view abbreviation) {
-  const std::size_t next = text.find(abbreviation) + abbreviation.size();
-  return next == text.size() || IsDigit(text[next]) || text[next] == '(';
+// Only a time can follow the abbreviation.
+bool IsFollowedProperly(std::string_view text, Calendar calendar) {
+  const std::string_view time = SplitAt(text, calendar).time;
+  return time.empty() || IsDigit(time.front());
 }
 
 bool HasDayCount(std::string_view text) {
@@ -40,26 +56,28 @@ bool HasDayCount(std::string_view text) {
 }
 
 std::int16_t CheckSeparators(std::string_view text) {
-  if (HasDayCount(text)) return CountOf(text, "-") > 1 ? kInvalidDayCount : kEntryOk;
-  return text.find_first_of("./") == std::string_view::npos ? kEntryOk : kInvalidSeparator;
+  const bool day_count = HasDayCount(text);
+  const std::size_t found = day_count ? text.find('-', 1) : text.find_first_of("./");
+  if (found == std::string_view::npos) return kEntryOk;
+  return day_count ? kInvalidDayCount : kInvalidSeparator;
 }
 
-struct DateAndTime {
-  std::string date;
-  double fraction = 0;  // of the day; outside 0 to 1 for a time that there is not
-};
+bool IsOneOrTwoDigits(std::string_view text) {
+  return (text.size() == 1 || text.size() == 2) && IsDigit(text.front()) && IsDigit(text.back());
+}
 
-// Cuts the time of day off at the first colon. Minutes above 59 count on into the next hours.
-DateAndTime SplitTime(std::string text) {
-  if (!Contains(text, ":")) text += "12:00";
+// The fraction of the day, noon where there is no text; nothing for a text that is no time. Minutes
+// above 59 count on into the next hours.
+std::optional<double> ReadTime(std::string_view text) {
+  if (text.empty()) return 0.5;
   const std::size_t colon = text.find(':');
-  const bool two_digit_hour = colon >= 2 && IsDigit(text[colon - 2]);
-  const std::size_t begin = colon - (two_digit_hour ? 2 : 1);
-  std::string time(two_digit_hour ? "" : "0");
-  time.append(text, begin, colon - begin + 3);
-  const double hours = LeadingNumber(std::string_view(time).substr(0, 2));
-  const double minutes = LeadingNumber(std::string_view(time).substr(3));
-  return {text.substr(0, begin), (hours * kMinutesPerHour + minutes) / kMinutesPerDay};
+  if (colon == std::string_view::npos) return std::nullopt;
+  const std::string_view hours = text.substr(0, colon);
+  const std::string_view minutes = text.substr(colon + 1);
+  if (!IsOneOrTwoDigits(hours) || !IsOneOrTwoDigits(minutes)) return std::nullopt;
+  const double fraction =
+      (LeadingNumber(hours) * kMinutesPerHour + LeadingNumber(minutes)) / kMinutesPerDay;
+  return fraction < 1 ? std::optional(fraction) : std::nullopt;
 }
 
 Entry Failed(std::int16_t code) {
@@ -69,12 +87,16 @@ Entry Failed(std::int16_t code) {
 }
 
 Entry ParseDayCount(std::string_view text, const EntryContext& context) {
-  if (!context.history_recall && Contains(text, ":")) return Failed(kTimeNotPermitted);
-  // Another calendar named beside the day count goes first, and no date of one has a single dash.
-  const auto named = FindCalendar(text, Sought::kWithDates);
-  if (named && *named != kOLW) return Failed(RowOf(*named).failure);
+  // Another calendar goes first, and this is none of its dates.
+  if (const auto beside = FindCalendar(text, Sought::kWithDates)) {
+    return Failed(RowOf(*beside).failure);
+  }
   const Calendar calendar = Contains(text, AbbreviationOf(kCJD)) ? kCJD : kAJD;
-  const double count = LeadingNumber(BeforeAbbreviation(text, calendar));
+  const Parts parts = SplitAt(text, calendar);
+  const bool has_time = !parts.time.empty() || Contains(text, ":");
+  if (has_time && !context.history_recall) return Failed(kTimeNotPermitted);
+  if (!IsSignedNumber(parts.date, false)) return Failed(kInvalidDayCount);
+  const double count = LeadingNumber(parts.date);
   Entry entry;
   entry.calendar = calendar;
   entry.ajd =
@@ -90,41 +112,44 @@ ReadDay ParseDay(Calendar calendar, std::string_view date) {
   }
 }
 
-Entry ParseDateAndTime(const std::string& text, const EntryContext& context) {
-  const DateAndTime parts = SplitTime(text);
-  if (parts.fraction < 0 || parts.fraction >= 1) return Failed(kInvalidTime);
-  const auto calendar = FindCalendar(parts.date, Sought::kWithDates);
-  if (!calendar) return Failed(kUnparsable);
-  const ReadDay day = ParseDay(*calendar, BeforeAbbreviation(parts.date, *calendar));
+Entry ParseDateAndTime(std::string_view text, Calendar calendar, const EntryContext& context) {
+  const Parts parts = SplitAt(text, calendar);
+  if (Contains(parts.date, ":")) return Failed(kUnparsable);  // the calendar stands after the time
+  const auto fraction = ReadTime(parts.time);
+  if (!fraction) return Failed(kInvalidTime);
+  const ReadDay day = ParseDay(calendar, parts.date);
   if (day.code != kEntryOk) return Failed(day.code);
   Entry entry;
-  entry.calendar = *calendar;
-  const double time = parts.fraction + RowOf(*calendar).day_shift;
+  entry.calendar = calendar;
+  const double time = *fraction + RowOf(calendar).day_shift;
   entry.ajd = CJDToAJD(LocalCJD(day.day_number.value + time), context.offset_minutes);
   return entry;
 }
 
-Entry ParseWithCalendar(const std::string& text, const EntryContext& context) {
+Entry ParseWithCalendar(std::string_view text, Calendar calendar, const EntryContext& context) {
   const std::int16_t code = CheckSeparators(text);
   if (code != kEntryOk) return Failed(code);
-  return HasDayCount(text) ? ParseDayCount(text, context) : ParseDateAndTime(text, context);
+  return HasDayCount(text) ? ParseDayCount(text, context)
+                           : ParseDateAndTime(text, calendar, context);
 }
 
 }  // namespace
 
 Entry ParseEntry(std::string_view text, const EntryContext& context) {
-  std::string working = RemoveChars(text, ", ");
-  if (working.empty() || (working.front() != '-' && !IsDigit(working.front()))) {
+  const std::string whole = RemoveChars(text, ", ");
+  if (whole.empty() || (whole.front() != '-' && !IsDigit(whole.front()))) {
     return Failed(kInvalidEntry);
   }
+  if (GoesOnAfterRemark(whole)) return Failed(kInvalidTime);
+  std::string working(BeforeRemark(whole));
   const std::optional<Calendar> named = FindCalendar(working, Sought::kAny);
   if (named) {
-    return IsFollowedProperly(working, AbbreviationOf(*named)) ? ParseWithCalendar(working, context)
-                                                               : Failed(kCalendarMissing);
+    return IsFollowedProperly(working, *named) ? ParseWithCalendar(working, *named, context)
+                                               : Failed(kCalendarMissing);
   }
   if (Contains(text, " ")) return Failed(kCalendarMissing);
   working += AbbreviationOf(context.current_calendar);
-  Entry entry = ParseWithCalendar(working, context);
+  Entry entry = ParseWithCalendar(working, context.current_calendar, context);
   entry.calendar_supplied = true;
   return entry;
 }

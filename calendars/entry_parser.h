@@ -24,9 +24,10 @@ struct Entry {
   bool calendar_supplied = false;    // the text named no calendar and the current one was taken
 };
 
-// Reads one entry such as "2003-12-31 CE 15:55": a date, the abbreviation of its calendar, a time
-// (noon when there is none) and perhaps a remark in parentheses. The text is trimmed and in upper
-// case; blanks and commas in it do not count. Never throws.
+// Reads one entry such as "2003-12-31 CE 15:55 (local)": a date, the abbreviation of its calendar,
+// a time "H:MM" (noon when there is none; none beside a day count) and perhaps a remark in
+// parentheses, which is not read and ends the entry. The text is trimmed and in upper case; blanks
+// and commas in it do not count. Never throws.
 Entry ParseEntry(std::string_view text, const EntryContext& context);
 
 }  // namespace tarnwick

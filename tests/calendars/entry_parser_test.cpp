@@ -6,6 +6,8 @@
 #include <string>
 
 #include "calendars/calendar_table.h"
+#include "calendars/date_texts.h"
+#include "calendars/text.h"
 
 namespace tarnwick {
 namespace {
@@ -24,8 +26,9 @@ TEST(ParseEntry, ReadsTheMomentOfEveryForm) {
       {"2000-01-01 CE 23:59", kCE, 2451545 + 1439 / 1440.0},
       {"2000-01-01 CE 10:75", kCE, 2451545 + 675 / 1440.0},
       {"2000-01-01 CE 10:5", kCE, 2451545 + 605 / 1440.0},
-      {"2000-01-01 CE 10:", kCE, 2451545 + 600 / 1440.0},
       {"2000-01-01 CE 15:55 (LOCAL = GMT+05:30)", kCE, 2451545 + 955 / 1440.0},
+      {"2000-01-01 CE (LOCAL = GMT+05:30", kCE, 2451545.5},
+      {"2000-01-01 CE (A) 15:55 (B) ", kCE, 2451545.5},
       {"1999-12-19 JC 12:00", kJC, 2451545.5},
       {"-3200-01-01 CE 0:00", kCE, 552284.0},
       {"4708-11-11 ARC", kARC, 2455901.5},
@@ -37,7 +40,7 @@ TEST(ParseEntry, ReadsTheMomentOfEveryForm) {
       {"105-13-11 KSG", kKSG, 2455901.5},
       {"0-470-13-29 KSG 6:00", kKSG, 2415610.25},
       {"2,451,545.25 CJD", kCJD, 2451545.25},
-      {"2451545 AJD", kAJD, 2451545.5},
+      {"2451545 AJD (GREENWICH; LOCAL = GMT-03:30)", kAJD, 2451545.5},
       {"2000-01-01", kCE, 2451545.5},
   };
   for (const GoodEntry& expected : entries) {
@@ -64,16 +67,30 @@ TEST(ParseEntry, RefusesWithTheCodeOfTheFirstFault) {
       {"2000-01-01 CE X", kCalendarMissing},
       {"2000-01-01 CE -5", kCalendarMissing},
       {"2451545 CJD:", kCalendarMissing},
+      {"(A) 2000-01-01 CE", kInvalidEntry},
+      {"2000-01-01 CE (A) 15:55", kInvalidTime},
+      {"2451545 AJD (A) 5", kInvalidTime},
       {"2451545 AJD 12:00", kTimeNotPermitted},
+      {"2451545 AJD 12", kTimeNotPermitted},
+      {"12:00 2451545 AJD", kTimeNotPermitted},
       {"2000-01-01 CE 24:00", kInvalidTime},
       {"2000-01-01 CE 23:60", kInvalidTime},
       {"2000-01-01 CE 0:-5", kInvalidTime},
+      {"2000-01-01 CE 10:", kInvalidTime},
+      {"2000-01-01 CE 3PM", kInvalidTime},
+      {"2000-01-01 CE 1530", kInvalidTime},
+      {"2000-01-01 CE 1:30 PM", kInvalidTime},
+      {"2000-01-01 CE 15:55:30", kInvalidTime},
+      {"2000-01-01 CE 15:55+02:00", kInvalidTime},
+      {"2000-01-01 CE 99915:55", kInvalidTime},
+      {"2000-01-01 CE 15:555", kInvalidTime},
+      {"2000-01-01 CE 15:55)", kInvalidTime},
       {"2000.01.01 CE", kInvalidSeparator},
       {"2000/01/01 CE", kInvalidSeparator},
       {"2000-13-01 CE", kInvalidCE},
       {"2001-02-29 CE", kInvalidCE},
       {"2000-01 CE", kInvalidCE},
-      {"5 CE (CJD)", kInvalidCE},  // the date goes before the remark
+      {"2023 CE 2451545 AJD", kInvalidCE},
       {"99999999999-01-01 CE", kInvalidCE},
       {"2001-02-29 JC", kInvalidJC},
       {"4708-14-01 ARC", kInvalidARC},
@@ -88,8 +105,13 @@ TEST(ParseEntry, RefusesWithTheCodeOfTheFirstFault) {
       {"1-471-01-01 KSG", kInvalidKSG},
       {"9999999-105-13-11 KSG", kInvalidKSG},
       {"1-1 KSG", kInvalidKSG},
+      {"5011 OLW 2451545 AJD", kInvalidOLW},
       {"-1-2 CJD", kInvalidDayCount},
-      {"2000-01-01 15:55 CE", kUnparsable},  // no calendar is left before the time
+      {"2-1 CJD", kInvalidDayCount},
+      {"1E9 AJD", kInvalidDayCount},
+      {"5 AJD 2451545 CJD", kInvalidDayCount},
+      {"2000-01-01 15:55 CE", kUnparsable},  // no calendar is named before the time
+      {"2000-01-01 JC 12:00 CE", kUnparsable},
       {"12:00", kUnparsable},
   };
   for (const BadEntry& expected : entries) {
@@ -119,8 +141,26 @@ TEST(ParseEntry, ReadsInTheGivenZoneExceptAstronomicalDates) {
   }
 }
 
+// The captions hold "December", in which CE stands, "Tuesday" with SD, zones and commas.
+TEST(ParseEntry, ReadsEveryLongFormBack) {
+  constexpr double kFirst = 552284.25;
+  constexpr double kLast = 3912514;
+  constexpr double kStep = 9973.21;  // so that every day of week, month and year comes
+  for (const int offset : {-720, -210, 0, 330, 720}) {
+    for (double ajd = kFirst; ajd < kLast; ajd += kStep) {
+      for (const Calendar calendar : kCalendars) {
+        const std::string shown = DateTextsOf(calendar, UniversalTime(ajd), offset).long_form;
+        const Entry entry = ParseEntry(UpperCase(shown), {kCE, offset, false});
+        ASSERT_EQ(entry.code, kEntryOk) << shown;
+        EXPECT_EQ(entry.calendar, calendar) << shown;
+        EXPECT_EQ(DateTextsOf(calendar, entry.ajd, offset).long_form, shown);
+      }
+    }
+  }
+}
+
 TEST(ParseEntry, RecalledDayCountsMayCarryATime) {
-  const Entry entry = ParseEntry("2,451,545.0000 AJD (LOCAL = GMT+05:30)", {kCE, 0, true});
+  const Entry entry = ParseEntry("2,451,545.0000 AJD 15:55 (LOCAL = GMT+05:30)", {kCE, 0, true});
   EXPECT_EQ(entry.code, kEntryOk);
   EXPECT_EQ(entry.ajd, UniversalTime(2451545.0));
 }
