@@ -21,6 +21,8 @@ static_assert(kAccentedCapitals.size() == kAccentedSmall.size());
 
 // The place of a two-byte letter in one of the lists, or npos.
 std::size_t FindLetter(std::string_view list, std::string_view letter) {
+  const bool ascii = static_cast<unsigned char>(letter.front()) < 0x80;
+  if (ascii) return std::string_view::npos;
   for (std::size_t place = 0; place < list.size(); place += 2) {
     if (list.substr(place, 2) == letter) return place;
   }
