@@ -1,5 +1,6 @@
 #include "moment/entry_section.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string_view>
 
@@ -15,6 +16,11 @@ namespace {
 
 // About a minute: what the displayed text loses of a moment's seconds is no new moment.
 constexpr double kSameMoment = 0.0007;
+
+// Half the last decimal of a day count on display, and a little for the last bits of a sum.
+constexpr double kHalfADecimal = 0.00005 + 1e-8;
+
+bool IsShownAlike(UniversalTime a, UniversalTime b) { return std::fabs(a - b) <= kHalfADecimal; }
 
 // The days of a text that passes as a signed number, without its "+" and ",".
 double DayCountValue(std::string_view text) { return LeadingNumber(RemoveChars(text, "+,")); }
@@ -128,6 +134,7 @@ void EntrySection::CopyDateToEntryBox() {
   txbDate.SetText(DateTextsOf(calendar, session_.Moment(), session_.ReadingOffset()).short_form);
   if (!IsDayCount(calendar)) CopyTimeToEntryBox();
   strCopiedEntry = txbDate.Text();
+  dblCopiedMoment = session_.Moment();
   session_.hooks.focus_on_date();
 }
 
@@ -140,6 +147,7 @@ void EntrySection::CopyTimeToEntryBox() {
   constexpr std::size_t kTimeBeforeColon = 3;  // a blank and two digits
   std::string text = txbDate.Text();
   if (text.size() < kShortestDate) return;
+  text.resize(std::min(text.find('('), text.size()));  // a remark may hold the time of a zone
   const std::size_t colon = text.find(':');
   if (colon != std::string::npos)
     text.resize(colon < kTimeBeforeColon ? 0 : colon + 1 - kTimeBeforeColon);
@@ -155,11 +163,27 @@ Entry EntrySection::ParseDateEntry(const std::string& text) {
     normalised = txbDate.Text();
   }
   const Calendar current = session_.CurrentCalendar();
-  const Entry entry = ParseEntry(normalised, {current, session_.ReadingOffset(), recalled});
+  Entry entry = ParseEntry(normalised, {current, session_.ReadingOffset(), recalled});
   if (entry.calendar_supplied) {
-    txbDate.SetText(txbDate.Text() + " " + std::string(AbbreviationOf(current)));
+    std::string supplied = txbDate.Text();
+    supplied.insert(std::min(supplied.find('('), supplied.size()),
+                    " " + std::string(AbbreviationOf(current)));
+    txbDate.SetText(supplied);
+  }
+  if (entry.code == kEntryOk && IsDayCount(*entry.calendar)) {
+    entry.ajd = MomentOfDayCount(normalised, entry.ajd);
   }
   return entry;
+}
+
+// A day count as it was copied stands for the moment that it was copied from, and one that cannot
+// be told from a limit for that.
+UniversalTime EntrySection::MomentOfDayCount(const std::string& text, UniversalTime read) const {
+  if (text == strCopiedEntry && IsShownAlike(read, dblCopiedMoment)) return dblCopiedMoment;
+  for (const UniversalTime limit : {kLowerLimit, kUpperLimit}) {
+    if (IsShownAlike(read, limit)) return limit;
+  }
+  return read;
 }
 
 bool EntrySection::TakeUpTypedMoment() {

@@ -60,11 +60,13 @@ class EntrySection {
   void optMinus_Click();
   void ReportDateEntryError(std::int16_t code);
   std::string ConvertOperation(const std::string& days) const;
+  UniversalTime MomentOfDayCount(const std::string& text, UniversalTime read) const;
 
   Form& form_;
   Session& session_;
   Desktop& desktop_;
-  std::string strCopiedEntry;  // what was last copied to the date box
+  std::string strCopiedEntry;     // what was last copied to the date box
+  UniversalTime dblCopiedMoment;  // and the moment, of which that may show less
 };
 
 }  // namespace tarnwick
