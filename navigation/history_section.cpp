@@ -108,8 +108,12 @@ std::string HistorySection::AddHistoryEntry(const std::string& date, std::int16_
     SelectNewest();
     return "";
   }
-  if (cboHistory.ListCount() == kMaximumHistory) cboHistory.RemoveItem(0);
+  if (cboHistory.ListCount() == kMaximumHistory) {
+    cboHistory.RemoveItem(0);
+    moments_.erase(moments_.begin());
+  }
   cboHistory.AddItem(entry, eclipse_type);
+  moments_.push_back(session_.Moment());
   SelectNewest();
   return entry;
 }
@@ -136,12 +140,13 @@ void HistorySection::RecallHistory() {
   const std::string text = cboHistory.Text();
   time_.Select(Contains(text, "Greenwich;"), RecalledOffset(text));
 
-  const Entry read = entry_.ParseDateEntry(text);
+  Entry read = entry_.ParseDateEntry(text);
   if (read.code != kEntryOk) {
     desktop_.ShowMessage({"Error" + std::to_string(read.code) + " when selecting from History.",
                           "Error", MessageIcon::kExclamation});
     return;
   }
+  if (read.calendar == kAJD) read.ajd = moments_[static_cast<std::size_t>(cboHistory.ListIndex())];
   session_.SetCalendar(*read.calendar);
   session_.SetMoment(read.ajd);
   session_.hooks.show_moment();

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "controls/controls.h"
 #include "controls/desktop.h"
@@ -44,8 +45,9 @@ class HistorySection {
   EntrySection& entry_;
   TimeSection& time_;
   Trail trail_;
-  bool blnAddingHistory = false;      // an entry is being added
-  std::int16_t intHistoryIndex = -1;  // of the entry last added or selected
+  std::vector<UniversalTime> moments_;  // of the entries, of which they may show less
+  bool blnAddingHistory = false;        // an entry is being added
+  std::int16_t intHistoryIndex = -1;    // of the entry last added or selected
 };
 
 }  // namespace tarnwick
