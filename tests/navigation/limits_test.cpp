@@ -1,7 +1,13 @@
 // Moves and searches at the ends of the accepted range and beyond.
+#include <cmath>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 
+#include "calendars/date_texts.h"
+#include "calendars/entry_parser.h"
+#include "engines/checked_arithmetic.h"
+#include "moon/moon_data.h"
 #include "navigation/step.h"
 #include "navigation/target.h"
 #include "tests/driver_answers.h"
@@ -54,6 +60,63 @@ TEST(Limits, SearchesNearThemEnd) {
       const std::string beyond = std::string("exclamation|ok|Out of range|") + limit.message + "\n";
       while (shown.starts_with(beyond)) shown.erase(0, beyond.size());
       EXPECT_EQ(shown, ".\n1\n");
+    }
+  }
+}
+
+// What no entry can make the window show still has an answer, or is refused.
+template <class Value>
+void ExpectFiniteOrRefused(const Value& value) {
+  try {
+    EXPECT_TRUE(std::isfinite(value()));
+  } catch (const RuntimeError&) {
+  }
+}
+
+TEST(Limits, NoMomentIsTooFarForAnAnswer) {
+  constexpr int kOffset = 720;
+  const std::pair<const char*, EntryCode> entries[] = {
+      {"0 AJD", kEntryOk},
+      {"200000000 AJD", kEntryOk},
+      {"-1000000000 AJD", kEntryOk},
+      {"2147483647.99999 CJD", kEntryOk},
+      {"-2147483648 CJD", kEntryOk},
+      {"99999999999999 CJD", kEntryOk},
+      {"1000000-1-1 CE", kEntryOk},
+      {"-2147483648-1-1 CE", kInvalidCE},
+      {"2147483647-12-31 JC", kInvalidJC},
+      {"-5870000-1-1 ARC", kEntryOk},
+      {"2147483647-1-1 ARC", kInvalidARC},
+      {"-98072-1-1-1 SD", kEntryOk},
+      {"32767-60-12-1 SD", kEntryOk},
+      {"2147483647-60-13-30 SD", kInvalidSD},
+      {"15763-1-1-1-1 LLT", kEntryOk},
+      {"-2147483648-1-1-1-1 LLT", kInvalidLLT},
+      {"11889-1-1-1 KSG", kEntryOk},
+      {"-2147483648-1-1-1 KSG", kInvalidKSG},
+      {"12999-1-1-1 OLW", kEntryOk},
+      {"-6999-1-1-1 OLW", kEntryOk},
+      {"2147483647-1-1-1 OLW", kInvalidOLW},
+  };
+  for (const auto& [text, code] : entries) {
+    SCOPED_TRACE(text);
+    const Entry entry = ParseEntry(text, {kCE, kOffset, false});
+    EXPECT_EQ(entry.code, code);
+    if (code != kEntryOk) continue;
+    for (const Calendar calendar : kCalendars) {
+      ExpectFiniteOrRefused([&] {
+        return static_cast<double>(DateTextsOf(calendar, entry.ajd, kOffset).long_form.size());
+      });
+    }
+    ExpectFiniteOrRefused([&] {
+      const MoonData moon = MoonDataAt(entry.ajd);
+      return moon.age + moon.length + moon.fraction;
+    });
+    for (int step = 0; step < kStepCount; ++step) {
+      for (const bool forward : {true, false}) {
+        ExpectFiniteOrRefused(
+            [&] { return StepMoment(step, forward, entry.ajd, kOffset, "").days; });
+      }
     }
   }
 }

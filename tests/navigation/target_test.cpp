@@ -1,6 +1,7 @@
 #include "navigation/target.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 #include <string>
 
 #include "moon/phase_cache.h"
@@ -127,8 +128,11 @@ TEST(Targets, CoincidencesAreNotFoundTwice) {
 }
 
 TEST(Targets, CoincidencesEndWhereTheNumbersDo) {
-  EXPECT_FALSE(FindCoincidence(DayNumber(2147483600), true, Always));
-  EXPECT_FALSE(FindCoincidence(DayNumber(-2147483600), false, Always));
+  using Numbers = std::numeric_limits<std::int32_t>;
+  for (const int inside : {0, 40}) {
+    EXPECT_FALSE(FindCoincidence(DayNumber(Numbers::max() - inside), true, Always));
+    EXPECT_FALSE(FindCoincidence(DayNumber(Numbers::min() + inside), false, Always));
+  }
 }
 
 }  // namespace
