@@ -44,7 +44,8 @@ constexpr std::string_view kEnteringDates =
 
 - The parts of a date are joined by dashes; leading zeros may be left out.
 - Without an abbreviation the current calendar is taken.
-- Without a time, noon is taken. Times are hours and minutes from 0:00 to 23:59, after the abbreviation; seconds and AM or PM are not read.
+- Without a time, noon is taken. A time is hours, a colon and minutes, from 0:00 to 23:59, and nothing more; it stands after the abbreviation. 3pm, 1530 or 15:55:30 are refused.
+- A remark in brackets ends the entry and is not read. So a date on display can be pasted as it stands, with its weekday.
 - Blanks, commas and the case of letters do not count.
 
 An entry that is the current moment already is not computed again; a message says that there is nothing to do.
@@ -66,7 +67,7 @@ An entry that is the current moment already is not computed again; a message say
     105-13-11 KSG
 - OLW: year-month-week-day. Its day begins at 6 o'clock, and so does its time: 06:00 OLW is noon. Without a time, 12:00 OLW is taken, which is 18:00 on the clock.
     5011-09-2-3 OLW 06:00
-- CJD and AJD: a number of days. The time is its fraction, so none is added.
+- CJD and AJD: a number of days. The time is its fraction, so none is added. Copied by the program it stands for the whole moment, of which its four decimals show no seconds.
     2,455,901.5 CJD
     2455901 AJD
 
