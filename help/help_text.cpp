@@ -22,7 +22,7 @@ After Now the moment follows the clock until you compute, move, search or recall
 
 Greenwich and local say in which time dates are read and shown; switching between them leaves the moment as it is. Local time is that of the chosen time zone. Choosing another zone keeps the local date and time and so moves the moment.
 
-The list of zones starts at GMT. Choose your computer's own zone once, and again when summer time changes it; then the time after Now is that of its clock.
+At the first start the zone is that of your computer, and Now shows the time of its clock. Choose it again when summer time changes it. A zone that would lead out of the accepted range is refused.
 
 # Range and state
 
@@ -35,6 +35,7 @@ Moments from -3200-01-01 CE to 6000-01-01 CE are accepted. When you quit, the mo
 - F1 opens this help.
 - Ctrl+S saves the state at once.
 - Ctrl+P opens the log preferences.
+- Alt+Left and Alt+Right lead back to what was shown before, and forward again.
 - Alt with an underlined letter does what is written there.)";
 
 constexpr std::string_view kEnteringDates =
@@ -96,13 +97,17 @@ Choose a target, next or previous, and click Search. Dark moon is the new moon, 
 
     1999-08-11 CE 11:03 (GMT)
 
-"Eclipse in same saros series" needs an eclipse on display: find one first. From this one, the next is that of 2017-08-21 CE.
+"Eclipse in same saros series" needs an eclipse on display: find one first. From this one, the next is that of 2017-08-21 CE. Where the series ends, or going back begins, a notice says so and names the series of the eclipse found instead.
+
+The times in the description are those of the eclipse itself, read as Greenwich or local time like the others. A typed date, a move and another zone take the description away.
 
 "Coincidence of 1sts of month" finds a day on which SD, ARC, LLT and KSG begin a month together, such as 2000-04-04 CE. Escape gives a search up.
 
 # History and Reset
 
 History holds the last eight results; choose one to return to it. This sets the time zone to GMT. If a local entry names another zone, such as (local = GMT-03:30), choose that zone again to be back at its moment; entries in Greenwich time or AJD do not need it.
+
+The buttons < and > beside the history, or Alt+Left and Alt+Right, lead back to whatever was shown before and forward again, up to a hundred results, each with its exact moment, calendar, time system, zone and eclipse. They write neither history nor log.
 
 Reset sets calendar, time system, directions, step, pace and target to their defaults, ends logging and goes to the present. The time zone stays.)";
 
