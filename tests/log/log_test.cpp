@@ -94,9 +94,11 @@ TEST_F(LogTest, CaptionThatCannotBeCutIsReportedAndWhatWasWrittenStays) {
         Case{form_.dates.lblKSGDate[1], "KSG", "  KSG="},
         Case{form_.moon.lblPhaseOfMoon[1], "Moon", ".0000  \r\n"}}) {
     form_.log.log_window.ShowText("begun\r\n");
-    form_.move.cmdMove.Click();
+    const std::string shown = label.Caption();
     label.SetCaption(caption);
+    form_.log.AddLogEntry({"2000-01-01 CE", "Convert date", ""});
     form_.log.cmdLogThisResult.Click();
+    label.SetCaption(shown);
     const auto messages = desktop_.TakeMessages();
     ASSERT_EQ(messages.size(), 1U) << caption;
     EXPECT_EQ(messages[0].title, "Error when adding log entry.");
@@ -106,7 +108,7 @@ TEST_F(LogTest, CaptionThatCannotBeCutIsReportedAndWhatWasWrittenStays) {
   }
 }
 
-TEST_F(LogTest, FullLogIsClearedOnlyAfterTwoQuestions) {
+TEST_F(LogTest, FullLogIsClearedOnlyAfterTwoQuestionsAndTheEntryIsNotLost) {
   struct Case {
     std::vector<MessageAnswer> answers;
     bool cleared;
@@ -126,7 +128,16 @@ TEST_F(LogTest, FullLogIsClearedOnlyAfterTwoQuestions) {
     EXPECT_EQ(messages[0].buttons, MessageButtons::kYesNo);
     EXPECT_EQ(messages.back().text,
               answers.size() == 1 ? "Log is full.  Clear log?" : "Erase all data in the log?");
-    EXPECT_EQ(Text(), cleared ? "" : almost_full);
+    EXPECT_EQ(form_.log.cmdLogThisResult.Enabled(), !cleared);
+    if (!cleared) {
+      EXPECT_EQ(Text(), almost_full);
+      form_.log.log_window.ShowText("");
+      form_.log.cmdLogThisResult.Click();
+    }
+    EXPECT_TRUE(Text().starts_with("Tarnwick 18.0\r\n")) << Text();
+    EXPECT_NE(Text().find("Move forward 1 day.\r\n" + form_.history.cboHistory.Text()),
+              std::string::npos)
+        << Text();
   }
 }
 
