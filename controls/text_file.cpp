@@ -122,7 +122,7 @@ std::string WriteTextFile(const std::filesystem::path& path, std::string_view te
   return ErrorOf([&] { Replace(FollowLinks(path), text); });
 }
 
-std::string AppendToTextFile(const std::filesystem::path& path, std::string_view text) {
+std::string AppendToTextFile(const std::filesystem::path& path, std::string_view lines) {
   return ErrorOf([&] {
     const fs::path file = FollowLinks(path);
     const auto turn = TakeTurn(file.parent_path());
@@ -131,8 +131,9 @@ std::string AppendToTextFile(const std::filesystem::path& path, std::string_view
       const auto before = ReadTextFile(file, fs::file_size(file));
       if (!before) Throw(std::errc::io_error);
       whole = *before;
+      if (!whole.empty() && whole.back() != '\n') whole += "\r\n";
     }
-    Replace(file, whole.append(text));
+    Replace(file, whole.append(lines));
   });
 }
 

@@ -19,8 +19,8 @@ std::optional<std::string> ReadTextFile(const std::filesystem::path& path, std::
 // is refused. Returns what went wrong, in words, empty if nothing did.
 std::string WriteTextFile(const std::filesystem::path& path, std::string_view text);
 
-// Adds a text at the end of a file, likewise whole or not at all; a file that is not there is made.
+// Adds lines at the end of a file, likewise whole or not at all; a file that is not there is made.
 // Programs that do so at the same time take turns: each may have to wait for some seconds.
-std::string AppendToTextFile(const std::filesystem::path& path, std::string_view text);
+std::string AppendToTextFile(const std::filesystem::path& path, std::string_view lines);
 
 }  // namespace tarnwick

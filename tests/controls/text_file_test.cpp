@@ -92,7 +92,7 @@ TEST_F(TextFile, WhatIsNoFileToBeWrittenIsRefusedAndStays) {
 
 // Without turns, one addition would often replace another.
 TEST_F(TextFile, AdditionsAtTheSameTimeAllSurvive) {
-  Put(file_, "begun");
+  Put(file_, "begun");  // a line that has no end
   std::vector<std::thread> programs;
   for (const char sign : {'a', 'b', 'c'}) {
     programs.emplace_back([this, sign] {
@@ -101,7 +101,7 @@ TEST_F(TextFile, AdditionsAtTheSameTimeAllSurvive) {
   }
   for (std::thread& program : programs) program.join();
   const std::string text = Read(file_);
-  EXPECT_TRUE(text.starts_with("begun"));
+  EXPECT_TRUE(text.starts_with("begun\r\n"));
   for (const char sign : {'a', 'b', 'c'})
     EXPECT_EQ(std::ranges::count(text, sign), 10000 + (sign == 'b'));
   EXPECT_EQ(Names().size(), 1U);
@@ -156,18 +156,18 @@ TEST_F(TextFile, OldDraftsAndTurnsOfOursAreRemoved) {
 
 // As on a full disk.
 TEST_F(TextFile, FailedWriteLeavesTheEarlierFile) {
-  Put(file_, "earlier");
+  Put(file_, "earlier\n");
   signal(SIGXFSZ, SIG_IGN);
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
   const rlimit small{100, before.rlim_max};
   setrlimit(RLIMIT_FSIZE, &small);
   const std::string failures[] = {WriteTextFile(file_, std::string(101, 'x')),
-                                  AppendToTextFile(file_, std::string(94, 'x')),
-                                  AppendToTextFile(file_, std::string(93, 'x'))};
+                                  AppendToTextFile(file_, std::string(93, 'x')),
+                                  AppendToTextFile(file_, std::string(92, 'x'))};
   setrlimit(RLIMIT_FSIZE, &before);
   EXPECT_THAT(failures, testing::ElementsAre("File too large", "File too large", ""));
-  EXPECT_EQ(Read(file_), "earlier" + std::string(93, 'x'));
+  EXPECT_EQ(Read(file_), "earlier\n" + std::string(92, 'x'));
   EXPECT_EQ(Names().size(), 1U);
 }
 
