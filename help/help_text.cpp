@@ -30,7 +30,7 @@ Moments from -3200-01-01 CE to 6000-01-01 CE are accepted. When you quit, the mo
 
 # Saving files
 
-Whatever you save replaces an earlier file only when the new one is complete. If saving fails, a message says why, and the earlier file is still there. A write-protected file stays as it is. A symbolic link stays a link: the file that it leads to is written.
+Whatever you save replaces an earlier file only when the new one is complete. If saving fails, a message says why, and the earlier file is still there. A write-protected file stays as it is.
 
 # Keys
 
