@@ -161,14 +161,11 @@ void frmMain::Form_KeyPress(int& key) {
   if (key == kEscapeKey) search.GiveUp();
 }
 
-void frmMain::Form_Unload(bool& /*cancel*/) {
-  if (log.log_window.IsLoaded()) log.log_window.Close();
-  cmdQuit_Click();
-}
+void frmMain::Form_Unload(bool& /*cancel*/) { cmdQuit_Click(); }
 
 // A running move or search sees it at its next pass and ends.
 void frmMain::cmdQuit_Click() {
-  SaveState();
+  SaveAll();
   session_.End();
   desktop_.EndProgram();
 }

@@ -85,7 +85,8 @@ class frmMain final : public Form {
   // Saved state (saved_state.cpp).
   void cmdSaveState_Click();
   void RestoreState();
-  bool SaveState();  // false after telling the user of an error
+  std::string WriteState();  // what went wrong, empty if nothing did
+  void SaveAll();
   // What is kept from one run to the next, in the order of the file.
   std::vector<StateRecord> StateRecords();
   StateRecord MomentRecord();

@@ -9,6 +9,7 @@
 namespace tarnwick {
 namespace {
 
+constexpr char kSaveTitle[] = "Save state";
 constexpr std::size_t kLargestFile = 65536;  // bytes; a true one has about 400
 
 // A description has at most about 250; more would let the file grow beyond what is read.
@@ -115,16 +116,31 @@ void frmMain::RestoreState() {
   }
 }
 
-bool frmMain::SaveState() {
-  if (!state_file_) return true;
-  const std::string error = WriteTextFile(*state_file_, StateText(StateRecords()));
-  if (error.empty()) return true;
-  ReportSaveError(desktop_, "the state", "Save state", error);
-  return false;
+std::string frmMain::WriteState() {
+  if (!state_file_) return {};
+  return WriteTextFile(*state_file_, StateText(StateRecords()));
+}
+
+// At the end of the program, which no error may put off: the user is told of all in one message.
+void frmMain::SaveAll() {
+  const std::string state_error = WriteState();
+  const std::string log_error = log.log_window.Keep();
+  std::string text;
+  if (!state_error.empty()) text = SaveErrorText("the state", state_error);
+  if (!log_error.empty()) {
+    text += (text.empty() ? "" : "\r\n") + SaveErrorText("the log", log_error);
+  }
+  if (text.empty()) return;
+  const char* const title = state_error.empty() ? frmLog::kSaveTitle : kSaveTitle;
+  desktop_.ShowMessage({text, title, MessageIcon::kExclamation});
 }
 
 void frmMain::cmdSaveState_Click() {
-  if (!SaveState()) return;
+  const std::string error = WriteState();
+  if (!error.empty()) {
+    ReportSaveError(desktop_, "the state", kSaveTitle, error);
+    return;
+  }
   blnSaved = true;
   UpdateAvailability();
   move.TakeFocus();

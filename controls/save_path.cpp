@@ -6,13 +6,17 @@ namespace tarnwick {
 namespace {
 
 bool UserReplaces(Desktop& desktop, const std::string& title, const std::filesystem::path& file) {
-  const std::u8string name = file.filename().u8string();
-  return desktop.ShowMessage(
-             {std::string(name.begin(), name.end()) + " already exists.  Replace it?", title,
-              MessageIcon::kQuestion, MessageButtons::kYesNo}) == MessageAnswer::kYes;
+  return desktop.ShowMessage({PathText(file.filename()) + " already exists.  Replace it?", title,
+                              MessageIcon::kQuestion, MessageButtons::kYesNo}) ==
+         MessageAnswer::kYes;
 }
 
 }  // namespace
+
+std::string PathText(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
 
 std::optional<std::filesystem::path> AskWhereToSave(Desktop& desktop, const std::string& title,
                                                     const std::string& suggestion) {
@@ -23,10 +27,13 @@ std::optional<std::filesystem::path> AskWhereToSave(Desktop& desktop, const std:
   return std::nullopt;
 }
 
+std::string SaveErrorText(const std::string& what, const std::string& error) {
+  return "Error when attempting to save " + what + ": " + error;
+}
+
 void ReportSaveError(Desktop& desktop, const std::string& what, const std::string& title,
                      const std::string& error) {
-  desktop.ShowMessage(
-      {"Error when attempting to save " + what + ": " + error, title, MessageIcon::kExclamation});
+  desktop.ShowMessage({SaveErrorText(what, error), title, MessageIcon::kExclamation});
 }
 
 }  // namespace tarnwick

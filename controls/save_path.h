@@ -14,7 +14,13 @@ namespace tarnwick {
 std::optional<std::filesystem::path> AskWhereToSave(Desktop& desktop, const std::string& title,
                                                     const std::string& suggestion);
 
-// Tells the user that saving `what`, "the log", has failed, and how.
+// A path as the user reads it, in UTF-8.
+std::string PathText(const std::filesystem::path& path);
+
+// What the user is told when saving `what`, "the log", has failed, and how.
+std::string SaveErrorText(const std::string& what, const std::string& error);
+
+// Tells it.
 void ReportSaveError(Desktop& desktop, const std::string& what, const std::string& title,
                      const std::string& error);
 

@@ -27,11 +27,8 @@ HistoryView::HistoryView(HistorySection& section, Binder& binder, QWidget* paren
   binder.Bind(section.fraHistory, *this);
   auto* row = new QHBoxLayout;
   row->setSpacing(Spacing(*this));
-  for (Button* button : {&section.cmdBack, &section.cmdForward}) {
-    QPushButton* push = MakeButton(binder, *button, this);
-    push->setFixedWidth(2 * fontMetrics().height());
-    row->addWidget(push);
-  }
+  row->addWidget(MakeButton(binder, section.cmdBack, this));
+  row->addWidget(MakeButton(binder, section.cmdForward, this));
   auto* entries = new QComboBox(this);
   ReserveWidth(*entries, kLongestEntry);
   binder.Bind(section.cboHistory, *entries);

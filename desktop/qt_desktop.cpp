@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QBuffer>
 #include <QClipboard>
 #include <QDateTime>
 #include <QFileDialog>
@@ -9,9 +10,9 @@
 #include <QGridLayout>
 #include <QImage>
 #include <QMessageBox>
-#include <QSaveFile>
 
 #include "controls/form.h"
+#include "controls/text_file.h"
 #include "desktop/characters.h"
 #include "desktop/look.h"
 #include "desktop/platform.h"
@@ -129,9 +130,12 @@ std::string QtDesktop::SaveImage(const Control& area, const std::filesystem::pat
   image.setDevicePixelRatio(ratio);
   image.fill(Look::kWindow);
   widget->render(&image, {}, {}, QWidget::DrawChildren);
-  QSaveFile out(QFileInfo(file).filePath());
-  const bool written = out.open(QIODevice::WriteOnly) && image.save(&out, "PNG") && out.commit();
-  return written ? "" : FromQt(out.errorString());
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG")) {
+    return "The picture cannot be made.";
+  }
+  return WriteTextFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 std::optional<std::filesystem::path> QtDesktop::StateFile() const {

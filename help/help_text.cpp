@@ -26,7 +26,11 @@ At the first start the zone is that of your computer, and Now shows the time of 
 
 # Range and state
 
-Moments from -3200-01-01 CE to 6000-01-01 CE are accepted. When you quit, the moment, the zone and your other choices are saved, and the next run begins with them.
+Moments from -3200-01-01 CE to 6000-01-01 CE are accepted. When you quit, the moment, the zone and your other choices are saved, and the next run begins with them. They lie in the file tnwk.usr in the folder "Ostrel Systems" of %APPDATA% on Windows, of ~/.config elsewhere.
+
+# Saving files
+
+Whatever you save replaces an earlier file only when the new one is complete. If saving fails, a message says why, and the earlier file is still there. A write-protected file stays as it is.
 
 # Keys
 
@@ -114,7 +118,7 @@ Reset sets calendar, time system, directions, step, pace and target to their def
 constexpr std::string_view kTheLog =
     R"(The log is plain text that takes what you find.
 
-Check "Log all results" to log every result as it comes. Otherwise "Log this result" logs the last one, once. A result that repeats the newest of the history is not logged again. "View log" opens the log.
+Check "Log all results" to log every result as it comes. Otherwise "Log this result" logs the last one, once, as it was shown when it was found. A result that repeats the newest of the history is not logged again. "View log" opens the log.
 
 # Entries
 
@@ -139,9 +143,15 @@ In the second layout CE and JC dates carry their weekday, in a parenthesis that 
 You may edit the text. "Copy to clipboard" copies all of it, or what you have selected. "Save as ..." writes it to a text file. "Clear log" asks, and then erases everything.
 
 - Close and Escape put the window away and keep the log.
-- The close box of the window's frame discards the log.
+- The close box of the window's frame ends the log; the next result begins a new one.
 
-The log is not kept from run to run: copy or save what you need before you quit. It takes a million characters; when it is full, the program asks whether to clear it.)";
+The log takes a million characters; when it is full, the program asks whether to clear it. The result that found it full then begins the new log. If you do not clear it, that result waits for "Log this result".
+
+# What is kept
+
+A log that ends, by that close box or because you quit, is not lost: what you have not saved since it last changed is added to the file tnwk-log.txt, under a line with the date and time. The file lies in the folder of the saved state, "Ostrel Systems" of %APPDATA% on Windows, of ~/.config elsewhere; after the close box a notice names it. It only grows: edit or delete it as you like.
+
+What you have cleared is not kept. If the file cannot be written, the close box leaves the log open, so that you can save it elsewhere; when you quit, a message says so, and the log is lost.)";
 
 constexpr std::string_view kLunationCalendar =
     R"(The button "Lunation calendar" opens a window with one lunation, from the day of a new moon to the day before the next. It opens at the lunation of the current moment. The list beside the button chooses the calendar in which the days are named: ARC, SD, KSG or LLT.

@@ -27,9 +27,9 @@ struct LogEntry {
   std::string operation;  // what was done
   std::string extra;      // a further line, if not empty
   LogLayout layout = LogLayout::kCalendarAndDate;
-  std::vector<LogDate> dates;        // in the order in which they are written
-  std::optional<std::string> phase;  // the captions of the Moon's labels, where wanted
-  std::optional<std::string> age;
+  std::vector<LogDate> dates = {};        // in the order in which they are written
+  std::optional<std::string> phase = {};  // the captions of the Moon's labels, where wanted
+  std::optional<std::string> age = {};
 };
 
 // Takes the next piece of an entry.

@@ -58,29 +58,40 @@ void LogSection::DropPendingResult() {
 void LogSection::AddLogEntry(const Logged& result) {
   DropPendingResult();
   if (result.result.empty()) return;
+  const LogEntry entry = WholeEntryOf(result);
   if (chkLog.Value()) {
-    WriteToLog(LogEntryFor(result));
+    WriteToLog(entry);
   } else {
-    pending_ = result;
-    UpdateAvailability();
+    KeepPending(entry);
   }
 }
 
-LogEntry LogSection::LogEntryFor(const Logged& result) {
-  LogEntry entry{
-      result.result, result.operation, result.description, log_preferences.Layout(), {}, {}, {}};
+void LogSection::KeepPending(const LogEntry& entry) {
+  pending_ = entry;
+  UpdateAvailability();
+}
+
+// A result with all that is shown now.
+LogEntry LogSection::WholeEntryOf(const Logged& result) const {
+  LogEntry entry{result.result, result.operation, result.description};
   for (const Calendar calendar : kDisplayOrder) {
     // The result is a date in the current calendar already.
     if (calendar == session_.CurrentCalendar()) continue;
-    if (!log_preferences.IncludeOf(calendar).Value()) continue;
     entry.dates.push_back({calendar, dates_.LabelOf(calendar)[1].Caption()});
   }
-  if (log_preferences.chkIncludePhaseOfMoonAndIllumination.Value()) {
-    entry.phase = moon_.lblPhaseOfMoon[1].Caption();
-  }
-  if (log_preferences.chkIncludeLunationAndAgeOfMoon.Value()) {
-    entry.age = moon_.lblAgeOfMoon[1].Caption();
-  }
+  entry.phase = moon_.lblPhaseOfMoon[1].Caption();
+  entry.age = moon_.lblAgeOfMoon[1].Caption();
+  return entry;
+}
+
+// What of it the preferences choose now.
+LogEntry LogSection::Chosen(LogEntry entry) const {
+  const frmLogPreferences& chosen = log_preferences;
+  entry.layout = chosen.Layout();
+  std::erase_if(entry.dates,
+                [&](const LogDate& date) { return !chosen.IncludeOf(date.calendar).Value(); });
+  if (!chosen.chkIncludePhaseOfMoonAndIllumination.Value()) entry.phase.reset();
+  if (!chosen.chkIncludeLunationAndAgeOfMoon.Value()) entry.age.reset();
   return entry;
 }
 
@@ -96,16 +107,26 @@ void LogSection::WriteToLog(const LogEntry& entry) {
   };
   try {
     if (text.empty()) append(std::string(kProgramTitle) + "\r\n" + kWebPage + "\r\n\r\n");
-    WriteLogEntry(entry, append);
+    WriteLogEntry(Chosen(entry), append);
     log_window.ShowText(text);
   } catch (const LogFull&) {
     log_window.ShowText(text);
-    const Message question{"Log is full.  Clear log?", "", MessageIcon::kQuestion,
-                           MessageButtons::kYesNo};
-    if (desktop_.ShowMessage(question) == MessageAnswer::kYes) log_window.cmdClear_Click();
+    TakeRoomFor(entry);
   } catch (const RuntimeError& error) {
     log_window.ShowText(text);
     desktop_.ShowMessage({error.what(), "Error when adding log entry.", MessageIcon::kExclamation});
+  }
+}
+
+// The entry found the log full.
+void LogSection::TakeRoomFor(const LogEntry& entry) {
+  const Message question{"Log is full.  Clear log?", "", MessageIcon::kQuestion,
+                         MessageButtons::kYesNo};
+  if (desktop_.ShowMessage(question) == MessageAnswer::kYes) log_window.cmdClear_Click();
+  if (log_window.IsEmpty()) {
+    WriteToLog(entry);
+  } else {
+    KeepPending(entry);
   }
 }
 
@@ -113,7 +134,7 @@ void LogSection::chkLog_Click() { ShowChoice(chkLog); }
 
 void LogSection::cmdLogThisResult_Click() {
   if (!pending_) return;
-  const LogEntry entry = LogEntryFor(*pending_);
+  const LogEntry entry = *pending_;
   DropPendingResult();
   WriteToLog(entry);
 }

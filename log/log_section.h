@@ -44,15 +44,20 @@ class LogSection {
   void cmdLogThisResult_Click();
   void cmdViewLog_Click();
   void cmdLogPreferences_Click();
-  LogEntry LogEntryFor(const Logged& result);
+  LogEntry WholeEntryOf(const Logged& result) const;
+  LogEntry Chosen(LogEntry entry) const;
+  void KeepPending(const LogEntry& entry);
   void WriteToLog(const LogEntry& entry);
+  void TakeRoomFor(const LogEntry& entry);
 
   Form& form_;
   Session& session_;
   Desktop& desktop_;
   DatesSection& dates_;
   MoonSection& moon_;
-  std::optional<Logged> pending_;
+  // To be logged when the user asks for it: with all that was shown with it, whatever the labels
+  // show by then.
+  std::optional<LogEntry> pending_;
 };
 
 }  // namespace tarnwick

@@ -6,6 +6,7 @@
 #include "controls/save_path.h"
 #include "controls/text_file.h"
 #include "controls/utf8.h"
+#include "log/kept_log.h"
 
 namespace tarnwick {
 namespace {
@@ -35,6 +36,9 @@ frmLog::frmLog(Desktop& desktop, Screen& screen, frmNotice& notice)
   cmdClear.on_click = [this] { cmdClear_Click(); };
   cmdCopyToClipboard.on_click = [this] { cmdCopyToClipboard_Click(); };
   cmdSaveAs.on_click = [this] { cmdSaveAs_Click(); };
+  txbText.Watch([this](Property changed) {
+    if (changed == Property::kText) blnSaved = false;
+  });
   txbText.on_mouse_up = [this] { txbText_MouseUp(); };
   SetBounds(kInitialSize);
   Form_Resize();
@@ -107,14 +111,14 @@ void frmLog::cmdClear_Click() {
 }
 
 void frmLog::cmdSaveAs_Click() {
-  const std::string title = "Save log";
-  const auto file = AskWhereToSave(desktop_, title, "Tarnwick log.txt");
+  const auto file = AskWhereToSave(desktop_, kSaveTitle, "Tarnwick log.txt");
   if (!file) return;
   const std::string error = WriteTextFile(*file, txbText.Text());
   if (error.empty()) {
+    blnSaved = true;
     notice_.ShowOver(*this, "Saved");
   } else {
-    ReportSaveError(desktop_, "the log", title, error);
+    ReportSaveError(desktop_, "the log", kSaveTitle, error);
   }
 }
 
@@ -123,11 +127,35 @@ void frmLog::cmdClose_Click() {
   on_closed();
 }
 
-// The system's close box discards the log; the next entry begins it anew.
-void frmLog::Form_Unload(bool& /*cancel*/) {
+// Nothing where there is nothing to be kept, or no place for it.
+std::optional<std::filesystem::path> frmLog::FileToKeepIn() const {
+  const auto state = desktop_.StateFile();
+  if (blnSaved || IsEmpty() || !state) return std::nullopt;
+  return state->parent_path() / kKeptLogName;
+}
+
+std::string frmLog::Keep() {
+  const auto file = FileToKeepIn();
+  if (!file) return {};
+  std::string error = AppendToTextFile(*file, KeptLogText(desktop_.ReadClock(), txbText.Text()));
+  blnSaved = error.empty();
+  return error;
+}
+
+// The system's close box takes the text out of the window; the next entry begins the log anew. It
+// stays open where the text would be lost.
+void frmLog::Form_Unload(bool& cancel) {
+  const auto file = FileToKeepIn();
+  const std::string error = Keep();
+  if (!error.empty()) {
+    ReportSaveError(desktop_, "the log", kSaveTitle, error);
+    cancel = true;
+    return;
+  }
   txbText.SetText("");
   on_discarded();
   on_closed();
+  if (file) notice_.ShowOver(*this, "The log has been added to " + PathText(*file));
 }
 
 }  // namespace tarnwick

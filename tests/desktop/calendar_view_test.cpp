@@ -86,6 +86,9 @@ void CalendarViewTest::imageHasTwiceTheResolution() {
   QVERIFY2(fine > 600, qPrintable(QString::number(fine)));
 
   QVERIFY(!desktop.SaveImage(page, folder.filePath("no folder/a.png").toStdU16String()).empty());
+  QVERIFY(QFile::setPermissions(file, QFile::ReadOwner));
+  QVERIFY(!desktop.SaveImage(page, file.toStdU16String()).empty());
+  QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
 }
 
 const AddSuite<CalendarViewTest> added;

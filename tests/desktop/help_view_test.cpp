@@ -82,8 +82,9 @@ void HelpViewTest::noticeGoesByItselfAndOnAClick() {
   QTest::mouseClick(notice.findChild<QWidget*>("lblNotice"), Qt::LeftButton);
   QVERIFY(!notice.isVisible());
 
+  main.form.notice.ShowOver(main.form, "The log has been added to C:\\Users\\Maria\\tnwk-log.txt");
+  VerifyNothingIsClipped(notice);
   main.form.notice.tmrNotice.SetInterval(20);
-  main.form.notice.ShowOver(main.form, "Saved");
   QVERIFY(notice.isVisible());
   QTRY_VERIFY(!notice.isVisible());
 }

@@ -2,6 +2,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <random>
 #include <string>
 
 #include "app/main_window.h"
@@ -94,9 +95,11 @@ TEST_F(LogTest, CaptionThatCannotBeCutIsReportedAndWhatWasWrittenStays) {
         Case{form_.dates.lblKSGDate[1], "KSG", "  KSG="},
         Case{form_.moon.lblPhaseOfMoon[1], "Moon", ".0000  \r\n"}}) {
     form_.log.log_window.ShowText("begun\r\n");
-    form_.move.cmdMove.Click();
+    const std::string shown = label.Caption();
     label.SetCaption(caption);
+    form_.log.AddLogEntry({"2000-01-01 CE", "Convert date", ""});
     form_.log.cmdLogThisResult.Click();
+    label.SetCaption(shown);
     const auto messages = desktop_.TakeMessages();
     ASSERT_EQ(messages.size(), 1U) << caption;
     EXPECT_EQ(messages[0].title, "Error when adding log entry.");
@@ -106,7 +109,7 @@ TEST_F(LogTest, CaptionThatCannotBeCutIsReportedAndWhatWasWrittenStays) {
   }
 }
 
-TEST_F(LogTest, FullLogIsClearedOnlyAfterTwoQuestions) {
+TEST_F(LogTest, FullLogIsClearedOnlyAfterTwoQuestionsAndTheEntryIsNotLost) {
   struct Case {
     std::vector<MessageAnswer> answers;
     bool cleared;
@@ -126,7 +129,16 @@ TEST_F(LogTest, FullLogIsClearedOnlyAfterTwoQuestions) {
     EXPECT_EQ(messages[0].buttons, MessageButtons::kYesNo);
     EXPECT_EQ(messages.back().text,
               answers.size() == 1 ? "Log is full.  Clear log?" : "Erase all data in the log?");
-    EXPECT_EQ(Text(), cleared ? "" : almost_full);
+    EXPECT_EQ(form_.log.cmdLogThisResult.Enabled(), !cleared);
+    if (!cleared) {
+      EXPECT_EQ(Text(), almost_full);
+      form_.log.log_window.ShowText("");
+      form_.log.cmdLogThisResult.Click();
+    }
+    EXPECT_TRUE(Text().starts_with("Tarnwick 18.0\r\n")) << Text();
+    EXPECT_NE(Text().find("Move forward 1 day.\r\n" + form_.history.cboHistory.Text()),
+              std::string::npos)
+        << Text();
   }
 }
 
@@ -155,6 +167,74 @@ TEST_F(LogTest, LogHoldsAMillionCharacters) {
   EXPECT_EQ(desktop_.TakeMessages().size(), 1U);
   // All but the line end of the empty line that closes an entry.
   EXPECT_EQ(Text().size(), fitting.size() + entry - 1);
+}
+
+// What is kept of logs when they are closed, beside the state file.
+class KeptLog : public testing::Test {
+ protected:
+  KeptLog() { std::filesystem::create_directories(folder_); }
+  ~KeptLog() override { std::filesystem::remove_all(folder_); }
+
+  std::string Answers(const std::string& commands) const {
+    return DriverAnswers("statefile " + (folder_ / "tnwk.usr").string() +
+                         "\nnow 2024-03-05 12:34:56\nstart\nset chkLog 1\nclick cmdMove\n"
+                         "click cmdViewLog\n" +
+                         commands);
+  }
+  std::string Kept() const { return FileBytes(file_); }
+
+  const std::filesystem::path folder_ =
+      testing::TempDir() + "tarnwick_log_" + std::to_string(std::random_device()());
+  const std::filesystem::path file_ = folder_ / "tnwk-log.txt";
+};
+
+constexpr char kHeading[] = "==== 2024-03-05 12:34:56 ====\r\n\r\n";
+
+TEST_F(KeptLog, TakesWhatIsNotSavedWhenTheLogIsClosedOrTheProgramEnds) {
+  std::string expected;
+  for (const char* const end : {"close frmLog\n", "click cmdQuit\n", "close frmMain\n"}) {
+    Answers(R"(set frmLog.txbText one\r\n\r\ntwo\n)" + ("\n" + std::string(end)));
+    expected += std::string(kHeading) + "one\r\n\r\ntwo\r\n\r\n";
+    EXPECT_EQ(Kept(), expected) << end;
+  }
+  EXPECT_EQ(Answers("click frmLog.cmdClose\nset chkLog 0\nclick cmdMove\nclick cmdViewLog\n"
+                    "close frmLog\nget cmdLogThisResult.Enabled\nget frmNotice.lblNotice\n"
+                    "get frmLog.txbText\nclick cmdMove\nclick cmdLogThisResult\nclick cmdViewLog\n"
+                    "set frmLog.txbText three\nclose frmMain\n"),
+            "0\nThe log has been added to " + file_.string() + "\n\n");
+  EXPECT_TRUE(Kept().starts_with(expected + kHeading + "Tarnwick 18.0\r\n")) << Kept();
+  EXPECT_TRUE(Kept().ends_with("%).\r\n\r\n" + (kHeading + std::string("three\r\n\r\n"))))
+      << Kept();
+}
+
+TEST_F(KeptLog, HasNothingThatWasClearedOrSaved) {
+  const std::string save =
+      "answer file " + (folder_ / "log.txt").string() + "\nclick frmLog.cmdSaveAs\n";
+  for (const std::string& commands :
+       {std::string("click frmLog.cmdClear\nclick cmdQuit\n"),
+        save + "close frmLog\nget frmNotice.lblNotice\nclick cmdQuit\n"}) {
+    EXPECT_TRUE(Answers("messages\n" + commands).find("added") == std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(file_)) << commands;
+  }
+  Answers(save + "click cmdMove\nclick cmdQuit\n");
+  EXPECT_TRUE(Kept().starts_with(kHeading));
+}
+
+TEST_F(KeptLog, RefusedByTheDiskStaysInItsWindowAndIsToldOnceAtTheEnd) {
+  std::filesystem::create_directory(file_);
+  const std::string complaint = "Error when attempting to save the log: This is a folder.";
+  EXPECT_EQ(
+      Answers("set frmLog.txbText kept\nclose frmLog\nget frmLog.Visible\nget frmLog.txbText\n"
+              "click cmdQuit\nstart\n"
+              "messages\n"),
+      "1\nkept\nexclamation|ok|Save log|" + complaint + "\nexclamation|ok|Save log|" + complaint +
+          "\n.\n");
+  std::filesystem::remove(folder_ / "tnwk.usr");
+  std::filesystem::create_directory(folder_ / "tnwk.usr");
+  EXPECT_EQ(Answers("click cmdQuit\nstart\nmessages\n"),
+            "exclamation|ok|Save state|Error when attempting to save the state: This is a folder."
+            "\\r\\n" +
+                complaint + "\n.\n");
 }
 
 }  // namespace

@@ -18,14 +18,6 @@
 #include "controls/text_file.h"
 #include "tests/driver_answers.h"
 
-#ifndef _WIN32
-#include <chrono>
-#include <csignal>
-#include <sys/wait.h>
-#include <thread>
-#include <unistd.h>
-#endif
-
 namespace tarnwick {
 namespace {
 
@@ -340,52 +332,6 @@ TEST_F(SavedState, FailedWriteIsTold) {
   }
   EXPECT_TRUE(std::filesystem::is_empty(File()));
 }
-
-#ifndef _WIN32
-
-TEST_F(SavedState, FullDiskLeavesTheEarlierFile) {
-  Write(FileOf(kRecords));
-  std::filesystem::create_symlink("/dev/full", File().string() + ".new");
-  EXPECT_THAT(Answers("start\nset cboTarget 0\nclick cmdSaveState\nmessages\n"),
-              testing::ElementsAre(testing::StartsWith(kComplaint), "."));
-  EXPECT_EQ(Read(), FileOf(kRecords));
-  EXPECT_EQ(Answers("start\nset cboTarget 0\nclick cmdSaveState\nmessages\n"),
-            std::vector<std::string>{"."});
-  EXPECT_EQ(Read(), FileWith(IndexOf("cboTarget"), "0"));
-}
-
-TEST_F(SavedState, KillDuringAWriteLeavesAWholeFile) {
-  const std::string texts[] = {std::string(20000, 'a'), std::string(20001, 'b')};
-  const std::filesystem::path file = File();
-  const std::filesystem::path draft = file.string() + ".new";
-  int found[] = {0, 0};
-  int drafts_left = 0;
-  Write(texts[0]);
-  for (int round = 0; round < 1000; ++round) {
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-      for (int i = 1; i < 1000000; ++i) WriteTextFile(file, texts[i % 2]);
-      _exit(0);
-    }
-    std::this_thread::sleep_for(std::chrono::microseconds(round * 7919 % 2000));
-    kill(child, SIGKILL);
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    ASSERT_TRUE(WIFSIGNALED(status));
-
-    const std::string text = Read();
-    const auto* const whole = std::ranges::find(texts, text);
-    ASSERT_NE(whole, std::end(texts)) << "round " << round << ": " << text.size() << " bytes";
-    ++found[whole - texts];
-    if (std::filesystem::remove(draft)) ++drafts_left;
-  }
-  // The kills did strike, inside writes and after either of the two.
-  EXPECT_GT(drafts_left, 0);
-  EXPECT_THAT(found, testing::Each(testing::Gt(0)));
-}
-
-#endif
 
 }  // namespace
 }  // namespace tarnwick
