@@ -1,5 +1,5 @@
-// The log: plain text that the program writes and the user may edit. Its text box holds it; what has
-// not been saved when it is closed goes to a file.
+// The log: plain text that the program writes and the user may edit. Its text box holds it; what
+// has not been saved when it is closed goes to a file.
 #pragma once
 
 #include <filesystem>

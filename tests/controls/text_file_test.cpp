@@ -25,7 +25,7 @@ namespace {
 namespace fs = std::filesystem;
 
 class TextFile : public testing::Test {
- protected:
+ public:
   TextFile() { fs::create_directories(folder_); }
   ~TextFile() override { fs::remove_all(folder_); }
 

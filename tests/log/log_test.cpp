@@ -8,6 +8,7 @@
 #include "app/main_window.h"
 #include "tests/driver_answers.h"
 #include "tools/driver/driver_desktop.h"
+#include "tools/driver/properties.h"
 
 namespace tarnwick {
 namespace {
@@ -171,7 +172,7 @@ TEST_F(LogTest, LogHoldsAMillionCharacters) {
 
 // What is kept of logs when they are closed, beside the state file.
 class KeptLog : public testing::Test {
- protected:
+ public:
   KeptLog() { std::filesystem::create_directories(folder_); }
   ~KeptLog() override { std::filesystem::remove_all(folder_); }
 
@@ -201,7 +202,7 @@ TEST_F(KeptLog, TakesWhatIsNotSavedWhenTheLogIsClosedOrTheProgramEnds) {
                     "close frmLog\nget cmdLogThisResult.Enabled\nget frmNotice.lblNotice\n"
                     "get frmLog.txbText\nclick cmdMove\nclick cmdLogThisResult\nclick cmdViewLog\n"
                     "set frmLog.txbText three\nclose frmMain\n"),
-            "0\nThe log has been added to " + file_.string() + "\n\n");
+            "0\nThe log has been added to " + Escape(file_.string()) + "\n\n");
   EXPECT_TRUE(Kept().starts_with(expected + kHeading + "Tarnwick 18.0\r\n")) << Kept();
   EXPECT_TRUE(Kept().ends_with("%).\r\n\r\n" + (kHeading + std::string("three\r\n\r\n"))))
       << Kept();
