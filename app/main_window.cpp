@@ -25,6 +25,9 @@ frmMain::frmMain(Desktop& desktop, Screen& screen)
       log(*this, screen, session_, desktop, dates, moon, notice),
       calendar(*this, screen, session_, desktop, entry, pictures_, notice) {
   picCheck.SetVisible(false);
+  picCheck.SetToolTipText("The clock is running: the moment follows it");
+  cmdNow.SetToolTipText("Shows the present moment and lets it follow the clock");
+  cmdReset.SetToolTipText("Gives every choice of this window its first value, and shows now");
   WireSession();
   ConnectHandlers();
   WatchForChanges();
@@ -39,7 +42,10 @@ void frmMain::WireSession() {
   hooks.focus_on_move = [this] { move.TakeFocus(); };
   hooks.remember = [this] { history.Remember(); };
   hooks.activity_changed = [this] { UpdateAvailability(); };
-  hooks.calendar_changed = [this] { dates.ShowCalendar(); };
+  hooks.calendar_changed = [this] {
+    dates.ShowCalendar();
+    entry.ShowHint();
+  };
   hooks.eclipse_changed = [this] { search.ShowEclipse(); };
   hooks.clock_changed = [this] { ShowClock(); };
 }
@@ -108,6 +114,7 @@ std::string frmMain::ShowPresentMoment() {
 }
 
 void frmMain::Finish(const Outcome& outcome) {
+  entry.ShowHint();
   history.Remember();
   const std::string added = history.AddHistoryEntry(outcome.summary, outcome.eclipse_type);
   if (added.empty() && outcome.only_if_new) return;

@@ -104,22 +104,38 @@ ReadDay ReadOLWDay(std::string_view date) {
 }
 
 constexpr std::array<CalendarRow, kCalendarCount> kRows{{
-    {"CE", "Common Era date", "Common Era date", 0, kInvalidCE, CETexts, ReadCEDay},
-    {"JC", "Julian date", "Julian date", 0, kInvalidJC, JCTexts, ReadJCDay},
-    {"ARC", "Archetypes Calendar date", "Archetypes Calendar date", 0, kInvalidARC, ARCTexts,
-     ReadARCDay},
-    {"SD", "Sarvik-Dolmer Solilunar Calendar date", "Sarvik-Dolmer Solilunar Calendar date", 0,
-     kInvalidSD, SDTexts, ReadSDDay},
-    {"LLT", "Lunar Liberalia Triday Calendar date", "Lunar Liberalia Triday Calendar date", 0,
-     kInvalidLLT, LLTTexts, ReadLLTDay},
-    {"KSG", "Kestrin-Sarvik Goddess Calendar date", "Kestrin-Sarvik Goddess Calendar date", 0,
-     kInvalidKSG, KSGTexts, ReadKSGDay},
-    {"CJD", "chronological Julian date", "Chronological Julian date", 0, kInvalidDayCount, nullptr,
-     nullptr},
-    {"AJD", "astronomical Julian date", "Astronomical Julian date", 0, kInvalidDayCount, nullptr,
-     nullptr},
-    {"OLW", "Ostrel Lunar Week Calendar", "Ostrel Lunar Week Calendar date", kOLWDayShift,
-     kInvalidOLW, OLWTexts, ReadOLWDay},
+    {"CE", "Common Era date", "Common Era date",
+     "Common Era: the Gregorian calendar, also before 1582; the year before 1 is 0", 0, kInvalidCE,
+     CETexts, ReadCEDay},
+    {"JC", "Julian date", "Julian date",
+     "Julian calendar: every fourth year is a leap year; the year before 1 is 0", 0, kInvalidJC,
+     JCTexts, ReadJCDay},
+    {"ARC", "Archetypes Calendar date", "Archetypes Calendar date",
+     "Archetypes Calendar: 12 or 13 months of 30 and 29 days a year, by a rule over 1803 years", 0,
+     kInvalidARC, ARCTexts, ReadARCDay},
+    {"SD", "Sarvik-Dolmer Solilunar Calendar date", "Sarvik-Dolmer Solilunar Calendar date",
+     "Sarvik-Dolmer Solilunar Calendar: 12 or 13 months from the new moon nearest the March "
+     "equinox",
+     0, kInvalidSD, SDTexts, ReadSDDay},
+    {"LLT", "Lunar Liberalia Triday Calendar date", "Lunar Liberalia Triday Calendar date",
+     "Lunar Liberalia Triday Calendar: 12 lunar months a year, each divided into tridays of three "
+     "days",
+     0, kInvalidLLT, LLTTexts, ReadLLTDay},
+    {"KSG", "Kestrin-Sarvik Goddess Calendar date", "Kestrin-Sarvik Goddess Calendar date",
+     "Kestrin-Sarvik Goddess Calendar: 13 months of 30 and 29 days a year, in cycles of 470 years",
+     0, kInvalidKSG, KSGTexts, ReadKSGDay},
+    {"CJD", "chronological Julian date", "Chronological Julian date",
+     "Chronological Julian date: days counted from midnight in the chosen zone; 2000-01-01 CE is "
+     "day 2,451,545",
+     0, kInvalidDayCount, nullptr, nullptr},
+    {"AJD", "astronomical Julian date", "Astronomical Julian date",
+     "Astronomical Julian date: days counted from noon at Greenwich; noon of 2000-01-01 CE is "
+     "2,451,545",
+     0, kInvalidDayCount, nullptr, nullptr},
+    {"OLW", "Ostrel Lunar Week Calendar", "Ostrel Lunar Week Calendar date",
+     "Ostrel Lunar Week Calendar: months by the true Moon, weeks that end with its phases, days "
+     "from 6 hours",
+     kOLWDayShift, kInvalidOLW, OLWTexts, ReadOLWDay},
 }};
 
 }  // namespace

@@ -46,6 +46,7 @@ struct CalendarRow {
   std::string_view abbreviation;
   std::string_view long_name;    // in the middle of a sentence
   std::string_view spoken_name;  // of its date on display, for who does not see it
+  std::string_view explanation;  // what it is, in one sentence
   double day_shift;              // of the beginning of its days after midnight, in days
   EntryCode failure;             // why a text is refused that is none of its dates
   // Nothing for a day count:

@@ -1,9 +1,10 @@
 #include "calendars/entry_parser.h"
 
-#include <cctype>
 #include <optional>
+#include <string>
 
 #include "calendars/date_processing.h"
+#include "calendars/entry_parts.h"
 #include "calendars/text.h"
 #include "engines/checked_arithmetic.h"
 #include "engines/time_units.h"
@@ -11,48 +12,10 @@
 namespace tarnwick {
 namespace {
 
-bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
-
-// A remark reaches from the first "(" to the last ")", or to the end.
-std::string_view BeforeRemark(std::string_view text) { return text.substr(0, text.find('(')); }
-
-bool GoesOnAfterRemark(std::string_view text) {
-  const std::size_t begin = text.find('(');
-  const std::size_t end = text.rfind(')');
-  return end != std::string_view::npos && begin < end && end + 1 < text.size();
-}
-
-enum class Sought { kAny, kWithDates };
-
-// The first calendar whose abbreviation occurs anywhere in the text.
-std::optional<Calendar> FindCalendar(std::string_view text, Sought sought) {
-  for (const Calendar calendar : kCalendars) {
-    if (sought == Sought::kWithDates && IsDayCount(calendar)) continue;
-    if (Contains(text, AbbreviationOf(calendar))) return calendar;
-  }
-  return std::nullopt;
-}
-
-// What stands before the abbreviation of a calendar, and what after it.
-struct Parts {
-  std::string_view date;
-  std::string_view time;
-};
-
-Parts SplitAt(std::string_view text, Calendar calendar) {
-  const std::string_view abbreviation = AbbreviationOf(calendar);
-  const std::size_t place = text.find(abbreviation);
-  return {text.substr(0, place), text.substr(place + abbreviation.size())};
-}
-
 // Only a time can follow the abbreviation.
 bool IsFollowedProperly(std::string_view text, Calendar calendar) {
   const std::string_view time = SplitAt(text, calendar).time;
   return time.empty() || IsDigit(time.front());
-}
-
-bool HasDayCount(std::string_view text) {
-  return Contains(text, AbbreviationOf(kCJD)) || Contains(text, AbbreviationOf(kAJD));
 }
 
 std::int16_t CheckSeparators(std::string_view text) {
@@ -92,7 +55,7 @@ Entry ParseDayCount(std::string_view text, const EntryContext& context) {
     return Failed(RowOf(*beside).failure);
   }
   const Calendar calendar = Contains(text, AbbreviationOf(kCJD)) ? kCJD : kAJD;
-  const Parts parts = SplitAt(text, calendar);
+  const EntryParts parts = SplitAt(text, calendar);
   const bool has_time = !parts.time.empty() || Contains(text, ":");
   if (has_time && !context.history_recall) return Failed(kTimeNotPermitted);
   if (!IsSignedNumber(parts.date, false)) return Failed(kInvalidDayCount);
@@ -113,7 +76,7 @@ ReadDay ParseDay(Calendar calendar, std::string_view date) {
 }
 
 Entry ParseDateAndTime(std::string_view text, Calendar calendar, const EntryContext& context) {
-  const Parts parts = SplitAt(text, calendar);
+  const EntryParts parts = SplitAt(text, calendar);
   if (Contains(parts.date, ":")) return Failed(kUnparsable);  // the calendar stands after the time
   const auto fraction = ReadTime(parts.time);
   if (!fraction) return Failed(kInvalidTime);

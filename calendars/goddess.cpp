@@ -16,7 +16,6 @@ namespace tarnwick {
 namespace {
 
 constexpr std::int32_t kEpoch = 2415611;  // the first day of cycle 1
-constexpr std::int32_t kCycleYears = 470;
 constexpr std::int32_t kCycleDays = 180432;
 
 constexpr std::array<std::string_view, 13> kMonthNames{
@@ -25,9 +24,9 @@ constexpr std::array<std::string_view, 13> kMonthNames{
 
 // The days of the first n years of a cycle; the last of them is divisible by 10 and by 235.
 constexpr std::int32_t DaysOfYears(std::int32_t n) {
-  return 384 * n - n / 10 - n / 235 + n / kCycleYears;
+  return 384 * n - n / 10 - n / 235 + n / kKSGCycleYears;
 }
-static_assert(DaysOfYears(kCycleYears) == kCycleDays);
+static_assert(DaysOfYears(kKSGCycleYears) == kCycleDays);
 
 // The number of whole years that end within the first `days` days of a cycle. All short years
 // together lack less than one year, so taking every year as long misses it by one at most.
@@ -40,13 +39,13 @@ std::int32_t YearsWithin(std::int32_t days) {
 std::int32_t DaysBeforeMonth(std::int32_t month) { return 29 * (month - 1) + month / 2; }
 
 bool DateExists(const KSGDate& record) {
-  return record.year >= 1 && record.year <= kCycleYears && record.month >= 1 &&
+  return record.year >= 1 && record.year <= kKSGCycleYears && record.month >= 1 &&
          record.month <= 13 && record.day >= 1 &&
          record.day <= KSGMonthLength(record.year, record.month);
 }
 
 void MoveYear(KSGDate& record, bool forward) {
-  StepYearOfCycle(record.cycle, record.year, kCycleYears, forward);
+  StepYearOfCycle(record.cycle, record.year, kKSGCycleYears, forward);
 }
 
 void MoveMonth(KSGDate& record, bool forward) {

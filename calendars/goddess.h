@@ -19,6 +19,8 @@
 
 namespace tarnwick {
 
+inline constexpr std::int32_t kKSGCycleYears = 470;
+
 struct KSGDate {
   std::int32_t cycle = 0;  // may be zero or negative
   std::int16_t year = 0;   // [1:470]

@@ -149,11 +149,14 @@ std::int16_t JDNToOLWDate(OLWDate& record) {
   return CheckedNarrow<std::int16_t>(ends.back() - ends.front());
 }
 
+bool IsOLWYearInReach(std::int32_t olw_year) {
+  return std::abs(std::int64_t{olw_year} - kYearsBeforeCE) <= kFarthestGregorianYear;
+}
+
 std::int16_t ParseOLWDate(std::string_view text, OLWDate& record) {
   const DateFields fields = ParseDateFields(text, '-');
   if (fields.status != FieldsStatus::kFields || fields.count != 4) return kOLWBadText;
-  const std::int64_t gregorian_year = std::int64_t{fields.values[0]} - kYearsBeforeCE;
-  if (std::abs(gregorian_year) > kFarthestGregorianYear) return kOLWBadText;
+  if (!IsOLWYearInReach(fields.values[0])) return kOLWBadText;
   record.year = fields.values[0];
   record.month = fields.values[1];
   record.week = fields.values[2];

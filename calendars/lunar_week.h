@@ -56,8 +56,11 @@ void OLWDateToJDN(OLWDate& record, std::int16_t& error);
 // The inverse. Returns the number of days of the month.
 std::int16_t JDNToOLWDate(OLWDate& record);
 
+// Whether a year is read at all: those of -9999 to 9999 CE.
+bool IsOLWYearInReach(std::int32_t olw_year);
+
 // Reads "year-month-week-day" with an optional "-" before the year. kOLWBadText for a text of
-// another shape or a year outside those of -9999 to 9999 CE; else what OLWDateToJDN finds.
+// another shape or a year out of reach; else what OLWDateToJDN finds.
 std::int16_t ParseOLWDate(std::string_view text, OLWDate& record);
 
 // One week, month or year on or back; a month that the new year does not have becomes its last, and

@@ -1,9 +1,12 @@
 #include "desktop/entry_view.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "desktop/bound_widgets.h"
@@ -20,6 +23,30 @@ constexpr Wording kWordings[] = {
     {"lblDays", 'd', ""},
     {"cmdCompute", 'C', ""},
     {"cmdClearDate", 'l', ""},
+};
+
+// One line, cut short where it does not fit; its tool tip then says all of it.
+class QuietLine final : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+  QSize sizeHint() const override { return {0, fontMetrics().height()}; }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() == QEvent::ToolTip) setToolTip(Shown() == text() ? QString() : text());
+    return QLabel::event(event);
+  }
+
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),
+                          isEnabled(), Shown(), foregroundRole());
+  }
+
+ private:
+  QString Shown() const { return fontMetrics().elidedText(text(), Qt::ElideRight, width()); }
 };
 
 constexpr char kLongestDayCount[] = "+9,999,999";
@@ -43,6 +70,7 @@ EntryView::EntryView(EntrySection& section, Binder& binder, QWidget* parent)
   binder_.AddWordings(kWordings);
   binder_.Bind(section_.fraConvert, *this);
   Content().addLayout(MakeEntryRow());
+  Content().addWidget(MakeHint());
   commands_ = MakeCommandRow();
   Content().addLayout(commands_);
 }
@@ -75,6 +103,13 @@ QHBoxLayout* EntryView::MakeEntryRow() {
   binder_.Bind(section_.lblDays, *unit);
   row->addWidget(unit);
   return row;
+}
+
+QWidget* EntryView::MakeHint() {
+  auto* hint = new QuietLine(this);
+  binder_.Bind(section_.lblEntryHint, *hint);
+  SetTextColor(*hint, Look::kCaption);
+  return hint;
 }
 
 QHBoxLayout* EntryView::MakeCommandRow() {

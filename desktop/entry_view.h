@@ -16,6 +16,7 @@ class EntryView final : public Panel {
 
  private:
   QHBoxLayout* MakeEntryRow();
+  QWidget* MakeHint();
   QHBoxLayout* MakeCommandRow();
 
   EntrySection& section_;

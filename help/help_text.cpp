@@ -14,7 +14,7 @@ There is one current moment, and all that the main window shows belongs to it. T
 
     2003-12-31 CE 15:55
 
-Nine lines show the moment: CE, JC, ARC, SD, LLT, KSG, OLW, CJD and AJD. The calendar of the white line is the current one. A click on a date makes its calendar current and copies the date to the entry box. Rest the pointer on a date to read it in words.
+Nine lines show the moment: CE, JC, ARC, SD, LLT, KSG, OLW, CJD and AJD. The calendar of the white line is the current one. A click on a date makes its calendar current and copies the date to the entry box. Rest the pointer on a date to read it in words, and on what stands before it to read what it is.
 
 After Now the moment follows the clock until you compute, move, search or recall another one.
 
@@ -52,6 +52,7 @@ constexpr std::string_view kEnteringDates =
 - Without a time, noon is taken. A time is hours, a colon and minutes, from 0:00 to 23:59, and nothing more; it stands after the abbreviation. 3pm, 1530 or 15:55:30 are refused.
 - A remark in brackets ends the entry and is not read. So a date on display can be pasted as it stands, with its weekday.
 - Blanks, commas and the case of letters do not count.
+- The line below the box says what may be typed and, after a refusal, what is wrong with the entry.
 
 An entry that is the current moment already is not computed again; a message says that there is nothing to do.
 

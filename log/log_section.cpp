@@ -29,6 +29,8 @@ LogSection::LogSection(Form& form, Screen& screen, Session& session, Desktop& de
       desktop_(desktop),
       dates_(dates),
       moon_(moon) {
+  chkLog.SetToolTipText("Every result goes to the log as it is found");
+  cmdLogThisResult.SetToolTipText("Adds the last result to the log, as it was shown");
   ShowChoice(chkLog);
   chkLog.on_click = [this] { chkLog_Click(); };
   cmdLogThisResult.on_click = [this] { cmdLogThisResult_Click(); };

@@ -17,6 +17,8 @@ CalendarSection::CalendarSection(Form& form, Screen& screen, Session& session, D
   for (const std::string_view dates : kMonthCalendars) cboMonthCalendar.AddItem(std::string(dates));
   cboMonthCalendar.on_click = [this] { cboMonthCalendar_Click(); };
   cboMonthCalendar.SetListIndex(0);
+  cboMonthCalendar.SetToolTipText("The calendar of the dates on the page of the lunation");
+  cmdDisplayCalendar.SetToolTipText("The days of the current lunation on one page");
   cmdDisplayCalendar.on_click = [this] { cmdDisplayCalendar_Click(); };
   calendar_window.on_day_click = [this](DayNumber day_number) { TakeDay(day_number); };
 }

@@ -35,10 +35,13 @@ DatesSection::DatesSection(Form& form, Session& session, EntrySection& entry)
               &lblSarvikDolmerSLCDate,     &lblLTCLunarDate,           &lblKSGDate,
               &lblChronologicalJulianDate, &lblAstronomicalJulianDate, &lblOstrelLWCDate} {
   lblTime[0].SetCaption("Time");
+  lblTime[0].SetToolTipText(
+      "The time of day where the moment is read; in OLW counted from 6 hours");
   lblTime[1].on_click = [this] { lblTime_Click(); };
   for (const Calendar calendar : kCalendars) {
     ValueLabel& label = LabelOf(calendar);
     label[0].SetCaption(std::string(AbbreviationOf(calendar)));
+    label[0].SetToolTipText(std::string(RowOf(calendar).explanation));
     for (int index = 0; index < 2; ++index) {
       label[static_cast<std::size_t>(index)].on_click = [this, calendar, index] {
         Label_Click(calendar, index);

@@ -6,6 +6,7 @@
 
 #include "calendars/date_processing.h"
 #include "calendars/date_texts.h"
+#include "calendars/entry_hint.h"
 #include "calendars/entry_parser.h"
 #include "calendars/text.h"
 #include "controls/choice.h"
@@ -36,7 +37,16 @@ EntrySection::EntrySection(Form& form, Session& session, Desktop& desktop)
   txbPlusMinus.on_key_press = [this](int& key) { txbPlusMinus_KeyPress(key); };
   optPlus.on_click = [this] { optPlus_Click(); };
   optMinus.on_click = [this] { optMinus_Click(); };
+  for (TextBox* box : {&txbDate, &txbPlusMinus}) {
+    box->Watch([this](Property changed) {
+      if (changed == Property::kText) ShowHint();
+    });
+  }
+  lblDays.SetToolTipText("Compute adds so many days to the date, or subtracts them");
+  cmdCompute.SetToolTipText("Shows the date typed, the days added or subtracted");
+  cmdClearDate.SetToolTipText("Empties both boxes");
   SetDefaults();
+  ShowHint();
 }
 
 void EntrySection::SetDefaults() { optPlus.SetValue(true); }
@@ -59,7 +69,7 @@ void EntrySection::ClearTexts() {
 void EntrySection::cmdCompute_Click() {
   txbDate.SetText(std::string(Trim(txbDate.Text())));
   if (txbDate.Text().empty()) {
-    ReportDateEntryError(kNoDateGiven);
+    RefuseEntry(kNoDateGiven);
     return;
   }
   txbPlusMinus.SetText(std::string(Trim(txbPlusMinus.Text())));
@@ -69,7 +79,7 @@ void EntrySection::cmdCompute_Click() {
   read.code = kInvalidPlusMinus;
   if (days.empty() || IsSignedNumber(days, true)) read = ParseDateEntry(txbDate.Text());
   if (read.code != kEntryOk) {
-    ReportDateEntryError(read.code);
+    RefuseEntry(read.code);
     session_.hooks.focus_on_date();
     return;
   }
@@ -83,7 +93,7 @@ void EntrySection::cmdCompute_Click() {
     const double count = DayCountValue(days);
     moment = optPlus.Value() ? moment + count : moment - count;
   }
-  if (DateOutOfRange(moment)) return;
+  if (EntryOutOfRange(days.empty() ? txbDate.Text() : "The result", moment)) return;
 
   session_.SetCalendar(*read.calendar);
   TakeMoment(moment, ConvertOperation(days));
@@ -135,6 +145,7 @@ void EntrySection::CopyDateToEntryBox() {
   if (!IsDayCount(calendar)) CopyTimeToEntryBox();
   strCopiedEntry = txbDate.Text();
   dblCopiedMoment = session_.Moment();
+  ShowHint();
   session_.hooks.focus_on_date();
 }
 
@@ -191,12 +202,12 @@ bool EntrySection::TakeUpTypedMoment() {
   if (txbDate.Text().empty()) return true;
   const Entry read = ParseDateEntry(txbDate.Text());
   if (read.code != kEntryOk) {
-    ReportDateEntryError(read.code);
+    RefuseEntry(read.code);
     session_.hooks.focus_on_date();
     return false;
   }
   const bool same = std::fabs(read.ajd - session_.Moment()) < kSameMoment;
-  if (!same && DateOutOfRange(read.ajd)) {
+  if (!same && EntryOutOfRange(txbDate.Text(), read.ajd)) {
     session_.hooks.focus_on_date();
     return false;
   }
@@ -206,6 +217,19 @@ bool EntrySection::TakeUpTypedMoment() {
   session_.SetClockRunning(false);
   session_.SetMoment(read.ajd);
   session_.hooks.show_moment();
+  return true;
+}
+
+void EntrySection::ShowHint() { lblEntryHint.SetCaption(EntryHint(session_.CurrentCalendar())); }
+
+void EntrySection::RefuseEntry(std::int16_t code) {
+  ReportDateEntryError(code);
+  lblEntryHint.SetCaption(RefusalHint(txbDate.Text(), session_.CurrentCalendar(), code));
+}
+
+bool EntrySection::EntryOutOfRange(std::string_view entry, UniversalTime moment) {
+  if (!DateOutOfRange(moment)) return false;
+  lblEntryHint.SetCaption(OutOfRangeHint(entry, moment > kUpperLimit));
   return true;
 }
 

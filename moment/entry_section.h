@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "calendars/entry_parser.h"
 #include "controls/controls.h"
@@ -23,6 +24,7 @@ class EntrySection {
   OptionButton optMinus{fraConvert, "optMinus", grpPlusMinus, "minus"};
   TextBox txbPlusMinus{fraConvert, "txbPlusMinus"};
   Label lblDays{fraConvert, "lblDays", "days"};
+  Label lblEntryHint{fraConvert, "lblEntryHint"};
   Button cmdCompute{fraConvert, "cmdCompute", "Compute"};
   Button cmdClearDate{fraConvert, "cmdClearDate", "Clear"};
 
@@ -32,6 +34,10 @@ class EntrySection {
   void TakeFocus();
   // Empties both boxes.
   void ClearTexts();
+
+  // Says below the date box what may be typed there, in place of what was wrong with the last
+  // entry.
+  void ShowHint();
 
   // Copies the moment to the date box, in the current calendar.
   void CopyDateToEntryBox();
@@ -58,7 +64,9 @@ class EntrySection {
   void txbDate_LostFocus();
   void optPlus_Click();
   void optMinus_Click();
+  void RefuseEntry(std::int16_t code);
   void ReportDateEntryError(std::int16_t code);
+  bool EntryOutOfRange(std::string_view entry, UniversalTime moment);
   std::string ConvertOperation(const std::string& days) const;
   UniversalTime MomentOfDayCount(const std::string& text, UniversalTime read) const;
 

@@ -6,6 +6,7 @@
 #include "calendars/date_processing.h"
 #include "calendars/text.h"
 #include "controls/choice.h"
+#include "engines/ephemeris/delta_t.h"
 #include "engines/time_units.h"
 #include "moon/moon_data.h"
 #include "moon/moon_picture.h"
@@ -17,6 +18,12 @@ namespace {
 std::string DeltaTText(double minutes) {
   if (minutes > kMinutesPerDay) return "More than 24 hours";
   return DurationText(static_cast<std::int32_t>(std::nearbyint(minutes)), true);
+}
+
+// The caption and the value of a label have one tool tip.
+void Explain(ValueLabel& label, const std::string& text) {
+  label[0].SetToolTipText(text);
+  label[1].SetToolTipText(text);
 }
 
 std::string OneDecimal(double value) { return FormatFixed(value, 1, false); }
@@ -34,6 +41,9 @@ MoonSection::MoonSection(Form& form, Session& session, Desktop& desktop, Picture
   lblPhaseOfMoon[0].SetCaption("Phase");
   lblAgeOfMoon[0].SetCaption("Age");
   lblDeltaT[0].SetCaption("Delta T");
+  Explain(
+      lblPhaseOfMoon,
+      "How much of the Moon's disc is lit, and whether that grows (waxing) or shrinks (waning)");
   for (ValueLabel* label : {&lblPhaseOfMoon, &lblAgeOfMoon, &lblDeltaT}) {
     (*label)[1].SetForeColor(kResultColor);
   }
@@ -46,8 +56,11 @@ void MoonSection::Show() {
 
 void MoonSection::DisplayMoonData() {
   const MoonData moon = MoonDataAt(session_.Moment());
-  lblAgeOfMoon[1].SetCaption("[" + std::to_string(moon.lunation) + "] " + AgeText(moon.age) + " (" +
-                             OneDecimal(moon.age * 100 / moon.length) + "%)");
+  const std::string lunation = "[" + std::to_string(moon.lunation) + "]";
+  const std::string share = "(" + OneDecimal(moon.age * 100 / moon.length) + "%)";
+  lblAgeOfMoon[1].SetCaption(lunation + " " + AgeText(moon.age) + " " + share);
+  Explain(lblAgeOfMoon, lunation + " numbers the lunation from that of 2000-01-06; " + share +
+                            " is how much of it has passed");
   if (moon.phase < 0) {
     ReportPhaseError(desktop_, moon.phase, "DisplayMoonData");
     return;
@@ -70,6 +83,11 @@ void MoonSection::ShowPicture(double fraction, bool waxing) {
 
 void MoonSection::DisplayDeltaT() {
   lblDeltaT[1].SetCaption(DeltaTText(DeltaT(session_.Moment())));
+  const std::int32_t year =
+      CivilDateOf(SplitCJD(AJDToCJD(session_.Moment(), 0)).day_number.value).year;
+  Explain(lblDeltaT,
+          "Terrestrial less Universal Time, kept by the turning Earth; its standard error in " +
+              YearText(year) + " is " + ErrorText(DeltaTError(year)));
 }
 
 void ReportPhaseError(Desktop& desktop, std::int16_t code, const std::string& routine) {

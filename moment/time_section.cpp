@@ -16,6 +16,9 @@ TimeSection::TimeSection(EntrySection& entry, Session& session)
       session_(session) {
   for (int i = 0; i < kTimeZoneCount; ++i) cboTimeZone.AddItem(TimeZoneText(i));
   cboTimeZone.SetListIndex(kGmtTimeZone);
+  lblTimeSystem.SetToolTipText("How times are read and typed: as at Greenwich, or in the zone");
+  lblTimeZone.SetToolTipText(
+      "Hours ahead of Greenwich; another zone keeps date and time, and so means another moment");
   SetDefaults();
   ShowChoice(optLocal, optGreenwich);
   optGreenwich.on_click = [this] { optGreenwich_Click(); };

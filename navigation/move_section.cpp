@@ -34,6 +34,8 @@ MoveSection::MoveSection(Form& form, Session& session, Desktop& desktop, EntrySe
   for (int i = 0; i < kStepCount; ++i) cboMoveStep.AddItem(std::string(StepText(i)));
   for (const char* const seconds : {"0.2", "0.5", "1", "2", "5"}) cboRefreshPeriod.AddItem(seconds);
   fraStopPauseResume.SetVisible(false);
+  chkRepeatedly.SetToolTipText("Move goes on step by step until Stop or a limit");
+  lblRefreshPeriod.SetToolTipText("The pace of a repeated move, which can change while it pauses");
   cmdMove.on_click = [this] { cmdMove_Click(); };
   cmdStop.on_click = [this] { cmdStop_Click(); };
   cmdPauseResume.on_click = [this] { cmdPauseResume_Click(); };

@@ -51,6 +51,7 @@ SearchSection::SearchSection(Form& form, Session& session, Desktop& desktop, Ent
   for (const TargetRow& row : kTargets) cboTarget.AddItem(std::string(row.text), row.phase);
   cboTarget.SetListIndex(kTotalSolarTarget);
   lblSearching.SetVisible(false);
+  cboTarget.SetToolTipText("What to search for, from the moment on display or typed");
   lblActualEclipseData.SetForeColor(kResultColor);
   cmdSearch.on_click = [this] { cmdSearch_Click(); };
   cboTarget.on_click = [this] { session_.hooks.focus_on_date(); };

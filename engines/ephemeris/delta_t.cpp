@@ -32,6 +32,22 @@ constexpr double Parabola(double year, double constant) {
 
 constexpr double kEarlyConstant = kKnots[0].seconds - Parabola(kKnots[0].year, 0);
 
+// The standard error outside the observations of the last centuries.
+constexpr double RuleOfThumb(double year) {
+  const double u = (year - 1820) / 100;
+  return 0.8 * u * u;
+}
+
+constexpr Knot kErrors[] = {{1300, RuleOfThumb(1300)},
+                            {1600, 20},
+                            {1700, 5},
+                            {1800, 1},
+                            {1900, 0.1},
+                            {2000, 0.01},
+                            {2025, 0.01},
+                            {2100, 10},
+                            {2200, RuleOfThumb(2200)}};
+
 // The cubic with these values and slopes at the ends of an interval.
 double Hermite(double year, const Knot& begin, double begin_slope, const Knot& end,
                double end_slope) {
@@ -64,12 +80,16 @@ std::array<double, kCount> SplineSlopes() {
   return slopes;
 }
 
+// The first knot after a year, or the end.
+template <std::size_t count>
+const Knot* KnotAfter(const Knot (&knots)[count], double year) {
+  return std::upper_bound(std::begin(knots), std::end(knots), year,
+                          [](double wanted, const Knot& knot) { return wanted < knot.year; });
+}
+
 double Spline(double year) {
   static const std::array<double, kCount> slopes = SplineSlopes();
-  const auto* above =
-      std::upper_bound(std::begin(kKnots), std::end(kKnots), year,
-                       [](double wanted, const Knot& knot) { return wanted < knot.year; });
-  const auto end = std::min(static_cast<std::size_t>(above - kKnots), kCount - 1);
+  const auto end = std::min(static_cast<std::size_t>(KnotAfter(kKnots, year) - kKnots), kCount - 1);
   return Hermite(year, kKnots[end - 1], slopes[end - 1], kKnots[end], slopes[end]);
 }
 
@@ -82,6 +102,14 @@ double DeltaTSeconds(double year) {
   const Knot join{kJoinYear, Parabola(kJoinYear, kFarConstant)};
   const double join_slope = 2 * kCurvature * (kJoinYear - kParabolaYear) / 100 / 100;
   return Hermite(year, kKnots[kCount - 1], kLastSlope, join, join_slope);
+}
+
+double DeltaTError(double year) {
+  const Knot* end = KnotAfter(kErrors, year);
+  if (end == std::begin(kErrors) || end == std::end(kErrors)) return RuleOfThumb(year);
+  const Knot& begin = *(end - 1);
+  const double share = (year - begin.year) / (end->year - begin.year);
+  return begin.seconds + share * (end->seconds - begin.seconds);
 }
 
 }  // namespace tarnwick
