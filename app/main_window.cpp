@@ -59,7 +59,7 @@ void frmMain::ConnectHandlers() {
   Clock.on_timer = [this] { Clock_Timer(); };
 }
 
-// The state can be saved again as soon as anything else is shown or chosen.
+// The state can be saved again as soon as anything else is shown or chosen; the hint is neither.
 void frmMain::WatchForChanges() {
   const auto watch = [this](Property changed) {
     if (changed != Property::kCaption && changed != Property::kValue &&
@@ -69,7 +69,9 @@ void frmMain::WatchForChanges() {
     blnSaved = false;
     cmdSaveState.SetEnabled(session_.IsIdle());
   };
-  for (Control* control : Controls()) control->Watch(watch);
+  for (Control* control : Controls()) {
+    if (control != &entry.lblEntryHint) control->Watch(watch);
+  }
   for (Control* control : log.log_preferences.Controls()) control->Watch(watch);
 }
 
