@@ -80,7 +80,7 @@ QHBoxLayout* EntryView::MakeEntryRow() {
 QHBoxLayout* EntryView::MakeCommandRow() {
   auto* row = new QHBoxLayout;
   row->setSpacing(Spacing(*this));
-  row->addWidget(MakeButton(binder_, section_.cmdCompute, this));
+  row->addWidget(MakeButton(binder_, section_.cmdCompute, this, ButtonRole::kAccent));
   row->addWidget(MakeButton(binder_, section_.cmdClearDate, this));
   return row;
 }

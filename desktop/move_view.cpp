@@ -74,7 +74,7 @@ QWidget* MoveView::MakeFrame() {
   AddOption(binder_, section_.optMoveDirection[0], *direction);
   AddOption(binder_, section_.optMoveDirection[1], *direction);
   rows->addWidget(direction, 1, 0, Qt::AlignLeft);
-  rows->addWidget(MakeButton(binder_, section_.cmdMove, frame), 1, 1);
+  rows->addWidget(MakeButton(binder_, section_.cmdMove, frame, ButtonRole::kAccent), 1, 1);
   return frame;
 }
 

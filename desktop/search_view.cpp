@@ -67,7 +67,7 @@ QWidget* SearchView::MakeFrame() {
   AddOption(binder_, section_.optPrevious, *direction);
   command->addWidget(direction);
   command->addStretch();
-  command->addWidget(MakeButton(binder_, section_.cmdSearch, frame));
+  command->addWidget(MakeButton(binder_, section_.cmdSearch, frame, ButtonRole::kAccent));
   rows->addLayout(command);
   return frame;
 }
