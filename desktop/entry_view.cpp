@@ -22,12 +22,12 @@ constexpr Wording kWordings[] = {
     {"cmdClearDate", 'l', ""},
 };
 
+constexpr double kTypedSize = 1.2;  // of the font: what is typed is what the rest follows from
 constexpr char kLongestDayCount[] = "+9,999,999";
 
 QLineEdit* MakeLineEdit(QWidget* panel) {
   auto* edit = new QLineEdit(panel);
-  const int margin = Spacing(*panel) / 2;
-  edit->setTextMargins(margin, margin / 4, margin, margin / 4);
+  edit->setFont(Scaled(edit->font(), kTypedSize));
   return edit;
 }
 
@@ -41,7 +41,9 @@ int EditWidth(const QLineEdit& edit, const QString& text) {
 EntryView::EntryView(EntrySection& section, Binder& binder, QWidget* parent)
     : Panel(Ground::kDark, parent), section_(section), binder_(binder) {
   binder_.AddWordings(kWordings);
-  binder_.Bind(section_.fraConvert, *this);
+  binder_.Bind(section_.fraConvert, static_cast<QWidget&>(*this));  // needs no title
+  const int space = Spacing(*this);
+  Content().setContentsMargins(2 * space, 3 * space / 2, 2 * space, 3 * space / 2);
   Content().addLayout(MakeEntryRow());
   commands_ = MakeCommandRow();
   Content().addLayout(commands_);

@@ -75,6 +75,12 @@ QPalette AccentPalette() {
 
 int Spacing(const QWidget& widget) { return widget.fontMetrics().height() / 2; }
 
+QFont Scaled(const QFont& font, double factor) {
+  QFont scaled = font;
+  scaled.setPointSizeF(factor * font.pointSizeF());
+  return scaled;
+}
+
 void SetTextColor(QWidget& widget, const QColor& color) {
   QPalette palette;
   if (color.isValid()) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QPalette>
 
 class QComboBox;
@@ -58,7 +59,7 @@ struct Look {
 
   // The sky, nowhere darker than around the Moon in its pictures.
   static constexpr QColor kSky{0x0b, 0x10, 0x20};
-  static constexpr QColor kSkyGlow{0x16, 0x1e, 0x3a};
+  static constexpr QColor kSkyGlow{0x12, 0x19, 0x31};
   static constexpr QColor kEvent{0xe8, 0xc9, 0x7a};  // of the lunation calendar
 
   static constexpr QColor kToolTip = kField;
@@ -76,6 +77,9 @@ QPalette AccentPalette();
 
 // The distance between widgets of a group; twice that lies between groups.
 int Spacing(const QWidget& widget);
+
+// The font at another size.
+QFont Scaled(const QFont& font, double factor);
 
 // Gives the widget's texts one colour, whatever panel they stand on; an invalid one takes that
 // back.

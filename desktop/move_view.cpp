@@ -49,8 +49,9 @@ MoveView::MoveView(MoveSection& section, Binder& binder, QWidget* parent)
   binder_.AddWordings(kWordings);
   SetTitle(ToQt(section_.fraMove.Caption()));
   Content().addWidget(MakeFrame());
-  Content().addLayout(MakePeriodRow());
-  Content().addWidget(MakeSteering(), 0, Qt::AlignRight);
+  QHBoxLayout* steering = MakePeriodRow();
+  steering->addWidget(MakeSteering());
+  Content().addLayout(steering);
   Content().addStretch();
 }
 

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QFocusFrame>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPointer>
 #include <QProxyStyle>
 #include <QStyleOption>
@@ -275,6 +274,13 @@ class Style final : public QProxyStyle {
       DrawListText(*painter, *list);
       return;
     }
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element == CE_PushButtonLabel && button != nullptr && IsTriangle(button->text)) {
+      DrawTriangle(*painter, option->rect, option->fontMetrics.height() / 2.0,
+                   button->text == "<" ? Pointing::kLeft : Pointing::kRight,
+                   option->palette.color(QPalette::ButtonText));
+      return;
+    }
     QProxyStyle::drawControl(element, option, painter, widget);
   }
 
@@ -288,6 +294,7 @@ class Style final : public QProxyStyle {
   }
 
  private:
+  static bool IsTriangle(const QString& caption) { return caption == "<" || caption == ">"; }
   // An edit in a list has no frame of its own.
   static bool HasFrame(const QStyleOption& option) {
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&option);
