@@ -11,6 +11,7 @@
 #include "desktop/link_label.h"
 #include "desktop/look.h"
 #include "desktop/panel.h"
+#include "desktop/screen_fit.h"
 
 namespace tarnwick {
 namespace {
@@ -44,6 +45,7 @@ HelpView::HelpView(frmHelp& form, HandlerGate& gate) : form_(form), binder_(gate
   QVBoxLayout* rows = MakeSections(*this);
   rows->addWidget(MakePages(), 1);
   rows->addWidget(MakeButtons());
+  FitToScreen(*this);
   resize(kHelpSize * fontMetrics().height());
   binder_.Bind(form_, *this);
 }
@@ -77,6 +79,7 @@ CreditsView::CreditsView(frmCredits& form, HandlerGate& gate) : binder_(gate, kC
   row->addStretch();
   row->addWidget(MakeButton(binder_, form.cmdClose, this));
   rows->addLayout(row);
+  FitToScreen(*this);
   resize(kCreditsSize * fontMetrics().height());
   binder_.Bind(form, *this);
 }

@@ -2,7 +2,6 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -17,6 +16,7 @@
 #include "desktop/moon_view.h"
 #include "desktop/move_view.h"
 #include "desktop/panel.h"
+#include "desktop/screen_fit.h"
 #include "desktop/search_view.h"
 #include "desktop/time_view.h"
 #include "desktop/twips.h"
@@ -49,9 +49,8 @@ MainWindowView::MainWindowView(frmMain& form, HandlerGate& gate)
   sections->addWidget(MakeButtons());
 
   binder_.Bind(form_.Clock, clock_);
-  const int line = fontMetrics().height();
-  const QSize room = screen()->availableSize() - QSize(line, 3 * line);  // less the frame
-  resize((kUsualSize * line).boundedTo(room).expandedTo(minimumSizeHint()));
+  FitToScreen(*this);
+  resize(kUsualSize * fontMetrics().height());
   binder_.Bind(form_, *this);
 }
 
