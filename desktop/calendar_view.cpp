@@ -54,6 +54,8 @@ class CellView final : public LinkLabel {
  public:
   CellView(Label& date, QWidget* parent) : LinkLabel(Kind::kValue, parent), date_(date) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    setBackgroundRole(
+        QPalette::Window);  // else the texts in it would have the colour of a button's
   }
 
   QSize sizeHint() const override { return QWidget::sizeHint(); }
@@ -66,7 +68,7 @@ class CellView final : public LinkLabel {
     const QRectF ground = QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(current ? Look::kEvent : underMouse() ? Look::kCaption : Look::kPanelEdge);
+    painter.setPen(current ? Look::kCurrentBar : underMouse() ? Look::kCaption : Look::kPanelEdge);
     painter.setBrush(isDown() ? Look::kPanel : Look::kSky);
     painter.drawRoundedRect(ground, radius, radius);
     if (current) PaintBar(painter, ground, radius);
@@ -91,7 +93,7 @@ class CellView final : public LinkLabel {
     QPainterPath shape;
     shape.addRoundedRect(ground, radius, radius);
     painter.setClipPath(shape);
-    painter.fillRect(QRectF(ground.topLeft(), QSizeF(radius, ground.height())), Look::kEvent);
+    painter.fillRect(QRectF(ground.topLeft(), QSizeF(radius, ground.height())), Look::kCurrentBar);
     painter.setClipping(false);
   }
 
@@ -172,7 +174,6 @@ QWidget* CalendarView::MakePage() {
 
   QLabel* note = MakeText(kSmall, page);
   note->setText(ToQt(std::string(kLunarWeekNote)));
-  note->setWordWrap(true);
   SetTextColor(*note, Look::kCaption);
   rows->addWidget(note);
   return page;
@@ -197,7 +198,6 @@ void CalendarView::AddHeadings(QGridLayout& grid, QWidget* page) {
 QWidget* CalendarView::MakeCell(std::size_t index, QWidget* page) {
   auto* cell = new CellView(form_.lblDate[index], page);
   binder_.Bind(form_.lblDate[index], *cell);
-  KeepRoomWhenHidden(*cell);  // every page has the same room, whatever cells it shows
   const int space = Spacing(*this);
   auto* rows = new QVBoxLayout(cell);
   rows->setContentsMargins(space, space + space / 2, space, space);
@@ -225,7 +225,9 @@ QWidget* CalendarView::MakeCell(std::size_t index, QWidget* page) {
   for (QWidget* part : {static_cast<QWidget*>(picture), static_cast<QWidget*>(date),
                         static_cast<QWidget*>(ce_date), static_cast<QWidget*>(event)}) {
     part->setAttribute(Qt::WA_TransparentForMouseEvents);
+    KeepRoomWhenHidden(*part);  // every page has the same room, whatever cells it shows
   }
+  KeepRoomWhenHidden(*cell);
   return cell;
 }
 

@@ -23,35 +23,34 @@ class ContentArea final : public QScrollArea {
   explicit ContentArea(QWidget& window) : QScrollArea(&window) {
     setFrameShape(NoFrame);
     setFocusPolicy(Qt::NoFocus);
-    setWidgetResizable(true);
     auto* content = new QWidget(this);
     content->setLayout(window.layout());
     setWidget(content);
-    // Not only the tab key moves the focus: a mnemonic or a handler may lead out of view.
-    QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
-      if (now != nullptr && widget()->isAncestorOf(now)) ensureWidgetVisible(now);
+    new EventHook(*content, [this](QEvent& event) {
+      if (event.type() == QEvent::LayoutRequest) {
+        updateGeometry();
+        ResizeContent();
+      }
+      return false;
+    });
+    // Not only the tab key moves the focus: a mnemonic or a handler may lead out of view. A window
+    // that becomes active stays as it is, so that it opens at its top.
+    QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget* left, QWidget* now) {
+      if (widget()->isAncestorOf(left) && widget()->isAncestorOf(now)) ensureWidgetVisible(now);
     });
   }
 
   QSize sizeHint() const override { return widget()->sizeHint(); }
-
   QSize minimumSizeHint() const override {
     const QSize room = RoomFor(*window()).size();
     const QSize least = widget()->minimumSizeHint();
-    QSize with_bars = least;
-    if (least.height() > room.height()) {
-      with_bars.rwidth() += verticalScrollBar()->sizeHint().width();
-    }
-    if (least.width() > room.width()) {
-      with_bars.rheight() += horizontalScrollBar()->sizeHint().height();
-    }
-    return with_bars.boundedTo(room);
+    return (least + BarsFor(least, room)).boundedTo(room);
   }
 
  protected:
-  bool event(QEvent* event) override {
-    if (event->type() == QEvent::LayoutRequest) updateGeometry();
-    return QScrollArea::event(event);
+  void resizeEvent(QResizeEvent* event) override {
+    ResizeContent();
+    QScrollArea::resizeEvent(event);
   }
 
   // Keys that scroll nothing belong to the window.
@@ -62,6 +61,23 @@ class ContentArea final : public QScrollArea {
     } else {
       event->ignore();
     }
+  }
+
+ private:
+  // What the scroll bars take of the width and the height where the room is smaller than the least.
+  QSize BarsFor(QSize least, QSize room) const {
+    const QSize both(verticalScrollBar()->sizeHint().width(),
+                     horizontalScrollBar()->sizeHint().height());
+    const bool down = least.height() > room.height();
+    const bool across = least.width() + (down ? both.width() : 0) > room.width();
+    const bool down_beside = down || least.height() + (across ? both.height() : 0) > room.height();
+    return {down_beside ? both.width() : 0, across ? both.height() : 0};
+  }
+
+  // Left to itself, a scroll area would hold texts that wrap at their best height, not the least.
+  void ResizeContent() {
+    const QSize least = widget()->minimumSizeHint();
+    widget()->resize(least.expandedTo(size() - BarsFor(least, size())));
   }
 };
 
@@ -117,6 +133,9 @@ void FitToScreen(QWidget& window) {
     const bool shown = event.type() == QEvent::Show && !event.spontaneous();
     const bool moved = event.type() == QEvent::Move && !event.spontaneous() && window.isVisible();
     if ((!shown && !moved) || window.isMaximized() || window.isMinimized()) return false;
+    // What was laid out while it was hidden has changed its needs, but not told of it yet.
+    window.layout()->invalidate();
+    window.layout()->activate();
     BringInside(window, opened ? window.geometry() : OpeningPlace(window));
     opened = true;
     return false;
@@ -125,7 +144,8 @@ void FitToScreen(QWidget& window) {
 
 void BelongTo(QWidget& window, const QWidget& main) {
   new EventHook(window, [&window, &main](QEvent& event) {
-    if (event.type() == QEvent::Show) window.windowHandle()->setTransientParent(main.windowHandle());
+    if (event.type() == QEvent::Show)
+      window.windowHandle()->setTransientParent(main.windowHandle());
     return false;
   });
 }
