@@ -36,7 +36,7 @@ class ContentArea final : public QScrollArea {
     // Not only the tab key moves the focus: a mnemonic or a handler may lead out of view. A window
     // that becomes active stays as it is, so that it opens at its top.
     QObject::connect(qApp, &QApplication::focusChanged, this, [this](QWidget* left, QWidget* now) {
-      if (widget()->isAncestorOf(left) && widget()->isAncestorOf(now)) ensureWidgetVisible(now);
+      if (widget()->isAncestorOf(left) && widget()->isAncestorOf(now)) Reveal(*now);
     });
   }
 
@@ -64,6 +64,14 @@ class ContentArea final : public QScrollArea {
   }
 
  private:
+  // The whole of it with the ring around it, or at least the caret in it.
+  void Reveal(QWidget& part) {
+    const QPoint middle = part.mapTo(widget(), part.rect().center());
+    const QSize half = part.size() / 2 + QSize(1, 1) * (fontMetrics().height() / 2);
+    ensureVisible(middle.x(), middle.y(), half.width(), half.height());
+    ensureWidgetVisible(&part, 0, 0);
+  }
+
   // What the scroll bars take of the width and the height where the room is smaller than the least.
   QSize BarsFor(QSize least, QSize room) const {
     const QSize both(verticalScrollBar()->sizeHint().width(),
