@@ -101,7 +101,7 @@ NoticeView::NoticeView(frmNotice& form, HandlerGate& gate)
   setPalette(LightPalette());
   const int space = Spacing(*this);
   auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(2 * space, space, 2 * space, space);
+  row->setContentsMargins(3 * space, 3 * space / 2, 3 * space, 3 * space / 2);
   auto* text = new QLabel(this);
   text->setAlignment(Qt::AlignCenter);
   text->setWordWrap(true);

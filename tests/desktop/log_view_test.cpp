@@ -62,7 +62,7 @@ void LogViewTest::selectionByMouseWidensTheButton() {
   QTest::mouseDClick(windows.Text().viewport(), Qt::LeftButton, {}, QPoint(20, 12));
   QTest::mouseRelease(windows.Text().viewport(), Qt::LeftButton, {}, QPoint(20, 12));
   QTRY_COMPARE(copy->text().remove('&'), "Copy selected text to clipboard");
-  QVERIFY(copy->width() > narrow);
+  QTRY_VERIFY(copy->width() > narrow);
 }
 
 void LogViewTest::captionsFit() {
@@ -71,9 +71,10 @@ void LogViewTest::captionsFit() {
   frmLog& form = windows.main.form.log.log_window;
   form.txbText.Select(0, 1);
   form.txbText.on_mouse_up();
+  QCoreApplication::processEvents();
   VerifyNothingIsClipped(windows.log);
   // The buttons stand in a row without touching.
-  int end = 0;
+  int end = -1;
   for (const Button* button :
        {&form.cmdClear, &form.cmdCopyToClipboard, &form.cmdSaveAs, &form.cmdClose}) {
     const QRect place = windows.log.WidgetOf(*button)->geometry();
