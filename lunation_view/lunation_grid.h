@@ -56,7 +56,7 @@ LunationGrid MakeLunationGrid(std::int32_t lunation, const GridReading& reading)
 
 // What the columns count, said on the page.
 inline constexpr std::string_view kLunarWeekNote =
-    "Mon to Sun and Lunaday are days of the lunar week, which begins with the new moon; "
+    "Mon to Sun and Lunaday count the days of the lunar week, from the new moon on; "
     "the days of the civil week fall otherwise.";
 
 // "Mon   " to "Sun   " and "Lunaday" for the columns.
