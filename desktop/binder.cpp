@@ -22,7 +22,6 @@
 #include "desktop/mirror.h"
 #include "desktop/panel.h"
 #include "desktop/picture_view.h"
-#include "desktop/twips.h"
 
 namespace tarnwick {
 namespace {
@@ -53,11 +52,6 @@ QString Binder::SpokenName(const CaptionedControl& control) const {
   const std::string spoken(WordingOf(control).spoken);
   if (spoken.empty()) return ToQt(control.Caption().empty() ? control.Name() : control.Caption());
   return ToQt(control.Caption().empty() ? spoken : spoken + ": " + control.Caption());
-}
-
-void Binder::BindPlace(Control& control, QWidget& widget) {
-  Mirror(control, Property::kBounds, widget,
-         [&] { widget.setGeometry(ToPixels(control.Bounds())); });
 }
 
 // What every control has, whatever its kind.

@@ -72,9 +72,6 @@ class Binder {
   void Bind(TextBox& box, QLineEdit& edit);
   void Bind(TextBox& box, QPlainTextEdit& edit);
 
-  // Keeps a bound widget where its control is placed in the window.
-  static void BindPlace(Control& control, QWidget& widget);
-
   // The widget that a control is bound to, null if it is not.
   QWidget* WidgetOf(const Control& control) const;
 

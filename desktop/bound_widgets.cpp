@@ -4,12 +4,14 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "desktop/look.h"
 #include "desktop/panel.h"
 
 namespace tarnwick {
 
-QPushButton* MakeButton(Binder& binder, Button& button, QWidget* parent) {
+QPushButton* MakeButton(Binder& binder, Button& button, QWidget* parent, ButtonRole role) {
   auto* push = new QPushButton(parent);
+  if (role == ButtonRole::kAccent) push->setPalette(AccentPalette());
   push->setAutoDefault(false);
   QFont font = push->font();
   font.setBold(true);

@@ -11,8 +11,14 @@ namespace tarnwick {
 
 class Area;
 
+enum class ButtonRole {
+  kQuiet,
+  kAccent,  // what its section is there for
+};
+
 // A command, in bold. The Enter key belongs to what has the focus, never to a button elsewhere.
-QPushButton* MakeButton(Binder& binder, Button& button, QWidget* parent);
+QPushButton* MakeButton(Binder& binder, Button& button, QWidget* parent,
+                        ButtonRole role = ButtonRole::kQuiet);
 
 // Adds an option button to the row of its group.
 void AddOption(Binder& binder, OptionButton& option, Area& group);

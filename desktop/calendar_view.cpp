@@ -2,18 +2,22 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "controls/choice.h"
 #include "desktop/bound_widgets.h"
+#include "desktop/characters.h"
 #include "desktop/link_label.h"
 #include "desktop/look.h"
 #include "desktop/mirror.h"
 #include "desktop/panel.h"
 #include "desktop/picture_view.h"
+#include "desktop/screen_fit.h"
 
 namespace tarnwick {
 namespace {
@@ -45,27 +49,88 @@ QLabel* MakeText(double size, QWidget* parent) {
   return text;
 }
 
-// The ground of a cell, with an outline when its day is the current one.
-class CellView final : public QWidget {
+// A cell as a whole is the widget of its date: what stands in it lets the mouse through.
+class CellView final : public LinkLabel {
  public:
-  CellView(Label& date, QWidget* parent) : QWidget(parent), date_(date) {
-    Mirror(date, Property::kForeColor, *this, [this] { update(); });
-    Mirror(date, Property::kVisible, *this, [this] { update(); });
+  CellView(Label& date, QWidget* parent) : LinkLabel(Kind::kValue, parent), date_(date) {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    setBackgroundRole(
+        QPalette::Window);  // else the texts in it would have the colour of a button's
   }
+
+  QSize sizeHint() const override { return QWidget::sizeHint(); }
+  QSize minimumSizeHint() const override { return QWidget::minimumSizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
-    if (!date_.Visible()) return;
     const bool current = date_.ForeColor() == kSelectedColor;
+    const double radius = fontMetrics().height() / 3.0;
+    const QRectF ground = QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(current ? QPen(Look::kFocusRing, 2) : QPen(Look::kPanelEdge));
-    painter.setBrush(Look::kSky);
-    const double radius = fontMetrics().height() / 3.0;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
+    painter.setPen(current ? Look::kCurrentBar : underMouse() ? Look::kCaption : Look::kPanelEdge);
+    painter.setBrush(isDown() ? Look::kPanel : Look::kSky);
+    painter.drawRoundedRect(ground, radius, radius);
+    if (current) PaintBar(painter, ground, radius);
+    if (!hasFocus()) return;
+    painter.setPen(QPen(Look::kFocusRing, 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius + 2, radius + 2);
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    const int steps = StepsOf(event->key());
+    if (steps == 0) {
+      LinkLabel::keyPressEvent(event);
+    } else {
+      MoveFocus(steps);
+    }
   }
 
  private:
+  // The left edge, as of the current calendar in the main window.
+  static void PaintBar(QPainter& painter, const QRectF& ground, double radius) {
+    QPainterPath shape;
+    shape.addRoundedRect(ground, radius, radius);
+    painter.setClipPath(shape);
+    painter.fillRect(QRectF(ground.topLeft(), QSizeF(radius, ground.height())), Look::kCurrentBar);
+    painter.setClipping(false);
+  }
+
+  // How many cells further on an arrow key leads.
+  static int StepsOf(int key) {
+    switch (key) {
+      case Qt::Key_Left:
+        return -1;
+      case Qt::Key_Right:
+        return 1;
+      case Qt::Key_Up:
+        return -kGridColumns;
+      case Qt::Key_Down:
+        return kGridColumns;
+      default:
+        return 0;
+    }
+  }
+
+  // To the next cell in that direction that shows a day; nowhere if there is none.
+  void MoveFocus(qsizetype steps) {
+    const QList<CellView*> cells = Cells();
+    for (qsizetype at = cells.indexOf(this) + steps; 0 <= at && at < cells.size(); at += steps) {
+      if (!cells[at]->isVisible()) continue;
+      cells[at]->setFocus(Qt::TabFocusReason);
+      return;
+    }
+  }
+
+  QList<CellView*> Cells() const {
+    QList<CellView*> cells;
+    for (QObject* sibling : parentWidget()->children()) {
+      if (auto* cell = dynamic_cast<CellView*>(sibling)) cells << cell;
+    }
+    return cells;
+  }
+
   const Label& date_;
 };
 
@@ -76,6 +141,7 @@ CalendarView::CalendarView(frmCalendar& form, HandlerGate& gate)
   QVBoxLayout* rows = MakeSections(*this);
   rows->addWidget(MakePage(), 1);
   rows->addWidget(MakeButtons());
+  FitToScreen(*this);
   resize(sizeHint());
   binder_.Bind(form_, *this);
 }
@@ -88,15 +154,16 @@ QWidget* CalendarView::MakePage() {
   rows->setContentsMargins(space, space, space, space);
   rows->setSpacing(space / 2);
 
-  QLabel* title = MakeText(1.3, page);
+  QLabel* title = MakeText(1.5, page);
   binder_.Bind(form_.lblTitle, *title);
   rows->addWidget(title);
   QLabel* months = MakeText(1, page);
   binder_.Bind(form_.lblYearAndMonth, *months);
   rows->addWidget(months);
+  rows->addSpacing(space);
 
   auto* grid = new QGridLayout;
-  grid->setSpacing(space / 2);
+  grid->setSpacing(space / 4);
   AddHeadings(*grid, page);
   for (int i = 0; i < kGridCells; ++i) {
     const int row = 1 + i / kGridColumns;
@@ -104,6 +171,11 @@ QWidget* CalendarView::MakePage() {
     grid->setRowStretch(row, 1);
   }
   rows->addLayout(grid, 1);
+
+  QLabel* note = MakeText(kSmall, page);
+  note->setText(ToQt(std::string(kLunarWeekNote)));
+  SetTextColor(*note, Look::kCaption);
+  rows->addWidget(note);
   return page;
 }
 
@@ -112,28 +184,33 @@ void CalendarView::AddHeadings(QGridLayout& grid, QWidget* page) {
   const int widest = qMax(fontMetrics().horizontalAdvance(kLongestDate),
                           small.horizontalAdvance(kLongestEventLine));
   for (int column = 0; column < kGridColumns; ++column) {
+    Label& label = form_.lblWeekday[static_cast<std::size_t>(column)];
     QLabel* heading = MakeText(1, page);
-    binder_.Bind(form_.lblWeekday[static_cast<std::size_t>(column)], *heading);
+    binder_.Bind(label, *heading);
+    heading->setText(ToQt(label.Caption()).trimmed());  // the blanks would put it off the middle
     SetTextColor(*heading, Look::kCaption);
     grid.addWidget(heading, 0, column);
     grid.setColumnStretch(column, 1);
-    grid.setColumnMinimumWidth(column, widest + 2 * Spacing(*this));
+    grid.setColumnMinimumWidth(column, widest + 3 * Spacing(*this));
   }
 }
 
 QWidget* CalendarView::MakeCell(std::size_t index, QWidget* page) {
   auto* cell = new CellView(form_.lblDate[index], page);
+  binder_.Bind(form_.lblDate[index], *cell);
   const int space = Spacing(*this);
   auto* rows = new QVBoxLayout(cell);
-  rows->setContentsMargins(space / 2, space, space / 2, space / 2);
-  rows->setSpacing(0);
+  rows->setContentsMargins(space, space + space / 2, space, space);
+  rows->setSpacing(space / 4);
 
   auto* picture = new PictureView(kPictureLines, cell);
   binder_.Bind(form_.imgMoon[index], *picture);
   rows->addWidget(picture, 1);
-  auto* date = new LinkLabel(LinkLabel::Kind::kValue, cell);
-  binder_.Bind(form_.lblDate[index], *date);
-  rows->addWidget(date, 0, Qt::AlignHCenter);
+  QLabel* date = MakeText(1, cell);
+  date->setTextFormat(Qt::PlainText);
+  Mirror(form_.lblDate[index], Property::kCaption, *date,
+         [date, &label = form_.lblDate[index]] { date->setText(ToQt(label.Caption())); });
+  rows->addWidget(date);
   QLabel* ce_date = MakeText(kSmall, cell);
   binder_.Bind(form_.lblCEDate[index], *ce_date);
   SetTextColor(*ce_date, Look::kCaption);
@@ -145,11 +222,12 @@ QWidget* CalendarView::MakeCell(std::size_t index, QWidget* page) {
   binder_.Bind(form_.lblEvent[index], *event);
   SetTextColor(*event, Look::kEvent);
   rows->addWidget(event);
-  // Every page has the same room, whatever cells it shows.
   for (QWidget* part : {static_cast<QWidget*>(picture), static_cast<QWidget*>(date),
                         static_cast<QWidget*>(ce_date), static_cast<QWidget*>(event)}) {
-    KeepRoomWhenHidden(*part);
+    part->setAttribute(Qt::WA_TransparentForMouseEvents);
+    KeepRoomWhenHidden(*part);  // every page has the same room, whatever cells it shows
   }
+  KeepRoomWhenHidden(*cell);
   return cell;
 }
 

@@ -9,14 +9,23 @@ class QGridLayout;
 
 namespace tarnwick {
 
+// Where there is room for it the dates are written larger. The row of the current calendar has a
+// ground and a bar of its own.
 class DatesView final : public Panel {
  public:
   DatesView(DatesSection& section, Binder& binder, QWidget* parent);
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
  private:
   void AddRow(ValueLabel& label, QGridLayout& rows);
+  QSize RoomFor(const QFont& font) const;
+  void FitFont();
 
   Binder& binder_;
+  QWidget* table_;
+  const QWidget* current_ = nullptr;  // the date in the current calendar
 };
 
 }  // namespace tarnwick

@@ -25,6 +25,8 @@ constexpr Wording kWordings[] = {
     {"cmdClearDate", 'l', ""},
 };
 
+constexpr double kTypedSize = 1.2;  // of the font: what is typed is what the rest follows from
+
 // One line, cut short where it does not fit; its tool tip then says all of it.
 class QuietLine final : public QLabel {
  public:
@@ -53,8 +55,7 @@ constexpr char kLongestDayCount[] = "+9,999,999";
 
 QLineEdit* MakeLineEdit(QWidget* panel) {
   auto* edit = new QLineEdit(panel);
-  const int margin = Spacing(*panel) / 2;
-  edit->setTextMargins(margin, margin / 4, margin, margin / 4);
+  edit->setFont(Scaled(edit->font(), kTypedSize));
   return edit;
 }
 
@@ -68,7 +69,9 @@ int EditWidth(const QLineEdit& edit, const QString& text) {
 EntryView::EntryView(EntrySection& section, Binder& binder, QWidget* parent)
     : Panel(Ground::kDark, parent), section_(section), binder_(binder) {
   binder_.AddWordings(kWordings);
-  binder_.Bind(section_.fraConvert, *this);
+  binder_.Bind(section_.fraConvert, static_cast<QWidget&>(*this));  // needs no title
+  const int space = Spacing(*this);
+  Content().setContentsMargins(2 * space, 3 * space / 2, 2 * space, 3 * space / 2);
   Content().addLayout(MakeEntryRow());
   Content().addWidget(MakeHint());
   commands_ = MakeCommandRow();
@@ -115,7 +118,7 @@ QWidget* EntryView::MakeHint() {
 QHBoxLayout* EntryView::MakeCommandRow() {
   auto* row = new QHBoxLayout;
   row->setSpacing(Spacing(*this));
-  row->addWidget(MakeButton(binder_, section_.cmdCompute, this));
+  row->addWidget(MakeButton(binder_, section_.cmdCompute, this, ButtonRole::kAccent));
   row->addWidget(MakeButton(binder_, section_.cmdClearDate, this));
   return row;
 }

@@ -33,15 +33,21 @@ class CreditsView final : public QWidget {
   Binder binder_;
 };
 
-// A notice that lies over a window.
+// A notice that lies over a window, as large as its text.
 class NoticeView final : public QWidget {
  public:
   NoticeView(frmNotice& form, HandlerGate& gate);
 
  protected:
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  // The middle of the lower edge is where the form has it.
+  QRect PlaceFor(const QRect& wanted) const;
+
+  frmNotice& form_;
+  HandlerGate& gate_;
   Binder binder_;
   QTimer timer_;
 };

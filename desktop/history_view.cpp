@@ -3,7 +3,6 @@
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "desktop/bound_widgets.h"
 #include "desktop/look.h"
@@ -25,16 +24,13 @@ HistoryView::HistoryView(HistorySection& section, Binder& binder, QWidget* paren
     : Panel(Ground::kDark, parent) {
   binder.AddWordings(kWordings);
   binder.Bind(section.fraHistory, *this);
-  auto* row = new QHBoxLayout;
-  row->setSpacing(Spacing(*this));
-  row->addWidget(MakeButton(binder, section.cmdBack, this));
-  row->addWidget(MakeButton(binder, section.cmdForward, this));
+  QHBoxLayout& row = MakeLine();
+  row.addWidget(MakeButton(binder, section.cmdBack, this));
+  row.addWidget(MakeButton(binder, section.cmdForward, this));
   auto* entries = new QComboBox(this);
   ReserveWidth(*entries, kLongestEntry);
   binder.Bind(section.cboHistory, *entries);
-  row->addWidget(entries, 1);
-  Content().addLayout(row);
-  Content().addStretch();
+  row.addWidget(entries, 1);
 }
 
 }  // namespace tarnwick

@@ -40,11 +40,6 @@ void LinkLabel::PaintGround(QPainter& painter) const {
     painter.setBrush(shade);
     painter.drawRoundedRect(frame, radius, radius);
   }
-  if (hasFocus()) {
-    painter.setPen(QPen(Look::kFocusRing, 1.5));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(frame, radius, radius);
-  }
 }
 
 void LinkLabel::paintEvent(QPaintEvent* /*event*/) {

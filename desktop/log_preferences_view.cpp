@@ -8,6 +8,7 @@
 #include "desktop/bound_widgets.h"
 #include "desktop/look.h"
 #include "desktop/panel.h"
+#include "desktop/screen_fit.h"
 
 namespace tarnwick {
 namespace {
@@ -39,6 +40,7 @@ LogPreferencesView::LogPreferencesView(frmLogPreferences& form, HandlerGate& gat
   sections->addWidget(MakeIncludePanel(), 1);
   sections->addWidget(MakeFormatPanel());
   sections->addWidget(MakeButtons());
+  FitToScreen(*this);
   resize(sizeHint());
   binder_.Bind(form_, *this);
 }

@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "desktop/bound_widgets.h"
 #include "desktop/look.h"
@@ -24,18 +23,15 @@ LogView::LogView(LogSection& section, Binder& binder, QWidget* parent)
     : Panel(Ground::kDark, parent) {
   binder.AddWordings(kWordings);
   SetTitle("Log");
-  auto* row = new QHBoxLayout;
-  row->setSpacing(Spacing(*this));
+  QHBoxLayout& row = MakeLine();
   auto* all = new QCheckBox(this);
   binder.Bind(section.chkLog, *all);
-  row->addWidget(all);
-  row->addStretch();
+  row.addWidget(all);
+  row.addStretch();
   for (Button* button :
        {&section.cmdLogThisResult, &section.cmdViewLog, &section.cmdLogPreferences}) {
-    row->addWidget(MakeButton(binder, *button, this));
+    row.addWidget(MakeButton(binder, *button, this));
   }
-  Content().addLayout(row);
-  Content().addStretch();
 }
 
 }  // namespace tarnwick

@@ -1,10 +1,16 @@
 #include "desktop/log_window_view.h"
 
 #include <QFont>
+#include <QHBoxLayout>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include "desktop/bound_widgets.h"
+#include "desktop/event_hook.h"
+#include "desktop/look.h"
+#include "desktop/panel.h"
+#include "desktop/screen_fit.h"
 
 namespace tarnwick {
 namespace {
@@ -14,8 +20,7 @@ constexpr Wording kWordings[] = {
     {"cmdSaveAs", 'S', "", ""}, {"cmdClose", 'o', ""},
 };
 
-// The buttons stand side by side, even with the longest caption of the one that changes.
-constexpr QSize kSmallest{810, 240};
+constexpr QSize kLeastText{30, 10};  // in lines of text
 
 QFont FixedPitch(const QFont& like) {
   QFont font = like;
@@ -27,26 +32,40 @@ QFont FixedPitch(const QFont& like) {
 
 }  // namespace
 
-LogWindowView::LogWindowView(frmLog& form, HandlerGate& gate) : binder_(gate, kWordings) {
-  setMinimumSize(kSmallest);
-  AddText(form.txbText);
-  AddButton(form.cmdClear);
-  AddButton(form.cmdCopyToClipboard);
-  AddButton(form.cmdSaveAs);
-  AddButton(form.cmdClose);
-  binder_.Bind(form, *this);
+LogWindowView::LogWindowView(frmLog& form, HandlerGate& gate)
+    : form_(form), binder_(gate, kWordings) {
+  QVBoxLayout* rows = MakeSections(*this);
+  rows->addWidget(MakeText(), 1);
+  rows->addWidget(MakeButtons());
+  FitToScreen(*this);
+  binder_.Bind(form_, *this);
 }
 
-void LogWindowView::AddText(TextBox& text) {
+QWidget* LogWindowView::MakeText() {
   auto* edit = new QPlainTextEdit(this);
   edit->setFont(FixedPitch(edit->font()));
   edit->setTabChangesFocus(true);
-  binder_.Bind(text, *edit);
-  binder_.BindPlace(text, *edit);
+  edit->setMinimumSize(kLeastText * fontMetrics().height());
+  edit->document()->setDocumentMargin(Spacing(*this));
+  binder_.Bind(form_.txbText, *edit);
+  // The caret has been set before the window had its size.
+  new EventHook(*this, [edit](QEvent& event) {
+    if (event.type() != QEvent::Show && event.type() != QEvent::WindowActivate) return false;
+    QMetaObject::invokeMethod(edit, &QPlainTextEdit::ensureCursorVisible, Qt::QueuedConnection);
+    return false;
+  });
+  return edit;
 }
 
-void LogWindowView::AddButton(Button& button) {
-  binder_.BindPlace(button, *MakeButton(binder_, button, this));
+QWidget* LogWindowView::MakeButtons() {
+  auto* area = new Area(Spacing(*this), this);
+  QHBoxLayout& row = area->Row();
+  row.addWidget(MakeButton(binder_, form_.cmdClear, area));
+  row.addWidget(MakeButton(binder_, form_.cmdCopyToClipboard, area));
+  row.addStretch();
+  row.addWidget(MakeButton(binder_, form_.cmdSaveAs, area));
+  row.addWidget(MakeButton(binder_, form_.cmdClose, area));
+  return area;
 }
 
 }  // namespace tarnwick

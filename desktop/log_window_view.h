@@ -1,4 +1,5 @@
-// The log on the screen. The form itself places its controls.
+// The log on the screen. The places that the form gives its controls are those of a window drawn by
+// hand; here a layout places them, since fonts and screens differ.
 #pragma once
 
 #include <QWidget>
@@ -15,9 +16,10 @@ class LogWindowView final : public QWidget {
   QWidget* WidgetOf(const Control& control) const { return binder_.WidgetOf(control); }
 
  private:
-  void AddText(TextBox& text);
-  void AddButton(Button& button);
+  QWidget* MakeText();
+  QWidget* MakeButtons();
 
+  frmLog& form_;
   Binder binder_;
 };
 

@@ -3,35 +3,20 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
-#include <QProxyStyle>
 #include <QToolTip>
 #include <QWidget>
 
+#include "desktop/style.h"
+
 namespace tarnwick {
 namespace {
-
-class Style final : public QProxyStyle {
- public:
-  Style() : QProxyStyle("Fusion") {}
-
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                QStyleHintReturn* returned) const override {
-    switch (hint) {
-      case SH_ComboBox_Popup:  // a list that scrolls, not a menu as high as the screen
-      case SH_ComboBox_AllowWheelScrolling:  // a stray turn of the wheel would move the moment
-        return 0;
-      default:
-        return QProxyStyle::styleHint(hint, option, widget, returned);
-    }
-  }
-};
 
 QPalette DarkPalette() {
   QPalette palette;
   palette.setColor(QPalette::Window, Look::kWindow);
   palette.setColor(QPalette::WindowText, Look::kText);
   palette.setColor(QPalette::Base, Look::kField);
-  palette.setColor(QPalette::AlternateBase, Look::kLightPanel);
+  palette.setColor(QPalette::AlternateBase, Look::kPanel);
   palette.setColor(QPalette::Text, Look::kFieldText);
   palette.setColor(QPalette::PlaceholderText, Look::kPlaceholder);
   palette.setColor(QPalette::Button, Look::kButton);
@@ -39,40 +24,33 @@ QPalette DarkPalette() {
   palette.setColor(QPalette::BrightText, Look::kButtonText);
   palette.setColor(QPalette::Highlight, Look::kSelection);
   palette.setColor(QPalette::HighlightedText, Look::kSelectionText);
-  palette.setColor(QPalette::Link, Look::kFocusRing);
+  palette.setColor(QPalette::Link, Look::kFocusRing);  // of the focus ring too
   palette.setColor(QPalette::LinkVisited, Look::kFocusRing);
   palette.setColor(QPalette::ToolTipBase, Look::kToolTip);
   palette.setColor(QPalette::ToolTipText, Look::kToolTipText);
-  palette.setColor(QPalette::Light, Look::kButton.lighter(130));
-  palette.setColor(QPalette::Midlight, Look::kButton.lighter(115));
-  palette.setColor(QPalette::Mid, Look::kPanelEdge);
-  palette.setColor(QPalette::Dark, Look::kWindow.darker(130));
-  palette.setColor(QPalette::Shadow, Look::kWindow.darker(200));
+  // The style draws a button in these: its edge, under the pointer, held down.
+  palette.setColor(QPalette::Light, Look::kButtonEdge);
+  palette.setColor(QPalette::Midlight, Look::kButtonHover);
+  palette.setColor(QPalette::Mid, Look::kButtonPressed);
+  palette.setColor(QPalette::Dark, Look::kPanelEdge);
+  palette.setColor(QPalette::Shadow, Look::kField);
 
   palette.setColor(QPalette::Disabled, QPalette::WindowText, Look::kDisabledText);
   palette.setColor(QPalette::Disabled, QPalette::ButtonText, Look::kDisabledText);
   palette.setColor(QPalette::Disabled, QPalette::Button, Look::kDisabledButton);
+  palette.setColor(QPalette::Disabled, QPalette::Light, Look::kDisabledEdge);
   palette.setColor(QPalette::Disabled, QPalette::Base, Look::kDisabledField);
   palette.setColor(QPalette::Disabled, QPalette::Text, Look::kDisabledFieldText);
-  return palette;
-}
-
-// A chosen option is a white mark on slate, so that one that is not chosen stays in the background.
-QPalette OptionPalette() {
-  QPalette palette = DarkPalette();
-  palette.setColor(QPalette::Base, Look::kOption);
-  palette.setColor(QPalette::Text, Look::kButtonText);
   return palette;
 }
 
 }  // namespace
 
 void ApplyLook() {
-  QApplication::setStyle(new Style);
+  QApplication::setStyle(MakeStyle());
   const QPalette palette = DarkPalette();
   QApplication::setPalette(palette);
-  QApplication::setPalette(OptionPalette(), "QRadioButton");
-  QApplication::setPalette(OptionPalette(), "QCheckBox");
+  ShowFocusRing();
   QToolTip::setPalette(palette);
 }
 
@@ -80,10 +58,28 @@ QPalette LightPalette() {
   QPalette palette;
   palette.setColor(QPalette::Window, Look::kLightPanel);
   palette.setColor(QPalette::WindowText, Look::kLightText);
+  palette.setColor(QPalette::Link, Look::kLightFocusRing);
+  return palette;
+}
+
+QPalette AccentPalette() {
+  QPalette palette;
+  for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+    palette.setColor(group, QPalette::Button, Look::kAccent);
+    palette.setColor(group, QPalette::Light, Look::kAccentEdge);
+    palette.setColor(group, QPalette::Midlight, Look::kAccentHover);
+    palette.setColor(group, QPalette::Mid, Look::kAccentPressed);
+  }
   return palette;
 }
 
 int Spacing(const QWidget& widget) { return widget.fontMetrics().height() / 2; }
+
+QFont Scaled(const QFont& font, double factor) {
+  QFont scaled = font;
+  scaled.setPointSizeF(factor * font.pointSizeF());
+  return scaled;
+}
 
 void SetTextColor(QWidget& widget, const QColor& color) {
   QPalette palette;

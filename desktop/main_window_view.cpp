@@ -16,6 +16,7 @@
 #include "desktop/moon_view.h"
 #include "desktop/move_view.h"
 #include "desktop/panel.h"
+#include "desktop/screen_fit.h"
 #include "desktop/search_view.h"
 #include "desktop/time_view.h"
 #include "desktop/twips.h"
@@ -29,6 +30,8 @@ constexpr Wording kWordings[] = {
     {"cmdHelp", 0, "", "F1"}, {"cmdQuit", 'Q', ""},
 };
 
+constexpr QSize kUsualSize{80, 53};  // in lines of text
+
 }  // namespace
 
 MainWindowView::MainWindowView(frmMain& form, HandlerGate& gate)
@@ -38,15 +41,16 @@ MainWindowView::MainWindowView(frmMain& form, HandlerGate& gate)
   sections->addLayout(MakeRow({{new DatesView(form_.dates, binder_, this), 3},
                                {new MoonView(form_.moon, binder_, this), 2}}),
                       1);
-  sections->addLayout(MakeRow({{new MoveView(form_.move, binder_, this), 1},
-                               {new SearchView(form_.search, binder_, this), 1},
-                               {new EclipseView(form_.search, binder_, this), 1}}));
+  sections->addLayout(MakeRow({{new MoveView(form_.move, binder_, this), 6},
+                               {new SearchView(form_.search, binder_, this), 6},
+                               {new EclipseView(form_.search, binder_, this), 7}}));
   sections->addLayout(MakeRow({{new HistoryView(form_.history, binder_, this), 2},
                                {new LogView(form_.log, binder_, this), 3}}));
   sections->addWidget(MakeButtons());
 
   binder_.Bind(form_.Clock, clock_);
-  resize(sizeHint());
+  FitToScreen(*this);
+  resize(kUsualSize * fontMetrics().height());
   binder_.Bind(form_, *this);
 }
 

@@ -2,7 +2,10 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QPainter>
+#include <QRadialGradient>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/look.h"
 #include "desktop/picture_view.h"
@@ -24,33 +27,59 @@ constexpr char kLongestAge[] = "[-64316] 29 days, 23 hrs, 59 mins (100.0%)";
 }  // namespace
 
 MoonView::MoonView(MoonSection& section, Binder& binder, QWidget* parent)
-    : Panel(Ground::kLight, parent), binder_(binder) {
+    : Panel(Ground::kDark, parent), binder_(binder) {
   binder_.AddWordings(kWordings);
-  SetTitle("Moon");
-  auto* picture = new PictureView(kPictureLines, this);
+  setAccessibleName("Moon");
+  Content().setContentsMargins(0, Spacing(*this), 0, 0);
+  auto* picture = new PictureView(kPictureLines, this, PictureView::Ground::kSky);
   binder_.Bind(section.picMoon, *picture);
   Content().addWidget(picture, 1);
+  facts_ = MakeFacts(section);
+  Content().addWidget(facts_);
+}
 
-  auto* rows = new QGridLayout;
-  rows->setHorizontalSpacing(2 * Spacing(*this));
-  rows->setVerticalSpacing(Spacing(*this) / 2);
+QWidget* MoonView::MakeFacts(MoonSection& section) {
+  const int space = Spacing(*this);
+  auto* facts = new QWidget(this);
+  facts->setPalette(LightPalette());
+  auto* rows = new QGridLayout(facts);
+  rows->setContentsMargins(2 * space, 3 * space / 2, 2 * space, 3 * space / 2);
+  rows->setHorizontalSpacing(2 * space);
+  rows->setVerticalSpacing(space / 2);
   rows->setColumnStretch(1, 1);
-  rows->setColumnMinimumWidth(1, fontMetrics().horizontalAdvance(kLongestAge) + Spacing(*this));
+  rows->setColumnMinimumWidth(1, fontMetrics().horizontalAdvance(kLongestAge) + space);
   AddRow(section.lblPhaseOfMoon, *rows);
   AddRow(section.lblAgeOfMoon, *rows);
   AddRow(section.lblDeltaT, *rows);
-  Content().addLayout(rows);
-  Content().addStretch();
+  return facts;
+}
+
+void MoonView::paintEvent(QPaintEvent* /*event*/) {
+  const QRect sky(0, 0, width(), facts_->y());
+  QRadialGradient glow(sky.center(), 0.75 * std::max(sky.width(), sky.height()));
+  glow.setColorAt(0, Look::kSkyGlow);
+  glow.setColorAt(1, Look::kSky);
+
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  const auto fill = [&](const QRect& part, const QBrush& brush) {
+    painter.setClipRect(part);
+    painter.setBrush(brush);
+    painter.drawRoundedRect(rect(), CornerRadius(), CornerRadius());
+  };
+  fill(sky, glow);
+  fill(facts_->geometry(), Look::kLightPanel);
 }
 
 void MoonView::AddRow(ValueLabel& label, QGridLayout& rows) {
   const int row = rows.rowCount();
-  auto* caption = new QLabel(this);
+  auto* caption = new QLabel(rows.parentWidget());
   binder_.Bind(label[0], *caption);
   SetTextColor(*caption, Look::kLightCaption);
   rows.addWidget(caption, row, 0);
 
-  auto* value = new QLabel(this);
+  auto* value = new QLabel(rows.parentWidget());
   binder_.Bind(label[1], *value);
   rows.addWidget(value, row, 1);
 }

@@ -1,4 +1,4 @@
-// The Moon at the moment, on the screen.
+// The Moon at the moment in its sky, and the facts about it on a pale ground below.
 #pragma once
 
 #include "desktop/binder.h"
@@ -13,10 +13,15 @@ class MoonView final : public Panel {
  public:
   MoonView(MoonSection& section, Binder& binder, QWidget* parent);
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
  private:
+  QWidget* MakeFacts(MoonSection& section);
   void AddRow(ValueLabel& label, QGridLayout& rows);
 
   Binder& binder_;
+  QWidget* facts_ = nullptr;
 };
 
 }  // namespace tarnwick

@@ -49,8 +49,9 @@ MoveView::MoveView(MoveSection& section, Binder& binder, QWidget* parent)
   binder_.AddWordings(kWordings);
   SetTitle(ToQt(section_.fraMove.Caption()));
   Content().addWidget(MakeFrame());
-  Content().addLayout(MakePeriodRow());
-  Content().addWidget(MakeSteering(), 0, Qt::AlignRight);
+  QHBoxLayout* steering = MakePeriodRow();
+  steering->addWidget(MakeSteering());
+  Content().addLayout(steering);
   Content().addStretch();
 }
 
@@ -74,7 +75,7 @@ QWidget* MoveView::MakeFrame() {
   AddOption(binder_, section_.optMoveDirection[0], *direction);
   AddOption(binder_, section_.optMoveDirection[1], *direction);
   rows->addWidget(direction, 1, 0, Qt::AlignLeft);
-  rows->addWidget(MakeButton(binder_, section_.cmdMove, frame), 1, 1);
+  rows->addWidget(MakeButton(binder_, section_.cmdMove, frame, ButtonRole::kAccent), 1, 1);
   return frame;
 }
 

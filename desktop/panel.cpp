@@ -22,11 +22,24 @@ Panel::Panel(Ground ground, QWidget* parent)
   content_->setContentsMargins(2 * space, space, 2 * space, 3 * space / 2);
   content_->setSpacing(space);
   content_->addWidget(title_);
+  title_->hide();
 }
 
 void Panel::SetTitle(const QString& title) {
   title_->setText(title);
+  title_->setVisible(!title.isEmpty());
   setAccessibleName(title);
+}
+
+QHBoxLayout& Panel::MakeLine() {
+  const int space = Spacing(*this);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(space);
+  row->addWidget(title_);
+  row->addSpacing(space / 2);
+  content_->setContentsMargins(2 * space, space, 2 * space, space);
+  content_->addLayout(row);
+  return *row;
 }
 
 void Panel::paintEvent(QPaintEvent* /*event*/) {
@@ -35,8 +48,8 @@ void Panel::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(light ? Look::kLightPanelEdge : Look::kPanelEdge);
   painter.setBrush(light ? Look::kLightPanel : Look::kPanel);
-  const double radius = fontMetrics().height() / 3.0;
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), CornerRadius(),
+                          CornerRadius());
 }
 
 QVBoxLayout* MakeSections(QWidget& window) {

@@ -16,12 +16,16 @@ class Panel : public QWidget {
 
   Panel(Ground ground, QWidget* parent);
 
+  // A panel without one leaves no room for it.
   void SetTitle(const QString& title);
+  // Puts the title at the left of a row that is all the panel holds, and returns the row.
+  QHBoxLayout& MakeLine();
   QLabel& Title() { return *title_; }
   // Where its content goes, below the title.
   QVBoxLayout& Content() { return *content_; }
 
  protected:
+  double CornerRadius() const { return fontMetrics().height() / 3.0; }
   void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -1,4 +1,5 @@
-// Shows the picture of a file as large as it finds room for, with rounded corners. The picture is
+// Shows the picture of a file as large as it finds room for, with rounded corners or, in the sky
+// that its parent paints, with what of it is brighter. The picture is
 // retouched when it has the size at which it is shown, in pixels of the screen, so that what is
 // drawn on it is sharp at any scaling.
 #pragma once
@@ -16,8 +17,11 @@ class PictureView : public QWidget {
  public:
   using Retouch = std::function<void(std::span<std::uint32_t> pixels, int width)>;
 
-  // `lines` is the height it would like to have, in lines of text; it takes up to three times that.
-  PictureView(int lines, QWidget* parent);
+  enum class Ground { kOwn, kSky };
+
+  // `lines` is the height it would like to have, in lines of text; it takes up to three times that,
+  // in the sky whatever there is.
+  PictureView(int lines, QWidget* parent, Ground ground = Ground::kOwn);
 
   // Shows nothing if there is no such picture.
   void SetPicture(const std::filesystem::path& file, Retouch retouch);
@@ -29,13 +33,15 @@ class PictureView : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QImage Rendered(QSize pixels) const;
+  QImage Rendered(QSize pixels);
 
   int lines_;
+  Ground ground_;
   std::filesystem::path file_;
   Retouch retouch_;
   QImage source_;
-  QImage shown_;  // at the size at which it was last shown; null when it has to be made anew
+  QImage scaled_;  // as the source, at the size at which it was last shown
+  QImage shown_;   // at the size at which it was last shown; null when it has to be made anew
 };
 
 }  // namespace tarnwick

@@ -9,7 +9,10 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QImage>
+#include <QLabel>
 #include <QMessageBox>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include "controls/form.h"
 #include "controls/text_file.h"
@@ -17,6 +20,7 @@
 #include "desktop/look.h"
 #include "desktop/platform.h"
 #include "desktop/program_folder.h"
+#include "desktop/screen_fit.h"
 #include "engines/time_units.h"
 #include "state/state_file.h"
 
@@ -24,6 +28,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int kImageResolution = 2;  // pixels of a saved image for one of the screen, each way
+constexpr int kWidestText = 48;      // of a message, in lines of text
 
 QMessageBox::Icon IconOf(MessageIcon icon) {
   switch (icon) {
@@ -69,13 +74,41 @@ QEventLoop::ProcessEventsFlags FlagsOf(YieldMode mode) {
   return QEventLoop::AllEvents;
 }
 
+// Lets a text scroll that has no room on the screen, beside the icon and above the buttons.
+void ScrollLongText(QMessageBox& box) {
+  const int line = box.fontMetrics().height();
+  const QSize room = RoomFor(box).size() - QSize(8, 6) * line;
+  const QRect widest(0, 0, qMin(room.width(), kWidestText * line), room.height());
+  const QSize text = box.fontMetrics().boundingRect(widest, Qt::TextWordWrap, box.text()).size();
+  if (text == text.boundedTo(room)) return;
+  auto* grid = static_cast<QGridLayout*>(box.layout());
+  auto* own = box.findChild<QLabel*>("qt_msgbox_label");
+  int row = 0;
+  int column = 0;
+  int rows = 0;
+  int columns = 0;
+  grid->getItemPosition(grid->indexOf(own), &row, &column, &rows, &columns);
+  own->hide();
+  auto* shown = new QLabel(box.text());
+  shown->setTextFormat(Qt::PlainText);
+  shown->setWordWrap(true);
+  shown->resize(text);
+  auto* area = new QScrollArea(&box);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setWidget(shown);
+  const int bar = area->verticalScrollBar()->sizeHint().width();
+  area->setMinimumSize((text + QSize(bar, bar)).boundedTo(room));
+  grid->addWidget(area, row, column, rows, columns);
+}
+
 // Makes room for the title beside the buttons of the window's frame, and for a line of text that
 // would else break just before its end.
 void Widen(QMessageBox& box) {
   const QFontMetrics font = box.fontMetrics();
   const int title = font.horizontalAdvance(box.windowTitle()) + 12 * font.height();
   const int text = font.size(0, box.text()).width() + 8 * font.height();
-  const int width = qMax(title, qMin(text, 48 * font.height()));
+  const int room = RoomFor(box).width() - 2 * font.height();
+  const int width = qMin(room, qMax(title, qMin(text, kWidestText * font.height())));
   auto* grid = static_cast<QGridLayout*>(box.layout());
   grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
@@ -87,6 +120,7 @@ MessageAnswer QtDesktop::ShowMessage(const Message& message) {
                   ButtonsOf(message.buttons), QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
   for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
+  ScrollLongText(box);
   Widen(box);
   return AnswerOf(box.exec(), message.buttons);
 }
@@ -113,6 +147,7 @@ std::optional<std::filesystem::path> QtDesktop::AskSavePath(const std::string& t
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QFileInfo(ToQt(suggestion)).suffix());
   dialog.selectFile(ToQt(suggestion));
+  dialog.resize(dialog.size().boundedTo(RoomFor(dialog).size()));
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   return QFileInfo(dialog.selectedFiles().constFirst()).filesystemFilePath();
 }

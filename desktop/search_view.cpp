@@ -1,6 +1,7 @@
 #include "desktop/search_view.h"
 
 #include <QComboBox>
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -9,6 +10,7 @@
 #include "desktop/bound_widgets.h"
 #include "desktop/characters.h"
 #include "desktop/look.h"
+#include "desktop/mirror.h"
 
 namespace tarnwick {
 namespace {
@@ -42,7 +44,7 @@ SearchView::SearchView(SearchSection& section, Binder& binder, QWidget* parent)
   auto* searching = new QLabel(this);
   KeepRoomWhenHidden(*searching);
   binder_.Bind(section_.lblSearching, *searching);
-  Content().addWidget(searching, 0, Qt::AlignRight);
+  Content().addWidget(searching);
   Content().addStretch();
 }
 
@@ -67,7 +69,7 @@ QWidget* SearchView::MakeFrame() {
   AddOption(binder_, section_.optPrevious, *direction);
   command->addWidget(direction);
   command->addStretch();
-  command->addWidget(MakeButton(binder_, section_.cmdSearch, frame));
+  command->addWidget(MakeButton(binder_, section_.cmdSearch, frame, ButtonRole::kAccent));
   rows->addLayout(command);
   return frame;
 }
@@ -78,11 +80,20 @@ EclipseView::EclipseView(SearchSection& section, Binder& binder, QWidget* parent
   auto* text = new QLabel(this);
   text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  auto* place = new QGridLayout;
+  place->addWidget(text, 0, 0);
   // Room for any eclipse, so that nothing moves when one is found.
   text->setText(kLongestText);
   text->setMinimumSize(text->sizeHint());
   binder.Bind(section.lblActualEclipseData, *text);
-  Content().addWidget(text, 1);
+  auto* empty = new QLabel("What a search for an eclipse finds is described here.", this);
+  empty->setWordWrap(true);
+  SetTextColor(*empty, Look::kLightCaption);
+  place->addWidget(empty, 0, 0, Qt::AlignTop);
+  Label& label = section.lblActualEclipseData;
+  Mirror(label, Property::kCaption, *empty,
+         [&label, empty] { empty->setVisible(label.Caption().empty()); });
+  Content().addLayout(place, 1);
 }
 
 }  // namespace tarnwick

@@ -23,7 +23,9 @@ frmCalendar::frmCalendar(Desktop& desktop, Screen& screen, Session& session, Pic
       notice_(notice) {
   lblTitle.SetForeColor(kTitleColor);
   for (int column = 0; column < kGridColumns; ++column) {
-    lblWeekday[static_cast<std::size_t>(column)].SetCaption(WeekdayHeading(column));
+    Label& heading = lblWeekday[static_cast<std::size_t>(column)];
+    heading.SetCaption(WeekdayHeading(column));
+    heading.SetToolTipText(std::string(kLunarWeekNote));
   }
   for (std::size_t i = 0; i < kGridCells; ++i) {
     imgMoon[i].on_click = lblDate[i].on_click = lblCEDate[i].on_click =
@@ -54,7 +56,7 @@ void frmCalendar::Form_Activate() { cmdShowPreviousOrNext[1].SetFocus(); }
 GridReading frmCalendar::Reading() const { return {intMonthCalendar, session_.ReadingOffset()}; }
 
 void frmCalendar::ShowCurrentLunation() {
-  lngLunation = LunationOfDay(session_.Moment(), Reading());
+  lngLunation = lngCurrentLunation = LunationOfDay(session_.Moment(), Reading());
   ShowLunation();
 }
 
@@ -64,7 +66,11 @@ void frmCalendar::SetMonthCalendar(int month_calendar) {
 }
 
 void frmCalendar::Refresh() {
-  if (Visible()) ShowLunation();
+  if (!Visible()) return;
+  const bool follows = lngLunation == lngCurrentLunation;
+  lngCurrentLunation = LunationOfDay(session_.Moment(), Reading());
+  if (follows) lngLunation = lngCurrentLunation;
+  ShowLunation();
 }
 
 void frmCalendar::ShowLunation() {

@@ -41,7 +41,8 @@ class frmCalendar final : public ClosableForm {
   void SetMonthCalendar(int month_calendar);
   // Shows the lunation that the day of the current moment belongs to.
   void ShowCurrentLunation();
-  // Draws the page again, if it is on display: a setting or the current moment has changed.
+  // Draws the page again, if it is on display: a setting or the current moment has changed. A page
+  // with the former moment goes along with it; one that the user has turned to stays.
   void Refresh();
 
   void Form_Load() override;
@@ -62,6 +63,7 @@ class frmCalendar final : public ClosableForm {
   frmNotice& notice_;
   int intMonthCalendar = 0;
   std::int32_t lngLunation = 0;
+  std::int32_t lngCurrentLunation = 0;  // that of the current moment when the page was last drawn
   LunationGrid grid_;
 };
 

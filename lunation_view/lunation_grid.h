@@ -54,8 +54,12 @@ struct LunationGrid {
 
 LunationGrid MakeLunationGrid(std::int32_t lunation, const GridReading& reading);
 
-// "Mon   " to "Sun   " and "Lunaday" for the columns. They count the days of the lunar week; the
-// days of the civil week fall otherwise.
+// What the columns count, said on the page.
+inline constexpr std::string_view kLunarWeekNote =
+    "Mon to Sun and Lunaday count the days of the lunar week, from the new moon on; "
+    "the days of the civil week fall otherwise.";
+
+// "Mon   " to "Sun   " and "Lunaday" for the columns.
 std::string WeekdayHeading(int column);
 
 // Whether the cell is ever shown: those at the end of the first and third week are not.

@@ -3,87 +3,143 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
+#include <optional>
+#include <vector>
 
 namespace tarnwick {
 namespace {
 
 // How bright each colour is; 1 is the full Moon. The values are those of the pixels, which follow
 // the eye rather than the physics.
-using Light = std::array<double, 3>;  // blue, green, red
+using Factors = std::array<float, 3>;  // blue, green, red
 
-constexpr Light kEarthshine{0.25, 0.20, 0.165};
-constexpr double kTerminatorLight = 0.28;  // on the lit side
+constexpr Factors kEarthshine{0.25F, 0.20F, 0.165F};
+constexpr float kTerminatorLight = 0.28F;  // on the lit side
 // Where the picture was enlarged its limb is blurred: so far beyond the disc, of its radius, may
 // light have come.
 constexpr double kLimbBlur = 0.02;
 
 bool IsQuarter(double fraction) { return fraction > 0.49 && fraction < 0.51; }
 
-// A disc in the plane of the picture: x to the right, y down, both in pixels from the centre.
-class Disc {
- public:
-  explicit Disc(int width) : width_(width), radius_(kMoonDiscRadius * width) {}
-
-  double FromCentre(int index) const { return index + 0.5 - width_ / 2.0; }
-  bool Covers(double x, double y) const {
-    return std::hypot(x, y) < radius_ * (1 + kLimbBlur) + 0.5;
-  }
-  // `edge` is the width of the terminator, in pixels.
-  Light LightAt(double x, double y, MoonPhase phase, double edge) const;
-
- private:
-  int width_;
-  double radius_;
-};
-
-// How much of a pixel lies on the lit side. The terminator is x = shape * sqrt(radius^2 - y^2) with
-// the lit side at the right. On the limb a pixel is as those just inside it, so that no edge shows
-// along the limb of a full or a new Moon.
-double LitShare(double x, double y, double radius, double shape, double edge) {
-  const double inside = std::max(radius - edge / 2, radius / 2);
-  const double pull = std::min(inside / std::max(std::hypot(x, y), 1e-9), 1.0);
-  const double half_chord = std::sqrt(radius * radius - pull * pull * y * y);
-  const double slope = shape * pull * y / half_chord;
-  const double distance = (pull * x - shape * half_chord) / std::hypot(1.0, slope);
-  return std::clamp(0.5 + distance / edge, 0.0, 1.0);
-}
-
 // The sunlight that a ground like the Moon's sends back (the law of Lommel and Seeliger), which
 // leaves a full Moon as bright at the limb as in the middle. Arguments: the cosines of the angles
 // at which the Sun and the observer stand from the zenith.
-double Sunlight(double sun, double observer) {
+//
+// It comes from a table, since a power for each pixel would take most of the time of a drawing.
+float Sunlight(float sun, float observer) {
+  constexpr int kSteps = 4096;
+  static const std::vector<float> of_reflected = [] {
+    std::vector<float> light;
+    for (int i = 0; i <= kSteps; ++i) {
+      const double eased = std::pow(static_cast<double>(i) / kSteps, 0.6);
+      light.push_back(static_cast<float>(std::lerp(kTerminatorLight, 1.0, eased)));
+    }
+    return light;
+  }();
   if (sun <= 0) return kTerminatorLight;
-  const double reflected = std::min(2 * sun / (sun + observer), 1.0);
-  return kTerminatorLight + (1 - kTerminatorLight) * std::pow(reflected, 0.6);
+  const float reflected = std::min(2 * sun / (sun + observer), 1.0F);
+  return of_reflected[static_cast<std::size_t>(reflected * kSteps)];
 }
 
-Light Disc::LightAt(double x, double y, MoonPhase phase, double edge) const {
-  const double sunward = phase.waxing ? x : -x;
-  const double lit = LitShare(sunward, y, radius_, 1 - 2 * phase.fraction, edge);
-  // Beyond the limb the light is that of the limb, where the Moon is seen edge-on, but just seen.
-  const double reach = std::max(std::hypot(x, y), radius_);
-  const double right = sunward / reach;
-  const double observer = std::sqrt(std::max(1 - (x * x + y * y) / (reach * reach), 1e-4));
-  const double cosine = 2 * phase.fraction - 1;  // of the angle Sun - Moon - observer
-  const double sun = right * std::sqrt(std::max(1 - cosine * cosine, 0.0)) + observer * cosine;
+// A place on the disc, in radii from its centre, x to the right and y down. Beyond the limb the
+// light is that of the limb, where the Moon is seen edge-on, but just seen.
+struct Spot {
+  Spot(float x, float y)
+      : from_centre(std::sqrt(x * x + y * y)),
+        right(x / std::max(from_centre, 1.0F)),
+        observer(std::sqrt(std::max(1 - from_centre * from_centre, 1e-4F))) {}
 
-  Light light;
-  std::transform(kEarthshine.begin(), kEarthshine.end(), light.begin(),
-                 [&](double night) { return std::lerp(night, Sunlight(sun, observer), lit); });
-  return light;
-}
+  float from_centre;
+  float right;
+  float observer;  // the cosine of the angle at which the observer stands from the zenith
+};
+
+// The light of a phase on one row of the disc after another.
+class PhaseLight {
+ public:
+  // `edge` is the width of the terminator, in radii.
+  PhaseLight(MoonPhase phase, double edge)
+      : side_(phase.waxing ? 1.0F : -1.0F),
+        sharpness_(static_cast<float>(1 / edge)),
+        inside_(std::max(1 - static_cast<float>(edge / 2), 0.5F)),
+        cosine_(static_cast<float>(2 * phase.fraction - 1)),
+        sine_(std::sqrt(std::max(1 - cosine_ * cosine_, 0.0F))) {}
+
+  void StartRow(float y) {
+    y_ = y;
+    terminator_ = TerminatorAt(std::clamp(y, -inside_, inside_));
+  }
+
+  // How much of a pixel of the row lies on the lit side. On the limb it is as those just inside it,
+  // so that no edge shows along the limb of a full or a new Moon.
+  float LitShare(float x, const Spot& spot) const {
+    if (spot.from_centre <= inside_) return Share(side_ * x, terminator_);
+    const float pull = inside_ / spot.from_centre;
+    return Share(side_ * pull * x, TerminatorAt(pull * y_));
+  }
+
+  // What its lit part is like.
+  float SunlightAt(const Spot& spot) const {
+    return Sunlight(side_ * spot.right * sine_ + spot.observer * cosine_, spot.observer);
+  }
+
+ private:
+  // The terminator is x = -cosine * sqrt(1 - y^2), with the lit side at the right.
+  struct Terminator {
+    float x;
+    float steepness;  // the distance from it, of a step to the right
+  };
+  Terminator TerminatorAt(float y) const {
+    const float half_chord = std::sqrt(1 - y * y);
+    const float slope = -cosine_ * y / half_chord;
+    return {-cosine_ * half_chord, 1 / std::sqrt(1 + slope * slope)};
+  }
+  float Share(float sunward, const Terminator& terminator) const {
+    const float distance = (sunward - terminator.x) * terminator.steepness;
+    return std::clamp(0.5F + distance * sharpness_, 0.0F, 1.0F);
+  }
+
+  float side_;  // on which it is lit: 1 for the right one
+  float sharpness_;
+  float inside_;  // so far from the centre no pixel reaches beyond the limb
+  float cosine_;  // of the angle Sun - Moon - observer
+  float sine_;
+  float y_ = 0;
+  Terminator terminator_{};
+};
 
 // What a pixel has beyond the sky is the Moon's light, and changes with it.
-std::uint32_t Changed(std::uint32_t pixel, const Light& before, const Light& after) {
+std::uint32_t Changed(std::uint32_t pixel, const Factors& factors) {
   std::uint32_t changed = pixel & 0xff000000U;
-  for (unsigned i = 0; i < before.size(); ++i) {
+  for (unsigned i = 0; i < factors.size(); ++i) {
     const unsigned shift = 8 * i;
-    const double sky = (kMoonSky >> shift) & 0xffU;
-    const double value = (pixel >> shift) & 0xffU;
-    const double lit = sky + (value - sky) * after[i] / before[i];
-    changed |= static_cast<std::uint32_t>(std::lround(std::clamp(lit, 0.0, 255.0))) << shift;
+    const auto sky = static_cast<float>((kMoonSky >> shift) & 0xffU);
+    const auto value = static_cast<float>((pixel >> shift) & 0xffU);
+    const float lit = std::clamp(sky + (value - sky) * factors[i], 0.0F, 255.0F);
+    changed |= static_cast<std::uint32_t>(lit + 0.5F) << shift;
   }
   return changed;
+}
+
+// How much brighter each colour of a place becomes; nothing where it stays in the night.
+std::optional<Factors> FactorsAt(float x, const Spot& spot, const PhaseLight& from,
+                                 const PhaseLight& to) {
+  const float before = from.LitShare(x, spot);
+  const float after = to.LitShare(x, spot);
+  if (before <= 0 && after <= 0) return std::nullopt;
+  const float sun_before = before > 0 ? from.SunlightAt(spot) : 0;
+  const float sun_after = after > 0 ? to.SunlightAt(spot) : 0;
+  Factors factors{};
+  if (before >= 1 && after >= 1) {  // most of the disc: alike for every colour
+    factors.fill(sun_after / sun_before);
+    return factors;
+  }
+  for (std::size_t i = 0; i < factors.size(); ++i) {
+    const float night = kEarthshine[i];
+    factors[i] = (night + (sun_after - night) * after) / (night + (sun_before - night) * before);
+  }
+  return factors;
 }
 
 MoonPhase PhaseOfPicture(std::string_view file, bool waxing) {
@@ -110,14 +166,35 @@ void DrawTerminator(std::span<std::uint32_t> pixels, int width, double fraction,
 
 void Relight(std::span<std::uint32_t> pixels, int width, MoonPhase from, MoonPhase to) {
   if (width <= 0) return;
-  const Disc disc(width);
+  const double radius = kMoonDiscRadius * width;
+  const auto scale = static_cast<float>(1 / radius);
+  const auto from_centre = [&](int index) {
+    return (static_cast<float>(2 * index + 1 - width)) / 2 * scale;
+  };
   // An enlarged picture has the terminator that was drawn, as wide as a pixel of the drawing.
   const double drawn_edge = std::max(static_cast<double>(width) / kMoonPictureWidth, 1.0);
-  for (std::size_t i = 0; i < pixels.size(); ++i) {
-    const double x = disc.FromCentre(static_cast<int>(i) % width);
-    const double y = disc.FromCentre(static_cast<int>(i) / width);
-    if (!disc.Covers(x, y)) continue;
-    pixels[i] = Changed(pixels[i], disc.LightAt(x, y, from, drawn_edge), disc.LightAt(x, y, to, 1));
+  PhaseLight before(from, drawn_edge / radius);
+  PhaseLight after(to, 1 / radius);
+  const double reach = 1 + kLimbBlur + 0.5 / radius;
+  const int height = static_cast<int>(pixels.size()) / width;
+  // The light is the same above and below the middle.
+  for (int row = 0; 2 * row < height; ++row) {
+    const float y = from_centre(row);
+    if (std::abs(y) >= reach) continue;
+    before.StartRow(y);
+    after.StartRow(y);
+    std::uint32_t* const above = pixels.data() + std::ptrdiff_t{row} * width;
+    std::uint32_t* const below = pixels.data() + std::ptrdiff_t{height - 1 - row} * width;
+    const double half_chord = radius * std::sqrt(reach * reach - y * y);
+    const int first = std::max(static_cast<int>(std::ceil(width / 2.0 - half_chord - 0.5)), 0);
+    for (int i = first; i < width - first; ++i) {
+      if (above[i] == kMoonSky && below[i] == kMoonSky) continue;
+      const float x = from_centre(i);
+      const auto factors = FactorsAt(x, Spot(x, y), before, after);
+      if (!factors) continue;
+      above[i] = Changed(above[i], *factors);
+      if (above != below) below[i] = Changed(below[i], *factors);
+    }
   }
 }
 

@@ -15,7 +15,7 @@ namespace tarnwick {
 // The Moon stands in the middle of its picture; its radius as a share of the picture's width.
 inline constexpr double kMoonDiscRadius = 0.48;
 // The width at which the pictures are drawn.
-inline constexpr int kMoonPictureWidth = 200;
+inline constexpr int kMoonPictureWidth = 640;
 // What is around it.
 inline constexpr std::uint32_t kMoonSky = 0xff0b1020;
 

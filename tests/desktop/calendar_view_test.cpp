@@ -56,10 +56,22 @@ void CalendarViewTest::pagesFit() {
 void CalendarViewTest::dayIsTakenByMouseAndByKeyboard() {
   CalendarWindow calendar;
   const Label& shown = calendar.main.form.dates.lblCommonEraDate[1];
-  QTest::mouseClick(&calendar.WidgetOf(calendar.Form().imgMoon[0]), Qt::LeftButton);
+  // The picture lets the click through: the whole cell takes it.
+  QWidget& first = calendar.WidgetOf(calendar.Form().lblDate[0]);
+  const QPoint on_picture = calendar.WidgetOf(calendar.Form().imgMoon[0]).geometry().center();
+  QCOMPARE(first.childAt(on_picture), nullptr);
+  QTest::mouseClick(&first, Qt::LeftButton, {}, on_picture);
   QCOMPARE(shown.Caption(), "2024-02-09 CE (Friday, February 9, 2024)");
-  QTest::keyClick(&calendar.WidgetOf(calendar.Form().lblDate[31]), Qt::Key_Return);
-  QCOMPARE(shown.Caption(), "2024-03-09 CE (Saturday, March 9, 2024)");
+
+  // Down to the last week and no further, then over the cell that is never shown.
+  first.setFocus();
+  for (const Qt::Key key :
+       {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Left, Qt::Key_Down}) {
+    QTest::keyClick(calendar.view.focusWidget(), key);
+  }
+  QCOMPARE(calendar.view.focusWidget(), &calendar.WidgetOf(calendar.Form().lblDate[30]));
+  QTest::keyClick(calendar.view.focusWidget(), Qt::Key_Return);
+  QCOMPARE(shown.Caption(), "2024-03-08 CE (Friday, March 8, 2024)");
 }
 
 void CalendarViewTest::imageHasTwiceTheResolution() {

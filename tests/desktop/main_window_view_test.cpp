@@ -1,30 +1,11 @@
 #include "desktop/main_window_view.h"
 
-#include <cmath>
 #include <set>
 
-#include "desktop/look.h"
 #include "tests/desktop/shown_main_window.h"
 #include "tests/desktop/suites.h"
 
 namespace tarnwick {
-namespace {
-
-double Luminance(const QColor& color) {
-  const auto linear = [](double value) {
-    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-         0.0722 * linear(color.blueF());
-}
-
-double Contrast(const QColor& one, const QColor& other) {
-  const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
-  return (light + 0.05) / (dark + 0.05);
-}
-
-}  // namespace
-
 class MainWindowViewTest : public QObject {
   Q_OBJECT
 
@@ -42,7 +23,6 @@ class MainWindowViewTest : public QObject {
   void closeBoxEndsTheProgram();
   void noTextIsClipped_data();
   void noTextIsClipped();
-  void textsStandOutFromTheirGround();
 };
 
 void MainWindowViewTest::typedDateIsComputedOnReturn() {
@@ -256,30 +236,6 @@ void MainWindowViewTest::noTextIsClipped() {
             date.width() - date.textMargins().left() - date.textMargins().right());
   }
   QApplication::setFont(usual);
-}
-
-void MainWindowViewTest::textsStandOutFromTheirGround() {
-  struct {
-    const char* name;
-    QColor text;
-    QColor ground;
-  } const pairs[] = {
-      {"text", Look::kText, Look::kPanel},
-      {"text on the window", Look::kText, Look::kWindow},
-      {"caption", Look::kCaption, Look::kPanel},
-      {"other calendars", QColor(200, 200, 200), Look::kPanel},
-      {"disabled", Look::kDisabledText, Look::kPanel},
-      {"Moon", Look::kLightText, Look::kLightPanel},
-      {"caption of the Moon", Look::kLightCaption, Look::kLightPanel},
-      {"field", Look::kFieldText, Look::kField},
-      {"hint in a field", Look::kPlaceholder, Look::kField},
-      {"disabled field", Look::kDisabledFieldText, Look::kDisabledField},
-      {"button", Look::kButtonText, Look::kButton},
-      {"disabled button", Look::kDisabledText, Look::kDisabledButton},
-      {"selection", Look::kSelectionText, Look::kSelection},
-      {"tool tip", Look::kToolTipText, Look::kToolTip},
-  };
-  for (const auto& pair : pairs) QVERIFY2(Contrast(pair.text, pair.ground) >= 4.5, pair.name);
 }
 
 const AddSuite<MainWindowViewTest> added;

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
 #include <QStyleOptionComboBox>
 #include <QTest>
 #include <vector>
@@ -76,14 +77,22 @@ inline void VerifyItemsFit(const QComboBox& list) {
   }
 }
 
+// What scrolls in a window, or the window itself.
+inline const QWidget& ContentOf(const QWidget& window) {
+  const auto* area = window.findChild<QScrollArea*>();
+  return area == nullptr ? window : *area->widget();
+}
+
+// What has no room in the window scrolls.
 inline void VerifyNothingIsClipped(const QWidget& window) {
+  const QWidget& content = ContentOf(window);
   for (const QWidget* widget : TextWidgets(window)) {
     const QByteArray name = widget->objectName().toUtf8();
     const QSize needed = widget->minimumSizeHint();
     QVERIFY2(widget->width() >= needed.width(), name);
     QVERIFY2(widget->height() >= needed.height(), name);
-    const QRect place(widget->mapTo(&window, QPoint()), widget->size());
-    QVERIFY2(window.rect().contains(place), name);
+    const QRect place(widget->mapTo(&content, QPoint()), widget->size());
+    QVERIFY2(content.rect().contains(place), name);
     if (const auto* list = qobject_cast<const QComboBox*>(widget)) VerifyItemsFit(*list);
   }
 }

@@ -15,12 +15,14 @@ cmake --build "$work/build" --target tarnwick_moon_pictures
 
 # 256 colours are enough for one phase: without dithering no band is seen, with it the night and the
 # maria become grainy. The deepest tree tells shades apart that the default one throws together.
+few_colours=(+dither -treedepth 8 -colors 256 -strip)
 mkdir -p assets/moon_pics
 for drawing in "$work"/pictures/day*.png; do
-  convert "$drawing" +dither -treedepth 8 -colors 256 -strip \
-    "assets/moon_pics/$(basename "$drawing" .png).gif"
+  convert "$drawing" "${few_colours[@]}" "assets/moon_pics/$(basename "$drawing" .png).gif"
 done
-cp "$work"/pictures/*.bmp assets/
+for drawing in "$work"/pictures/*.bmp; do
+  convert "$drawing" "${few_colours[@]}" -compress none "BMP3:assets/$(basename "$drawing")"
+done
 
 # The icon is the disc alone, for the sky of any desktop.
 mkdir -p assets/icon
