@@ -10,8 +10,8 @@ namespace tarnwick {
 namespace {
 
 constexpr Wording kWordings[] = {
-    {"txbText", 0, "Log"},      {"cmdClear", 'l', "", ""}, {"cmdCopyToClipboard", 'C', ""},
-    {"cmdSaveAs", 'S', "", ""}, {"cmdClose", 'o', ""},
+    {"txbText", 0, "Log"},  {"cmdClear", 'l', ""}, {"cmdCopyToClipboard", 'C', ""},
+    {"cmdSaveAs", 'S', ""}, {"cmdClose", 'o', ""},
 };
 
 // The buttons stand side by side, even with the longest caption of the one that changes.
