@@ -115,13 +115,8 @@ void Binder::BindFocus(Control& control, QWidget& widget) {
   Mirror(control, Property::kFocus, widget, [&] {
     if (control.Owner().Focus() == &control && !widget.hasFocus()) widget.setFocus();
   });
-  new EventHook(widget, [&control, &widget, &gate = gate_](QEvent& event) {
+  new EventHook(widget, [&control, &gate = gate_](QEvent& event) {
     if (event.type() == QEvent::FocusIn) gate.Run([&] { control.SetFocus(); });
-    // A disabled widget loses the focus; when it can be used again the user goes on there.
-    const bool back = event.type() == QEvent::EnabledChange && widget.isEnabled() &&
-                      control.Owner().Focus() == &control &&
-                      widget.window()->focusWidget() == nullptr;
-    if (back) widget.setFocus();
     return false;
   });
 }
