@@ -30,6 +30,7 @@ frmMain::frmMain(Desktop& desktop, Screen& screen)
   cmdReset.SetToolTipText("Gives every choice of this window its first value, and shows now");
   WireSession();
   ConnectHandlers();
+  AddShortcuts(screen);
   WatchForChanges();
 }
 
@@ -57,6 +58,16 @@ void frmMain::ConnectHandlers() {
   cmdHelp.on_click = [this] { help_window.Show(); };
   cmdQuit.on_click = [this] { cmdQuit_Click(); };
   Clock.on_timer = [this] { Clock_Timer(); };
+}
+
+void frmMain::AddShortcuts(const Screen& screen) {
+  AddShortcut("Alt+Left", history.cmdBack);
+  AddShortcut("Alt+Right", history.cmdForward);
+  AddShortcut("Ctrl+L", calendar.cmdDisplayCalendar);
+  AddShortcut("Ctrl+P", log.cmdLogPreferences);
+  AddShortcut("Ctrl+S", cmdSaveState);
+  AddShortcut("F1", cmdHelp);
+  for (Form* form : screen.Forms()) form->AddShortcut("Ctrl+Q", cmdQuit);
 }
 
 // The state can be saved again as soon as anything else is shown or chosen; the hint is neither.
@@ -167,7 +178,9 @@ void frmMain::cmdReset_Click() {
 }
 
 void frmMain::Form_KeyPress(int& key) {
-  if (key == kEscapeKey) search.GiveUp();
+  if (key != kEscapeKey) return;
+  search.GiveUp();
+  move.Stop();
 }
 
 void frmMain::Form_Unload(bool& /*cancel*/) { cmdQuit_Click(); }

@@ -70,6 +70,8 @@ class Control : public Observable {
 
   // A click of the user; false if this kind of control cannot be clicked.
   virtual bool Click() { return false; }
+  // The Enter key pressed here; false if this kind of control does nothing with it.
+  virtual bool PressEnter() { return false; }
 
   Handler on_lost_focus;
 

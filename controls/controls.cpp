@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "controls/keys.h"
 #include "controls/utf8.h"
 
 namespace tarnwick {
@@ -70,6 +71,11 @@ void TextBox::Select(std::size_t start, std::size_t length) {
 }
 
 void TextBox::MoveCaretToEnd() { Select(CountCharacters(text_), 0); }
+
+bool TextBox::PressEnter() {
+  PressKey(kEnterKey);
+  return true;
+}
 
 int TextBox::PressKey(int key) {
   if (on_key_press) on_key_press(key);

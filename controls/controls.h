@@ -58,6 +58,7 @@ class Button : public Clickable<CaptionedControl> {
  public:
   using Clickable::Clickable;
   bool CanTakeFocus() const override { return true; }
+  bool PressEnter() override { return Click(); }
 };
 
 // A check box. on_click runs when the value changes, whoever changes it.
@@ -120,6 +121,7 @@ class TextBox : public Control {
 
   using Control::Control;
   bool CanTakeFocus() const override { return true; }
+  bool PressEnter() override;
 
   // UTF-8; bytes that are not are kept as they are.
   const std::string& Text() const { return text_; }

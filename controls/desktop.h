@@ -22,6 +22,7 @@ struct Message {
   std::string title;
   MessageIcon icon = MessageIcon::kNone;
   MessageButtons buttons = MessageButtons::kOk;
+  std::optional<MessageAnswer> default_button = {};  // that Enter presses; none: the first
 };
 
 // The computer's clock: local date "yyyy-mm-dd", local time "HH:MM:SS" and how many minutes the

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/keys.h"
+
 namespace tarnwick {
 namespace {
 
@@ -25,6 +27,9 @@ Form::Form(Screen& screen, std::string name, std::string caption)
 Form::~Form() {
   std::erase(screen_.forms_, this);
   if (screen_.active_ == this) screen_.active_ = nullptr;
+  for (Form* form : screen_.forms_) {
+    if (form->opener_ == this) form->opener_ = nullptr;
+  }
 }
 
 Control* Form::Find(std::string_view name) const { return FindByName(controls_, name); }
@@ -35,6 +40,7 @@ void Form::Load() {
 }
 
 void Form::Show() {
+  if (!visible_) opener_ = screen_.active_;
   ShowInactive();
   Activate();
 }
@@ -49,8 +55,8 @@ void Form::Hide() {
   Assign(visible_, false, Property::kVisible);
   if (!IsActive()) return;
   screen_.active_ = nullptr;
-  Form* main = screen_.forms_.front();
-  if (main->visible_) main->Activate();
+  Form* next = opener_ != nullptr && opener_->visible_ ? opener_ : screen_.forms_.front();
+  if (next->visible_) next->Activate();
 }
 
 void Form::Activate() {
@@ -76,6 +82,19 @@ void Form::Close() {
   if (cancel) return;
   loaded_ = false;
   Hide();
+}
+
+bool Form::PressKeys(std::string_view keys) {
+  if (keys == kEscapeName) {
+    int key = kEscapeKey;
+    Form_KeyPress(key);
+    return true;
+  }
+  if (keys == kEnterName) return focus_ != nullptr && focus_->IsUsable() && focus_->PressEnter();
+  for (const Shortcut& shortcut : shortcuts_) {
+    if (shortcut.keys == keys) return shortcut.control->IsUsable() && shortcut.control->Click();
+  }
+  return false;
 }
 
 void Form::MoveFocus(Control& control) {

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "controls/control.h"
@@ -21,6 +22,13 @@ class Screen {
 
   std::vector<Form*> forms_;
   Form* active_ = nullptr;
+};
+
+// Keys pressed together, and what they click. Modifiers come first, joined by "+"; a blank in the
+// name of a key is written "_": "Alt+Left", "Page_Down".
+struct Shortcut {
+  std::string keys;
+  Control* control = nullptr;
 };
 
 // A window: its controls by name, its focus and its own events. A form handles an event by
@@ -51,6 +59,7 @@ class Form : public Observable {
   void Show();
   // Shows it beside the active window, which stays active.
   void ShowInactive();
+  // Leads back to the window that it was opened from.
   void Hide();
   void Minimise();
   // The user has turned to this window.
@@ -63,6 +72,15 @@ class Form : public Observable {
   // The control that has the focus in this window, null when none has.
   Control* Focus() const { return focus_; }
   void MoveFocus(Control& control);
+
+  // Keys that click a control from anywhere in this window; it may stand in another one.
+  void AddShortcut(std::string keys, Control& control) {
+    shortcuts_.push_back({std::move(keys), &control});
+  }
+  const std::vector<Shortcut>& Shortcuts() const { return shortcuts_; }
+  // The user presses keys in this window: Escape goes to the form, Return to what has the focus, a
+  // shortcut clicks its control if that can be used. Returns whether anything took them.
+  bool PressKeys(std::string_view keys);
 
   virtual void Form_Load() {}
   virtual void Form_Activate() {}
@@ -83,7 +101,9 @@ class Form : public Observable {
   bool minimised_ = false;
   bool loaded_ = false;
   std::vector<Control*> controls_;
+  std::vector<Shortcut> shortcuts_;
   Control* focus_ = nullptr;
+  Form* opener_ = nullptr;  // the window that was active before this one was shown
 };
 
 }  // namespace tarnwick

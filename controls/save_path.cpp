@@ -7,8 +7,8 @@ namespace {
 
 bool UserReplaces(Desktop& desktop, const std::string& title, const std::filesystem::path& file) {
   return desktop.ShowMessage({PathText(file.filename()) + " already exists.  Replace it?", title,
-                              MessageIcon::kQuestion, MessageButtons::kYesNo}) ==
-         MessageAnswer::kYes;
+                              MessageIcon::kQuestion, MessageButtons::kYesNo,
+                              MessageAnswer::kNo}) == MessageAnswer::kYes;
 }
 
 }  // namespace

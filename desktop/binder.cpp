@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
 #include <QListWidget>
@@ -33,6 +34,44 @@ QString ShownCaption(const Label& label) {
   return shown;
 }
 
+// What the control is for and, in its own window, the keys that click it.
+QString ToolTipOf(const Control& control) {
+  const QString text = ToQt(control.ToolTipText());
+  for (const Shortcut& shortcut : control.Owner().Shortcuts()) {
+    if (shortcut.control != &control) continue;
+    const QString keys = ToKeySequence(shortcut.keys).toString(QKeySequence::NativeText);
+    return text.isEmpty() ? keys : text + " (" + keys + ")";
+  }
+  return text;
+}
+
+// The letter of its caption presses a button at once. Qt would let a tenth of a second pass, within
+// which it may be disabled or another one pressed.
+void PressAtOnce(QAbstractButton& button) {
+  new EventHook(button, [&button](QEvent& event) {
+    if (event.type() != QEvent::Shortcut || static_cast<QShortcutEvent&>(event).isAmbiguous()) {
+      return false;
+    }
+    if (button.isCheckable() && button.focusPolicy() & Qt::ClickFocus) {
+      button.setFocus(Qt::ShortcutFocusReason);
+    }
+    button.click();
+    return true;
+  });
+}
+
+// Enter presses the button that has the focus, but only once: held down it would press whatever the
+// focus comes to.
+void PressByEnter(QPushButton& button) {
+  new EventHook(button, [&button](QEvent& event) {
+    if (event.type() != QEvent::KeyPress) return false;
+    const auto& press = static_cast<const QKeyEvent&>(event);
+    if (press.key() != Qt::Key_Return && press.key() != Qt::Key_Enter) return false;
+    if (!press.isAutoRepeat()) button.click();
+    return true;
+  });
+}
+
 }  // namespace
 
 QWidget* Binder::WidgetOf(const Control& control) const {
@@ -44,7 +83,7 @@ Wording Binder::WordingOf(const Control& control) const {
   const auto found = std::find_if(wordings_.begin(), wordings_.end(), [&](const Wording& wording) {
     return wording.control == control.Name();
   });
-  return found == wordings_.end() ? Wording{control.Name(), 0, {}, ""} : *found;
+  return found == wordings_.end() ? Wording{control.Name(), 0, {}} : *found;
 }
 
 // What a screen reader says: what the control is, then what it shows.
@@ -62,8 +101,7 @@ void Binder::BindControl(Control& control, QWidget& widget) {
   widget.setAccessibleName(ToQt(spoken.empty() ? control.Name() : spoken));
   Mirror(control, Property::kEnabled, widget, [&] { widget.setEnabled(control.Enabled()); });
   Mirror(control, Property::kVisible, widget, [&] { widget.setVisible(control.Visible()); });
-  Mirror(control, Property::kToolTipText, widget,
-         [&] { widget.setToolTip(ToQt(control.ToolTipText())); });
+  Mirror(control, Property::kToolTipText, widget, [&] { widget.setToolTip(ToolTipOf(control)); });
   if (control.CanTakeFocus()) BindFocus(control, widget);
 }
 
@@ -93,6 +131,7 @@ void Binder::BindCaption(CaptionedControl& control, Widget& widget) {
     widget.setText(WithMnemonic(ToQt(control.Caption()), mnemonic));
     widget.setAccessibleName(SpokenName(control));
   });
+  PressAtOnce(widget);
 }
 
 void Binder::Bind(Frame& frame, QWidget& area) {
@@ -123,7 +162,7 @@ void Binder::Bind(Label& label, LinkLabel& link) {
   BindCaption(label, link);
   BindForeColor(label, link);
   QObject::connect(&link, &LinkLabel::clicked, &link,
-                   [&label, &gate = gate_] { gate.Run([&] { label.Click(); }); });
+                   [&label, &gate = gate_] { gate.RunFor(label, [&] { label.Click(); }); });
 }
 
 void Binder::Bind(Label& label, QTextBrowser& page) {
@@ -133,21 +172,18 @@ void Binder::Bind(Label& label, QTextBrowser& page) {
 
 void Binder::Bind(Button& button, QPushButton& push) {
   BindCaption(button, push);
-  const QString keys = WordingOf(button).shortcut;
-  if (!keys.isEmpty()) {
-    push.setShortcut(QKeySequence(keys));
-    if (push.toolTip().isEmpty()) push.setToolTip(keys);
-  }
+  PressByEnter(push);
   QObject::connect(&push, &QPushButton::clicked, &push,
-                   [&button, &gate = gate_] { gate.Run([&] { button.Click(); }); });
+                   [&button, &gate = gate_] { gate.RunFor(button, [&] { button.Click(); }); });
 }
 
 void Binder::Bind(CheckBox& box, QCheckBox& check) {
   BindCaption(box, check);
   BindForeColor(box, check);
   Mirror(box, Property::kValue, check, [&] { check.setChecked(box.Value()); });
-  QObject::connect(&check, &QCheckBox::clicked, &check, [&box, &gate = gate_](bool checked) {
-    gate.Run([&] { box.SetValue(checked); });
+  QObject::connect(&check, &QCheckBox::clicked, &check, [&, &gate = gate_](bool checked) {
+    const bool taken = gate.RunFor(box, [&] { box.SetValue(checked); });
+    if (!taken) check.setChecked(box.Value());
   });
 }
 
@@ -162,7 +198,7 @@ void Binder::Bind(OptionButton& option, QRadioButton& radio) {
     radio.setFocusPolicy(option.Value() ? Qt::StrongFocus : Qt::ClickFocus);
   });
   QObject::connect(&radio, &QRadioButton::clicked, &radio,
-                   [&option, &gate = gate_] { gate.Run([&] { option.Click(); }); });
+                   [&option, &gate = gate_] { gate.RunFor(option, [&] { option.Click(); }); });
 }
 
 void Binder::Bind(ComboBox& list, QComboBox& combo) {
@@ -170,13 +206,20 @@ void Binder::Bind(ComboBox& list, QComboBox& combo) {
   Mirror(list, Property::kListIndex, combo, [&] { combo.setCurrentIndex(list.ListIndex()); });
   Mirror(list, Property::kItems, combo, [&] {
     combo.clear();
-    for (const ComboBox::Item& item : list.Items()) combo.addItem(ToQt(item.text));
+    for (const ComboBox::Item& item : list.Items()) {
+      if (item.text.empty()) {
+        combo.insertSeparator(combo.count());  // it cannot be chosen
+      } else {
+        combo.addItem(ToQt(item.text));
+      }
+    }
     combo.setCurrentIndex(list.ListIndex());
   });
   // Unlike a change of the index this also tells of the same item chosen again, and it tells only
   // of what the user does.
-  QObject::connect(&combo, &QComboBox::activated, &combo, [&list, &gate = gate_](int index) {
-    gate.Run([&] { list.SetListIndex(index); });
+  QObject::connect(&combo, &QComboBox::activated, &combo, [&, &gate = gate_](int index) {
+    const bool taken = gate.RunFor(list, [&] { list.SetListIndex(index); });
+    if (!taken) combo.setCurrentIndex(list.ListIndex());
   });
 }
 
@@ -193,8 +236,9 @@ void Binder::Bind(ComboBox& list, QListWidget& rows) {
     show_index();
   });
   Mirror(list, Property::kListIndex, rows, show_index);
-  QObject::connect(&rows, &QListWidget::currentRowChanged, &rows,
-                   [&list, &gate = gate_](int row) { gate.Run([&] { list.SetListIndex(row); }); });
+  QObject::connect(&rows, &QListWidget::currentRowChanged, &rows, [&list, &gate = gate_](int row) {
+    gate.RunFor(list, [&] { list.SetListIndex(row); });
+  });
 }
 
 void Binder::Bind(Picture& picture, QWidget& area) {
@@ -203,7 +247,7 @@ void Binder::Bind(Picture& picture, QWidget& area) {
     if (event.type() != QEvent::MouseButtonRelease) return false;
     const auto& release = static_cast<const QMouseEvent&>(event);
     if (release.button() == Qt::LeftButton && area.rect().contains(release.position().toPoint())) {
-      gate.Run([&] { picture.Click(); });
+      gate.RunFor(picture, [&] { picture.Click(); });
     }
     return false;
   });

@@ -18,6 +18,7 @@ class QListWidget;
 class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
+class QShortcut;
 class QString;
 class QTextBrowser;
 class QTimer;
@@ -31,10 +32,9 @@ class PictureView;
 
 // What a view adds to the caption of a control.
 struct Wording {
-  std::string_view control;   // its name, "lblTime(1)" for one of an array
-  char mnemonic = 0;          // the letter of its caption that Alt reaches it by
-  std::string_view spoken;    // what it is, for users who do not see what stands around it
-  const char* shortcut = "";  // of a button: the keys that click it, "Ctrl+S"
+  std::string_view control;  // its name, "lblTime(1)" for one of an array
+  char mnemonic = 0;         // the letter of its caption that Alt reaches it by
+  std::string_view spoken;   // what it is, for users who do not see what stands around it
 };
 
 // Ties the controls of a form to the widgets of a window. A widget shows the state of its control
@@ -76,6 +76,7 @@ class Binder {
   QWidget* WidgetOf(const Control& control) const;
 
  private:
+  QShortcut* BindKeys(Form& form, std::string_view keys, QWidget& window);
   void BindControl(Control& control, QWidget& widget);
   void BindFocus(Control& control, QWidget& widget);
   void BindForeColor(Control& control, QWidget& widget);

@@ -1,6 +1,7 @@
 // The window of a form.
 #include <QShortcut>
 #include <QWidget>
+#include <string>
 
 #include "controls/keys.h"
 #include "desktop/binder.h"
@@ -72,6 +73,16 @@ void Report(QEvent::Type type, Form& form, const QWidget& window) {
 
 }  // namespace
 
+// They reach the form from wherever the focus is, lists included.
+QShortcut* Binder::BindKeys(Form& form, std::string_view keys, QWidget& window) {
+  auto* shortcut = new QShortcut(ToKeySequence(keys), &window);
+  QObject::connect(shortcut, &QShortcut::activated, &window,
+                   [&form, keys = std::string(keys), &gate = gate_] {
+                     gate.Run([&] { form.PressKeys(keys); });
+                   });
+  return shortcut;
+}
+
 void Binder::Bind(Form& form, QWidget& window) {
   window.setObjectName(ToQt(form.Name()));
   Mirror(form, Property::kCaption, window, [&] { window.setWindowTitle(ToQt(form.Caption())); });
@@ -86,12 +97,9 @@ void Binder::Bind(Form& form, QWidget& window) {
     event.ignore();  // the form decides whether it goes
     return true;
   });
-  // As a shortcut it reaches the form from wherever the focus is, lists included.
-  auto* escape = new QShortcut(Qt::Key_Escape, &window);
-  QObject::connect(escape, &QShortcut::activated, &window, [&form, &gate = gate_] {
-    int key = kEscapeKey;
-    gate.Run([&] { form.Form_KeyPress(key); });
-  });
+  // Held down, Escape would close one window after the other.
+  BindKeys(form, kEscapeName, window)->setAutoRepeat(false);
+  for (const Shortcut& shortcut : form.Shortcuts()) BindKeys(form, shortcut.keys, window);
 }
 
 }  // namespace tarnwick

@@ -150,7 +150,7 @@ void Binder::BindTextEvents(TextBox& box, QWidget& edit, QWidget& surface) {
     if (event.type() != QEvent::KeyPress) return false;
     const int key = CharacterOf(static_cast<const QKeyEvent&>(event));
     int left = key;
-    if (key != 0) gate.Run([&] { left = box.PressKey(key); });
+    if (key != 0) gate.RunFor(box, [&] { left = box.PressKey(key); });
     return key != 0 && left == 0;
   });
   new EventHook(surface, [&box, &edit, &gate = gate_](QEvent& event) {
@@ -158,7 +158,7 @@ void Binder::BindTextEvents(TextBox& box, QWidget& edit, QWidget& surface) {
     if (static_cast<const QMouseEvent&>(event).button() != Qt::LeftButton) return false;
     // The release itself may change the selection, which the handler then sees.
     const auto handle = [&box, &gate] {
-      if (box.on_mouse_up) gate.Run(box.on_mouse_up);
+      if (box.on_mouse_up) gate.RunFor(box, box.on_mouse_up);
     };
     QMetaObject::invokeMethod(&edit, handle, Qt::QueuedConnection);
     return false;

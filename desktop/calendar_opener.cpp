@@ -1,11 +1,11 @@
 #include "desktop/calendar_opener.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
 
 #include "desktop/bound_widgets.h"
 #include "desktop/characters.h"
+#include "desktop/drop_list.h"
 #include "desktop/look.h"
 
 namespace tarnwick {
@@ -13,7 +13,6 @@ namespace {
 
 constexpr Wording kWordings[] = {
     {"cboMonthCalendar", 0, "Calendar of the lunation"},
-    {"cmdDisplayCalendar", 0, "", "Ctrl+L"},
 };
 
 QString WidestItem(const ComboBox& list, const QFontMetrics& font) {
@@ -30,7 +29,7 @@ QString WidestItem(const ComboBox& list, const QFontMetrics& font) {
 CalendarOpener::CalendarOpener(CalendarSection& section, Binder& binder, QWidget* parent)
     : Area(Spacing(*parent), parent) {
   binder.AddWordings(kWordings);
-  auto* calendars = new QComboBox(this);
+  auto* calendars = new DropList(this);
   ReserveWidth(*calendars, WidestItem(section.cboMonthCalendar, calendars->fontMetrics()));
   binder.Bind(section.cboMonthCalendar, *calendars);
   Row().addWidget(calendars);

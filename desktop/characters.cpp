@@ -12,6 +12,11 @@ std::string FromShownLines(const QString& text) {
   return FromQt(QString(text).replace("\n", "\r\n"));
 }
 
+QKeySequence ToKeySequence(std::string_view keys) {
+  const QString name = ToQt(std::string(keys)).replace('_', ' ');
+  return QKeySequence::fromString(name, QKeySequence::PortableText);
+}
+
 QString WithMnemonic(const QString& caption, char mnemonic) {
   QString marked = caption;
   marked.replace("&", "&&");

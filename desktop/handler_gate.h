@@ -7,6 +7,8 @@
 #include <string>
 #include <utility>
 
+#include "controls/control.h"
+
 namespace tarnwick {
 
 class HandlerGate {
@@ -29,6 +31,16 @@ class HandlerGate {
     } catch (...) {
       Fail("unknown fault");
     }
+  }
+
+  // What the user does with a control. A press may come when it cannot be used any more, as that of
+  // a button which a key has pressed a moment before: that is refused. Returns whether it was
+  // taken.
+  template <class Action>
+  bool RunFor(const Control& control, const Action& action) {
+    if (!control.IsUsable()) return false;
+    Run(action);
+    return true;
   }
 
  private:

@@ -1,10 +1,10 @@
 #include "desktop/history_view.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QPushButton>
 
 #include "desktop/bound_widgets.h"
+#include "desktop/drop_list.h"
 #include "desktop/look.h"
 
 namespace tarnwick {
@@ -12,8 +12,8 @@ namespace {
 
 constexpr Wording kWordings[] = {
     {"cboHistory", 0, "History"},
-    {"cmdBack", 0, "Back", "Alt+Left"},
-    {"cmdForward", 0, "Forward", "Alt+Right"},
+    {"cmdBack", 0, "Back"},
+    {"cmdForward", 0, "Forward"},
 };
 
 constexpr char kLongestEntry[] = "-5011-13-3-3 OLW 09:55 (Greenwich; local = GMT+05:30)";
@@ -27,7 +27,7 @@ HistoryView::HistoryView(HistorySection& section, Binder& binder, QWidget* paren
   QHBoxLayout& row = MakeLine();
   row.addWidget(MakeButton(binder, section.cmdBack, this));
   row.addWidget(MakeButton(binder, section.cmdForward, this));
-  auto* entries = new QComboBox(this);
+  auto* entries = new DropList(this);
   ReserveWidth(*entries, kLongestEntry);
   binder.Bind(section.cboHistory, *entries);
   row.addWidget(entries, 1);

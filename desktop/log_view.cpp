@@ -14,7 +14,6 @@ constexpr Wording kWordings[] = {
     {"chkLog", 'a', ""},
     {"cmdLogThisResult", 'h', ""},
     {"cmdViewLog", 'w', ""},
-    {"cmdLogPreferences", 0, "", "Ctrl+P"},
 };
 
 }  // namespace

@@ -16,8 +16,8 @@ namespace tarnwick {
 namespace {
 
 constexpr Wording kWordings[] = {
-    {"txbText", 0, "Log"},      {"cmdClear", 'l', "", ""}, {"cmdCopyToClipboard", 'C', ""},
-    {"cmdSaveAs", 'S', "", ""}, {"cmdClose", 'o', ""},
+    {"txbText", 0, "Log"},  {"cmdClear", 'l', ""}, {"cmdCopyToClipboard", 'C', ""},
+    {"cmdSaveAs", 'S', ""}, {"cmdClose", 'o', ""},
 };
 
 constexpr QSize kLeastText{30, 10};  // in lines of text

@@ -38,6 +38,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("tarnwick");
   QApplication::setQuitOnLastWindowClosed(false);  // the main window's form ends the program
   QApplication::setDesktopFileName("tarnwick");
+  QApplication::setKeyboardInputInterval(1000);  // within which letters make one name in a list
   tarnwick::ApplyLook();
 
   tarnwick::HandlerGate gate(EndWithFault);

@@ -25,9 +25,10 @@ namespace tarnwick {
 namespace {
 
 constexpr Wording kWordings[] = {
-    {"cmdNow", 'N', ""},      {"picCheck", 0, "The clock is running"},
-    {"cmdReset", 'R', ""},    {"cmdSaveState", 0, "", "Ctrl+S"},
-    {"cmdHelp", 0, "", "F1"}, {"cmdQuit", 'Q', ""},
+    {"cmdNow", 'N', ""},
+    {"picCheck", 0, "The clock is running"},
+    {"cmdReset", 'R', ""},
+    {"cmdQuit", 'Q', ""},
 };
 
 constexpr QSize kUsualSize{80, 53};  // in lines of text

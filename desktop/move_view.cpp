@@ -1,7 +1,6 @@
 #include "desktop/move_view.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -10,6 +9,7 @@
 
 #include "desktop/bound_widgets.h"
 #include "desktop/characters.h"
+#include "desktop/drop_list.h"
 #include "desktop/look.h"
 
 namespace tarnwick {
@@ -82,7 +82,7 @@ QWidget* MoveView::MakeFrame() {
 QWidget* MoveView::MakeStepList(QWidget* frame) {
   auto* area = new Area(0, frame);
   binder_.Bind(section_.fraMoveStep, *area);
-  auto* steps = new QComboBox(area);
+  auto* steps = new DropList(area);
   ReserveWidth(*steps, kLongestStep);
   steps->setMaxVisibleItems(kVisibleSteps);
   binder_.Bind(section_.cboMoveStep, *steps);
@@ -93,7 +93,7 @@ QWidget* MoveView::MakeStepList(QWidget* frame) {
 QHBoxLayout* MoveView::MakePeriodRow() {
   auto* row = new QHBoxLayout;
   row->setSpacing(Spacing(*this));
-  auto* period = new QComboBox(this);
+  auto* period = new DropList(this);
   ReserveWidth(*period, kLongestPeriod);
   binder_.Bind(section_.cboRefreshPeriod, *period);
   row->addWidget(period);

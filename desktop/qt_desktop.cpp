@@ -56,6 +56,20 @@ QMessageBox::StandardButtons ButtonsOf(MessageButtons buttons) {
   return QMessageBox::Ok;
 }
 
+QMessageBox::StandardButton ButtonOf(MessageAnswer answer) {
+  switch (answer) {
+    case MessageAnswer::kCancel:
+      return QMessageBox::Cancel;
+    case MessageAnswer::kYes:
+      return QMessageBox::Yes;
+    case MessageAnswer::kNo:
+      return QMessageBox::No;
+    case MessageAnswer::kOk:
+      break;
+  }
+  return QMessageBox::Ok;
+}
+
 MessageAnswer AnswerOf(int pressed, MessageButtons buttons) {
   if (pressed == QMessageBox::Yes) return MessageAnswer::kYes;
   if (pressed == QMessageBox::Ok || buttons == MessageButtons::kOk) return MessageAnswer::kOk;
@@ -121,6 +135,7 @@ MessageAnswer QtDesktop::ShowMessage(const Message& message) {
   box.setTextFormat(Qt::PlainText);
   for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
   ScrollLongText(box);
+  if (message.default_button) box.setDefaultButton(ButtonOf(*message.default_button));
   Widen(box);
   return AnswerOf(box.exec(), message.buttons);
 }

@@ -1,6 +1,5 @@
 #include "desktop/search_view.h"
 
-#include <QComboBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -9,6 +8,7 @@
 
 #include "desktop/bound_widgets.h"
 #include "desktop/characters.h"
+#include "desktop/drop_list.h"
 #include "desktop/look.h"
 #include "desktop/mirror.h"
 
@@ -56,7 +56,7 @@ QWidget* SearchView::MakeFrame() {
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(space);
 
-  auto* targets = new QComboBox(frame);
+  auto* targets = new DropList(frame);
   ReserveWidth(*targets, kLongestTarget);
   targets->setMaxVisibleItems(kVisibleTargets);
   binder_.Bind(section_.cboTarget, *targets);

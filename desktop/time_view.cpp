@@ -1,10 +1,10 @@
 #include "desktop/time_view.h"
 
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 
 #include "desktop/bound_widgets.h"
+#include "desktop/drop_list.h"
 #include "desktop/look.h"
 
 namespace tarnwick {
@@ -41,14 +41,14 @@ void TimeView::AddTimeSystem() {
 }
 
 void TimeView::AddTimeZone() {
-  auto* zone = new QComboBox(this);
+  auto* zone = new DropList(this);
   auto* caption = new QLabel(this);
   caption->setBuddy(zone);
   binder_.Bind(section_.lblTimeZone, *caption);
   SetTextColor(*caption, Look::kCaption);
   Row().addWidget(caption);
 
-  zone->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  zone->setSizeAdjustPolicy(DropList::AdjustToContents);
   zone->setMaxVisibleItems(kVisibleZones);
   binder_.Bind(section_.cboTimeZone, *zone);
   Row().addWidget(zone);

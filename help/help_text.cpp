@@ -35,11 +35,15 @@ Whatever you save replaces an earlier file only when the new one is complete. If
 # Keys
 
 - Enter in the entry box or the box of days computes.
-- Escape gives up a search and closes the small windows.
+- Enter elsewhere presses the button that has the focus.
+- Escape gives up a search, ends a repeated move and closes the small windows.
+- The arrow keys, the space bar and letters open a list; Enter chooses, Escape leaves it as it was.
 - F1 opens this help.
 - Ctrl+S saves the state at once.
 - Ctrl+P opens the log preferences.
 - Alt+Left and Alt+Right lead back to what was shown before, and forward again.
+- Ctrl+L opens the lunation calendar; Page Up and Page Down turn its page.
+- Ctrl+Q quits, from any window.
 - Alt with an underlined letter does what is written there.)";
 
 constexpr std::string_view kEnteringDates =

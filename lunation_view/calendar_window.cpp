@@ -39,6 +39,8 @@ frmCalendar::frmCalendar(Desktop& desktop, Screen& screen, Session& session, Pic
     button.SetToolTipText(std::string("Display ") + kDirections[i] + " lunation");
     button.on_click = [this, i] { cmdShowPreviousOrNext_Click(i); };
   }
+  AddShortcut("Page_Up", cmdShowPreviousOrNext[0]);
+  AddShortcut("Page_Down", cmdShowPreviousOrNext[1]);
   cmdSaveCalendarImage.on_click = [this] { cmdSaveCalendarImage_Click(); };
 }
 

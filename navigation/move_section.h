@@ -37,6 +37,8 @@ class MoveSection {
   void SetDefaults();
   void UpdateAvailability();
   void TakeFocus();
+  // A repeated move ends.
+  void Stop() { cmdStop_Click(); }
   // The next step of a running move is due.
   void Clock_Timer() { blnStepDue = true; }
 

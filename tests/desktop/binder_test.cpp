@@ -329,6 +329,7 @@ void BinderTest::faultIsReportedAndEndsAll() {
     throw std::runtime_error("out of order");
   };
   auto& push = bound.Add<QPushButton>(go);
+  bound.Show();
   push.click();
   push.click();
   QCOMPARE(clicks, 1);

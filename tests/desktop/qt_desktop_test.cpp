@@ -55,10 +55,11 @@ void QtDesktopTest::messageBoxShowsTheMessageAndAnswers_data() {
   QTest::addColumn<int>("key");
   QTest::addColumn<int>("shown");
   QTest::addColumn<MessageAnswer>("answer");
+  QTest::addColumn<std::optional<MessageAnswer>>("first");
   using enum MessageIcon;
   const auto row = [](const char* name, MessageIcon icon, MessageButtons buttons, int key,
-                      int shown, MessageAnswer answer) {
-    QTest::newRow(name) << icon << buttons << key << shown << answer;
+                      int shown, MessageAnswer answer, std::optional<MessageAnswer> first = {}) {
+    QTest::newRow(name) << icon << buttons << key << shown << answer << first;
   };
   constexpr auto kOk = MessageButtons::kOk;
   constexpr auto kOkCancel = MessageButtons::kOkCancel;
@@ -71,6 +72,8 @@ void QtDesktopTest::messageBoxShowsTheMessageAndAnswers_data() {
       MessageAnswer::kCancel);
   row("yes", kInformation, kYesNo, Qt::Key_Return, QMessageBox::Information, MessageAnswer::kYes);
   row("no", kQuestion, kYesNo, Qt::Key_Escape, QMessageBox::Question, MessageAnswer::kNo);
+  row("no first", kQuestion, kYesNo, Qt::Key_Return, QMessageBox::Question, MessageAnswer::kNo,
+      MessageAnswer::kNo);
 }
 
 void QtDesktopTest::messageBoxShowsTheMessageAndAnswers() {
@@ -85,7 +88,9 @@ void QtDesktopTest::messageBoxShowsTheMessageAndAnswers() {
     QCOMPARE(static_cast<int>(box.icon()), shown);
     QTest::keyClick(&box, static_cast<Qt::Key>(key));
   });
-  const MessageAnswer given = desktop_.ShowMessage({"<b>plain</b>", "Compute date", icon, buttons});
+  QFETCH(std::optional<MessageAnswer>, first);
+  const MessageAnswer given =
+      desktop_.ShowMessage({"<b>plain</b>", "Compute date", icon, buttons, first});
   QFETCH(MessageAnswer, answer);
   QCOMPARE(given, answer);
 }

@@ -130,7 +130,7 @@ const Driver::Command Driver::kCommands[] = {
     {"focus", &Driver::Focus},       {"messages", &Driver::Messages},
     {"answer", &Driver::Answer},     {"tick", &Driver::Tick},
     {"during", &Driver::During},     {"clipboard", &Driver::Clipboard},
-    {"dump", &Driver::Dump},
+    {"dump", &Driver::Dump},         {"key", &Driver::Key},
 };
 
 Driver::Driver(std::istream& input, std::ostream& output, std::filesystem::path program_folder)
@@ -236,13 +236,18 @@ Driver::Target Driver::Find(std::string_view name) {
   return target;
 }
 
-Form& Driver::FindForm(std::string_view name) {
+Form& Driver::FindShown(std::string_view name) {
   Main();
   Form* form = screen_->Find(name);
   if (form == nullptr) throw CommandError("unknown form: " + std::string(name));
   if (!form->Visible()) throw CommandError(std::string(name) + " is hidden");
-  if (only_quitting_ && form != &Main()) throw CommandError(std::string(name) + " has to wait");
   return *form;
+}
+
+Form& Driver::FindForm(std::string_view name) {
+  Form& form = FindShown(name);
+  if (only_quitting_ && &form != &Main()) throw CommandError(form.Name() + " has to wait");
+  return form;
 }
 
 Control& Driver::FindControl(std::string_view name) {
@@ -434,6 +439,15 @@ void Driver::During(std::string_view arguments) {
 }
 
 void Driver::Clipboard(std::string_view /*arguments*/) { Print(Escape(desktop_.ClipboardText())); }
+
+void Driver::Key(std::string_view arguments) {
+  const auto [name, keys] = SplitWord(arguments);
+  Form& form = FindShown(name);
+  const bool waits = only_quitting_ && keys != "Ctrl+Q";
+  if (waits || !form.PressKeys(keys)) {
+    throw CommandError("nothing in " + form.Name() + " takes " + std::string(keys));
+  }
+}
 
 void Driver::Dump(std::string_view /*arguments*/) {
   Main();

@@ -40,6 +40,7 @@ class Driver {
 
   frmMain& Main();
   Target Find(std::string_view name);
+  Form& FindShown(std::string_view name);
   Form& FindForm(std::string_view name);
   Control& FindControl(std::string_view name);
   Control& FindUsable(std::string_view name);
@@ -67,6 +68,7 @@ class Driver {
   void During(std::string_view arguments);
   void Clipboard(std::string_view arguments);
   void Dump(std::string_view arguments);
+  void Key(std::string_view arguments);
 
   void Print(std::string_view text) { output_ << text << '\n'; }
   void FireTimer();
