@@ -6,6 +6,7 @@
 #include "controls/choice.h"
 #include "controls/keys.h"
 #include "controls/product.h"
+#include "moment/copying.h"
 
 namespace tarnwick {
 
@@ -30,6 +31,7 @@ frmMain::frmMain(Desktop& desktop, Screen& screen)
   cmdReset.SetToolTipText("Gives every choice of this window its first value, and shows now");
   WireSession();
   ConnectHandlers();
+  OfferToCopy();
   WatchForChanges();
 }
 
@@ -57,6 +59,13 @@ void frmMain::ConnectHandlers() {
   cmdHelp.on_click = [this] { help_window.Show(); };
   cmdQuit.on_click = [this] { cmdQuit_Click(); };
   Clock.on_timer = [this] { Clock_Timer(); };
+}
+
+void frmMain::OfferToCopy() {
+  std::vector<Label*> values{&dates.lblTime[1], &moon.lblPhaseOfMoon[1], &moon.lblAgeOfMoon[1],
+                             &moon.lblDeltaT[1], &search.lblActualEclipseData};
+  for (const Calendar one : kCalendars) values.push_back(&dates.LabelOf(one)[1]);
+  for (Label* value : values) OfferCopying(*value, dates, desktop_);
 }
 
 // The state can be saved again as soon as anything else is shown or chosen; the hint is neither.

@@ -66,6 +66,7 @@ class frmMain final : public Form {
  private:
   void WireSession();
   void ConnectHandlers();
+  void OfferToCopy();
   void WatchForChanges();
   void UpdateAvailability();
 

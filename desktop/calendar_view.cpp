@@ -20,6 +20,10 @@ namespace {
 
 constexpr Wording kWordings[] = {
     {"fraCalendar", 0, "Lunation"},
+    {"imgMoon", 0, "The Moon"},
+    {"lblDate", 0, "Day"},
+    {"lblCEDate", 0, "CE date"},
+    {"lblEvent", 0, "Phases and eclipses"},
     {"cmdShowPreviousOrNext(0)", 'p', ""},
     {"cmdShowPreviousOrNext(1)", 'n', ""},
     {"cmdSaveCalendarImage", 'S', ""},
@@ -132,6 +136,7 @@ QWidget* CalendarView::MakeCell(std::size_t index, QWidget* page) {
   binder_.Bind(form_.imgMoon[index], *picture);
   rows->addWidget(picture, 1);
   auto* date = new LinkLabel(LinkLabel::Kind::kValue, cell);
+  date->setCheckable(true);
   binder_.Bind(form_.lblDate[index], *date);
   rows->addWidget(date, 0, Qt::AlignHCenter);
   QLabel* ce_date = MakeText(kSmall, cell);

@@ -15,7 +15,7 @@ constexpr char kLongestDate[] = "-5011-13-3-3 OLW (Daythree in Weekthree of De Q
 }  // namespace
 
 DatesView::DatesView(DatesSection& section, Binder& binder, QWidget* parent)
-    : Panel(Ground::kDark, parent), binder_(binder) {
+    : Panel(Ground::kDark, parent), section_(section), binder_(binder) {
   SetTitle("One moment, nine ways");
   auto* rows = new QGridLayout;
   rows->setHorizontalSpacing(3 * Spacing(*this) / 2);
@@ -45,6 +45,7 @@ void DatesView::AddRow(ValueLabel& label, QGridLayout& rows) {
   rows.addWidget(caption, row, 0);
 
   auto* date = new LinkLabel(LinkLabel::Kind::kValue, this);
+  date->setCheckable(&label != &section_.lblTime);
   binder_.Bind(label[1], *date);
   rows.addWidget(date, row, 1, Qt::AlignLeft);
 }

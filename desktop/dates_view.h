@@ -16,6 +16,7 @@ class DatesView final : public Panel {
  private:
   void AddRow(ValueLabel& label, QGridLayout& rows);
 
+  DatesSection& section_;
   Binder& binder_;
 };
 

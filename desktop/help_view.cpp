@@ -7,6 +7,7 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "desktop/accessible.h"
 #include "desktop/bound_widgets.h"
 #include "desktop/link_label.h"
 #include "desktop/look.h"
@@ -26,6 +27,8 @@ constexpr Wording kCreditsWordings[] = {
     {"cmdWebPage", 'w', ""},
     {"cmdClose", 'C', ""},
 };
+
+constexpr Wording kNoticeWordings[] = {{"lblNotice", 0, "", "", true}};
 
 // In lines of text.
 constexpr QSize kHelpSize{52, 34};
@@ -82,7 +85,8 @@ CreditsView::CreditsView(frmCredits& form, HandlerGate& gate) : binder_(gate, kC
 }
 
 NoticeView::NoticeView(frmNotice& form, HandlerGate& gate)
-    : QWidget(nullptr, Qt::ToolTip | Qt::FramelessWindowHint), binder_(gate, {}) {
+    : QWidget(nullptr, Qt::ToolTip | Qt::FramelessWindowHint), binder_(gate, kNoticeWordings) {
+  SetRole(*this, QAccessible::Notification);
   setAttribute(Qt::WA_ShowWithoutActivating);
   setPalette(LightPalette());
   auto* row = new QHBoxLayout(this);

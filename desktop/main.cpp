@@ -8,6 +8,7 @@
 
 #include "app/main_window.h"
 #include "controls/form.h"
+#include "desktop/accessible.h"
 #include "desktop/calendar_view.h"
 #include "desktop/characters.h"
 #include "desktop/help_view.h"
@@ -37,6 +38,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("tarnwick");
   QApplication::setQuitOnLastWindowClosed(false);  // the main window's form ends the program
   QApplication::setDesktopFileName("tarnwick");
+  tarnwick::InstallAccessibles();
   tarnwick::ApplyLook();
 
   tarnwick::HandlerGate gate(EndWithFault);

@@ -18,6 +18,7 @@ constexpr Wording kWordings[] = {
     {"optNext", 'x', ""},
     {"optPrevious", 'i', ""},
     {"cmdSearch", 'S', ""},
+    {"lblSearching", 0, "", "", true},
     {"lblActualEclipseData", 0, "Eclipse"},
 };
 
@@ -77,7 +78,6 @@ EclipseView::EclipseView(SearchSection& section, Binder& binder, QWidget* parent
   SetTitle("Eclipse");
   auto* text = new QLabel(this);
   text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   // Room for any eclipse, so that nothing moves when one is found.
   text->setText(kLongestText);
   text->setMinimumSize(text->sizeHint());
