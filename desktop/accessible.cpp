@@ -150,6 +150,8 @@ class LinkAccessible final : public ValueAccessible {
   LinkLabel& link_;
 };
 
+EventListener tell = QAccessible::updateAccessibility;
+
 // Qt asks for every class of an object, the most special first, and takes what it is given.
 QAccessibleInterface* AccessibleOf(const QString& class_name, QObject* object) {
   if (class_name == LinkLabel::staticMetaObject.className()) {
@@ -164,6 +166,8 @@ QAccessibleInterface* AccessibleOf(const QString& class_name, QObject* object) {
 
 void InstallAccessibles() { QAccessible::installFactory(AccessibleOf); }
 
+void ListenToEvents(EventListener listener) { tell = listener; }
+
 void SetRole(QWidget& widget, QAccessible::Role role) { widget.setProperty(kRole, role); }
 
 void Announce(QWidget& widget) {
@@ -173,19 +177,19 @@ void Announce(QWidget& widget) {
 #else
   QAccessibleEvent event(&widget, QAccessible::Alert);
 #endif
-  QAccessible::updateAccessibility(&event);
+  tell(&event);
 }
 
 void TellOfValue(QWidget& widget, const QString& value) {
   QAccessibleValueChangeEvent event(&widget, value);
-  QAccessible::updateAccessibility(&event);
+  tell(&event);
 }
 
 void TellOfCheck(QWidget& widget) {
   QAccessible::State changed;
   changed.checked = true;
   QAccessibleStateChangeEvent event(&widget, changed);
-  QAccessible::updateAccessibility(&event);
+  tell(&event);
 }
 
 }  // namespace tarnwick

@@ -21,4 +21,8 @@ void Announce(QWidget& widget);
 void TellOfValue(QWidget& widget, const QString& value);
 void TellOfCheck(QWidget& widget);
 
+// Takes what readers are told in the place of Qt, which hands it on only while there is a reader.
+using EventListener = void (*)(QAccessibleEvent* event);
+void ListenToEvents(EventListener listener);
+
 }  // namespace tarnwick

@@ -168,10 +168,10 @@ void AccessibleTest::currentCalendarIsAState() {
     const auto* window = WindowOf(control.Owner());
     return bool(Told(*window->findChild<QWidget*>(control.Name().c_str())).state().checked);
   };
-  QAccessible::installUpdateHandler(NoteEvent);
   events.clear();
+  ListenToEvents(NoteEvent);
   form.dates.lblKSGDate[1].Click();
-  QAccessible::installUpdateHandler(nullptr);
+  ListenToEvents(QAccessible::updateAccessibility);
   for (const Calendar calendar : kCalendars) {
     QCOMPARE(marked(form.dates.LabelOf(calendar)[1]), calendar == kKSG);
   }
@@ -205,15 +205,15 @@ void AccessibleTest::textsThatAppearAreAnnounced() {
   const NoticeView notice(main.form.notice, main.gate);
   constexpr auto kAnnounced = static_cast<QAccessible::Event>(
       QT_VERSION >= QT_VERSION_CHECK(6, 8, 0) ? 0x0150 : QAccessible::Alert);
-  QAccessible::installUpdateHandler(NoteEvent);
   events.clear();
+  ListenToEvents(NoteEvent);
   main.form.search.lblSearching.SetVisible(true);
   main.form.search.lblSearching.SetVisible(false);
   main.form.notice.ShowOver(main.form, "Saved");
   main.form.notice.Hide();
   main.form.notice.ShowOver(main.form, "Saved");
   main.form.notice.ShowOver(main.form, "No coincidence was found.");
-  QAccessible::installUpdateHandler(nullptr);
+  ListenToEvents(QAccessible::updateAccessibility);
   QCOMPARE(CountOf(kAnnounced, "Searching ..."), 1);
   QCOMPARE(CountOf(kAnnounced, "Saved"), 2);
   QCOMPARE(CountOf(kAnnounced, "No coincidence was found."), 1);
