@@ -213,7 +213,10 @@ void AccessibleTest::textsThatAppearAreAnnounced() {
   main.form.notice.Hide();
   main.form.notice.ShowOver(main.form, "Saved");
   main.form.notice.ShowOver(main.form, "No coincidence was found.");
+  main.form.entry.txbDate.SetText("2023-02-30 CE");
+  main.form.entry.cmdCompute.Click();
   ListenToEvents(QAccessible::updateAccessibility);
+  QCOMPARE(CountOf(kAnnounced, main.form.entry.lblEntryHint.Caption().c_str()), 1);
   QCOMPARE(CountOf(kAnnounced, "Searching ..."), 1);
   QCOMPARE(CountOf(kAnnounced, "Saved"), 2);
   QCOMPARE(CountOf(kAnnounced, "No coincidence was found."), 1);
