@@ -24,8 +24,7 @@ class AreaAccessible : public QAccessibleWidget {
   }
 };
 
-// A value as a text to be read letter by letter. Readers that know no value of a list take its
-// text.
+// The value of a list as a text, which readers take that know no other value than a number.
 class ValueText : public QAccessibleTextInterface {
  public:
   explicit ValueText(const QAccessibleInterface& shown) : shown_(shown) {}
@@ -62,15 +61,7 @@ class ValueAccessible : public QAccessibleWidget {
   ValueAccessible(QWidget* widget, QAccessible::Role role) : QAccessibleWidget(widget, role) {}
 
   QString text(QAccessible::Text kind) const override {
-    if (kind == QAccessible::Value) return Value();
-    const QString text = QAccessibleWidget::text(kind);
-    if (kind != QAccessible::Description || platform::ReadersKnowValues()) return text;
-    return text.isEmpty() || Value().isEmpty() ? Value() + text : Value() + "\n" + text;
-  }
-
-  void* interface_cast(QAccessible::InterfaceType type) override {
-    if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(&text_);
-    return QAccessibleWidget::interface_cast(type);
+    return kind == QAccessible::Value ? Value() : QAccessibleWidget::text(kind);
   }
 
   QStringList actionNames() const override {
@@ -84,12 +75,12 @@ class ValueAccessible : public QAccessibleWidget {
     }
   }
 
- private:
+ protected:
   virtual QString Value() const = 0;
+
+ private:
   virtual QString PressAction() const = 0;
   virtual void Press() = 0;
-
-  ValueText text_{*this};
 };
 
 // Qt's own gives a list its value for a name, and what it is only if a label stands beside it.
@@ -113,6 +104,10 @@ class ListAccessible final : public ValueAccessible {
     state.collapsed = !open;
     return state;
   }
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(&text_);
+    return ValueAccessible::interface_cast(type);
+  }
 
  private:
   QString Value() const override { return list_.currentText(); }
@@ -120,6 +115,7 @@ class ListAccessible final : public ValueAccessible {
   void Press() override { list_.showPopup(); }
 
   QComboBox& list_;
+  ValueText text_{*this};
 };
 
 class LinkAccessible final : public ValueAccessible {
@@ -127,6 +123,11 @@ class LinkAccessible final : public ValueAccessible {
   explicit LinkAccessible(LinkLabel* link)
       : ValueAccessible(link, QAccessible::Button), link_(*link) {}
 
+  QString text(QAccessible::Text kind) const override {
+    const QString text = ValueAccessible::text(kind);
+    if (kind != QAccessible::Description || platform::ReadersKnowValues()) return text;
+    return text.isEmpty() || Value().isEmpty() ? Value() + text : Value() + "\n" + text;
+  }
   // One that the keyboard does not reach is read, not worked.
   QAccessible::Role role() const override {
     return link_.focusPolicy() == Qt::NoFocus ? QAccessible::StaticText : ValueAccessible::role();

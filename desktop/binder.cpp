@@ -54,11 +54,14 @@ Wording Binder::WordingOf(const Control& control) const {
   return {name, 0, {}};
 }
 
-// What a screen reader says: what the control is, then what it shows.
+// What a screen reader says: what the control is, then what it shows, unless that is a mere sign.
 QString Binder::SpokenName(const CaptionedControl& control) const {
   const std::string spoken(WordingOf(control).spoken);
-  const bool both = !spoken.empty() && !control.Caption().empty();
-  return ToQt(spoken + (both ? ": " : "") + control.Caption());
+  const QString shown = ToQt(control.Caption());
+  if (spoken.empty()) return shown;
+  const bool readable =
+      std::any_of(shown.begin(), shown.end(), [](QChar c) { return c.isLetterOrNumber(); });
+  return ToQt(spoken) + (readable ? ": " + shown : QString());
 }
 
 void Binder::BindPlace(Control& control, QWidget& widget) {

@@ -11,6 +11,7 @@
 #include "desktop/help_view.h"
 #include "desktop/log_preferences_view.h"
 #include "desktop/log_window_view.h"
+#include "desktop/platform.h"
 #include "desktop/qt_desktop.h"
 #include "tests/desktop/shown_main_window.h"
 #include "tests/desktop/suites.h"
@@ -153,8 +154,14 @@ void AccessibleTest::listsAndDatesHaveNameAndValue() {
     QAccessibleInterface& told = Told(main.Find<QWidget>(control));
     QCOMPARE(told.text(QAccessible::Name), name);
     QCOMPARE(told.text(QAccessible::Value), value);
-    QCOMPARE(told.textInterface()->text(0, told.textInterface()->characterCount()), value);
+    // Where readers know no such value, they are told it in another way.
+    if (auto* text = told.textInterface()) {
+      QCOMPARE(text->text(0, text->characterCount()), value);
+    } else if (!platform::ReadersKnowValues()) {
+      QVERIFY(told.text(QAccessible::Description).startsWith(value));
+    }
   }
+  QCOMPARE(NameOf(main.Find<QWidget>(main.form.history.cmdBack)), "Back");
   auto& julian = Told(main.Find<QWidget>(main.form.dates.lblJulianCalendarDate[1]));
   QVERIFY(julian.text(QAccessible::Description).contains("21st day of February"));
   julian.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
