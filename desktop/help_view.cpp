@@ -28,7 +28,7 @@ constexpr Wording kCreditsWordings[] = {
     {"cmdClose", 'C', ""},
 };
 
-constexpr Wording kNoticeWordings[] = {{"lblNotice", 0, "", "", true}};
+constexpr Wording kNoticeWordings[] = {{.control = "lblNotice", .spoken = "", .announced = true}};
 
 // In lines of text.
 constexpr QSize kHelpSize{52, 34};

@@ -18,7 +18,7 @@ constexpr Wording kWordings[] = {
     {"optNext", 'x', ""},
     {"optPrevious", 'i', ""},
     {"cmdSearch", 'S', ""},
-    {"lblSearching", 0, "", "", true},
+    {.control = "lblSearching", .spoken = "", .announced = true},
     {"lblActualEclipseData", 0, "Eclipse"},
 };
 
