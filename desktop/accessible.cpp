@@ -124,7 +124,7 @@ class LinkAccessible final : public ValueAccessible {
       : ValueAccessible(link, QAccessible::Button), link_(*link) {}
 
   QString text(QAccessible::Text kind) const override {
-    const QString text = ValueAccessible::text(kind);
+    QString text = ValueAccessible::text(kind);
     if (kind != QAccessible::Description || platform::ReadersKnowValues()) return text;
     return text.isEmpty() || Value().isEmpty() ? Value() + text : Value() + "\n" + text;
   }
