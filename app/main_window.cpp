@@ -6,6 +6,7 @@
 #include "controls/choice.h"
 #include "controls/keys.h"
 #include "controls/product.h"
+#include "moment/copying.h"
 
 namespace tarnwick {
 
@@ -31,6 +32,7 @@ frmMain::frmMain(Desktop& desktop, Screen& screen)
   WireSession();
   ConnectHandlers();
   AddShortcuts(screen);
+  OfferToCopy();
   WatchForChanges();
 }
 
@@ -68,6 +70,13 @@ void frmMain::AddShortcuts(const Screen& screen) {
   AddShortcut("Ctrl+S", cmdSaveState);
   AddShortcut("F1", cmdHelp);
   for (Form* form : screen.Forms()) form->AddShortcut("Ctrl+Q", cmdQuit);
+}
+
+void frmMain::OfferToCopy() {
+  std::vector<Label*> values{&dates.lblTime[1], &moon.lblPhaseOfMoon[1], &moon.lblAgeOfMoon[1],
+                             &moon.lblDeltaT[1], &search.lblActualEclipseData};
+  for (const Calendar one : kCalendars) values.push_back(&dates.LabelOf(one)[1]);
+  for (Label* value : values) OfferCopying(*value, dates, desktop_);
 }
 
 // The state can be saved again as soon as anything else is shown or chosen; the hint is neither.

@@ -67,6 +67,7 @@ class frmMain final : public Form {
   void WireSession();
   void ConnectHandlers();
   void AddShortcuts(const Screen& screen);
+  void OfferToCopy();
   void WatchForChanges();
   void UpdateAvailability();
 

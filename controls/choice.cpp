@@ -7,6 +7,11 @@ void ShowChoice(Control& chosen, Control& other) {
   other.SetForeColor(kUnselectedColor);
 }
 
+void ShowSelected(Label& label, bool selected) {
+  label.SetSelected(selected);
+  label.SetForeColor(selected ? kSelectedColor : kUnselectedColor);
+}
+
 void ShowChoice(CheckBox& box) {
   box.SetForeColor(box.Value() ? kSelectedColor : kUnselectedColor);
 }

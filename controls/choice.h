@@ -14,6 +14,9 @@ inline constexpr Color kResultColor{0, 0, 128};  // navy: the Moon and results
 // The chosen one of two option buttons or labels white, the other grey.
 void ShowChoice(Control& chosen, Control& other);
 
+// Sets the selected one of several labels apart, for the eye by its colour.
+void ShowSelected(Label& label, bool selected);
+
 // The colour of a check box follows its value.
 void ShowChoice(CheckBox& box);
 

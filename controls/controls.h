@@ -49,9 +49,25 @@ class Clickable : public Base {
   Control::Handler on_click;
 };
 
+// An entry of a context menu.
+struct MenuItem {
+  std::string caption;
+  Control::Handler on_click;
+  std::string keys;  // that choose it while its control has the focus, "Ctrl+C"; empty for none
+};
+
+// A text. It may be one of several of which one is selected, and have a context menu.
 class Label : public Clickable<CaptionedControl> {
  public:
   using Clickable::Clickable;
+
+  bool Selected() const { return selected_; }
+  void SetSelected(bool selected) { Assign(selected_, selected, Property::kSelected); }
+
+  std::vector<MenuItem> menu;  // complete before a view shows the label
+
+ private:
+  bool selected_ = false;
 };
 
 class Button : public Clickable<CaptionedControl> {
@@ -193,9 +209,16 @@ class Picture : public Clickable<Control> {
   // An empty path shows nothing.
   void SetPicture(std::filesystem::path file, Retouch retouch = {});
 
+  // What it shows, in words.
+  const std::string& Description() const { return description_; }
+  void SetDescription(std::string description) {
+    Assign(description_, std::move(description), Property::kDescription);
+  }
+
  private:
   std::filesystem::path file_;
   Retouch retouch_;
+  std::string description_;
 };
 
 // Ticks every Interval milliseconds while enabled. It lies dormant until it is started.

@@ -11,6 +11,7 @@ namespace tarnwick {
 enum class Property {
   kBounds,
   kCaption,
+  kDescription,
   kEnabled,
   kFocus,  // the control has been given the focus, or the form has become the active one
   kForeColor,
@@ -19,6 +20,7 @@ enum class Property {
   kListIndex,
   kMinimised,
   kPicture,
+  kSelected,
   kSelection,
   kText,
   kToolTipText,

@@ -15,7 +15,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/accessible.h"
 #include "desktop/characters.h"
+#include "desktop/context_menu.h"
 #include "desktop/event_hook.h"
 #include "desktop/help_html.h"
 #include "desktop/link_label.h"
@@ -80,25 +82,31 @@ QWidget* Binder::WidgetOf(const Control& control) const {
 }
 
 Wording Binder::WordingOf(const Control& control) const {
-  const auto found = std::find_if(wordings_.begin(), wordings_.end(), [&](const Wording& wording) {
-    return wording.control == control.Name();
-  });
-  return found == wordings_.end() ? Wording{control.Name(), 0, {}} : *found;
+  const std::string_view name = control.Name();
+  for (const std::string_view named : {name, name.substr(0, name.find('('))}) {
+    const auto found =
+        std::find_if(wordings_.begin(), wordings_.end(),
+                     [&](const Wording& wording) { return wording.control == named; });
+    if (found != wordings_.end()) return *found;
+  }
+  return {name, 0, {}};
 }
 
-// What a screen reader says: what the control is, then what it shows.
+// What a screen reader says: what the control is, then what it shows, unless that is a mere sign.
 QString Binder::SpokenName(const CaptionedControl& control) const {
   const std::string spoken(WordingOf(control).spoken);
-  if (spoken.empty()) return ToQt(control.Caption().empty() ? control.Name() : control.Caption());
-  return ToQt(control.Caption().empty() ? spoken : spoken + ": " + control.Caption());
+  const QString shown = ToQt(control.Caption());
+  if (spoken.empty()) return shown;
+  const bool readable =
+      std::any_of(shown.begin(), shown.end(), [](QChar c) { return c.isLetterOrNumber(); });
+  return ToQt(spoken) + (readable ? ": " + shown : QString());
 }
 
 // What every control has, whatever its kind.
 void Binder::BindControl(Control& control, QWidget& widget) {
   widgets_[&control] = &widget;
   widget.setObjectName(ToQt(control.Name()));
-  const std::string spoken(WordingOf(control).spoken);
-  widget.setAccessibleName(ToQt(spoken.empty() ? control.Name() : spoken));
+  widget.setAccessibleName(ToQt(std::string(WordingOf(control).spoken)));
   Mirror(control, Property::kEnabled, widget, [&] { widget.setEnabled(control.Enabled()); });
   Mirror(control, Property::kVisible, widget, [&] { widget.setVisible(control.Visible()); });
   Mirror(control, Property::kToolTipText, widget, [&] { widget.setToolTip(ToolTipOf(control)); });
@@ -134,7 +142,18 @@ void Binder::BindCaption(CaptionedControl& control, Widget& widget) {
   PressAtOnce(widget);
 }
 
+// Told when the label gets another text, and when it appears.
+void Binder::BindAnnouncement(Label& label, QWidget& widget) {
+  if (!WordingOf(label).announced) return;
+  Mirror(label, Property::kCaption, widget, [&widget] { Announce(widget); });
+  new EventHook(widget, [&widget](QEvent& event) {
+    if (event.type() == QEvent::Show) Announce(widget);
+    return false;
+  });
+}
+
 void Binder::Bind(Frame& frame, QWidget& area) {
+  SetRole(area, QAccessible::Grouping);
   BindControl(frame, area);
   Mirror(frame, Property::kCaption, area,
          [this, &frame, &area] { area.setAccessibleName(SpokenName(frame)); });
@@ -156,11 +175,26 @@ void Binder::Bind(Label& label, QLabel& text) {
     text.setText(text.buddy() != nullptr ? WithMnemonic(caption, mnemonic) : caption);
     text.setAccessibleName(SpokenName(label));
   });
+  BindMenu(label, text, gate_);
+  BindAnnouncement(label, text);
 }
 
 void Binder::Bind(Label& label, LinkLabel& link) {
-  BindCaption(label, link);
+  BindControl(label, link);
   BindForeColor(label, link);
+  Mirror(label, Property::kCaption, link, [&label, &link, spoken = WordingOf(label).spoken] {
+    const QString caption = ToQt(label.Caption());
+    link.setText(WithMnemonic(caption, 0));
+    // It is the value of what has a name; else it is the name.
+    link.setAccessibleName(spoken.empty() ? caption : ToQt(std::string(spoken)));
+    TellOfValue(link, caption);
+  });
+  Mirror(label, Property::kSelected, link, [&] {
+    link.setChecked(label.Selected());
+    TellOfCheck(link);
+  });
+  BindMenu(label, link, gate_);
+  BindAnnouncement(label, link);
   QObject::connect(&link, &LinkLabel::clicked, &link,
                    [&label, &gate = gate_] { gate.RunFor(label, [&] { label.Click(); }); });
 }
@@ -242,7 +276,11 @@ void Binder::Bind(ComboBox& list, QListWidget& rows) {
 }
 
 void Binder::Bind(Picture& picture, QWidget& area) {
+  SetRole(area, QAccessible::Graphic);
   BindControl(picture, area);
+  Mirror(picture, Property::kDescription, area, [&] {
+    if (!picture.Description().empty()) area.setAccessibleName(ToQt(picture.Description()));
+  });
   new EventHook(area, [&picture, &area, &gate = gate_](QEvent& event) {
     if (event.type() != QEvent::MouseButtonRelease) return false;
     const auto& release = static_cast<const QMouseEvent&>(event);

@@ -32,9 +32,10 @@ class PictureView;
 
 // What a view adds to the caption of a control.
 struct Wording {
-  std::string_view control;  // its name, "lblTime(1)" for one of an array
+  std::string_view control;  // its name, "lblTime(1)" for one of an array, "lblTime" for all
   char mnemonic = 0;         // the letter of its caption that Alt reaches it by
   std::string_view spoken;   // what it is, for users who do not see what stands around it
+  bool announced = false;    // a text to be read out as soon as it is shown
 };
 
 // Ties the controls of a form to the widgets of a window. A widget shows the state of its control
@@ -83,6 +84,7 @@ class Binder {
   void BindTextEvents(TextBox& box, QWidget& edit, QWidget& surface);
   template <class Widget>
   void BindCaption(CaptionedControl& control, Widget& widget);
+  void BindAnnouncement(Label& label, QWidget& widget);
   QString SpokenName(const CaptionedControl& control) const;
   Wording WordingOf(const Control& control) const;
 

@@ -24,6 +24,10 @@ namespace {
 
 constexpr Wording kWordings[] = {
     {"fraCalendar", 0, "Lunation"},
+    {"imgMoon", 0, "The Moon"},
+    {"lblDate", 0, "Day"},
+    {"lblCEDate", 0, "CE date"},
+    {"lblEvent", 0, "Phases and eclipses"},
     {"cmdShowPreviousOrNext(0)", 'p', ""},
     {"cmdShowPreviousOrNext(1)", 'n', ""},
     {"cmdSaveCalendarImage", 'S', ""},
@@ -197,6 +201,7 @@ void CalendarView::AddHeadings(QGridLayout& grid, QWidget* page) {
 
 QWidget* CalendarView::MakeCell(std::size_t index, QWidget* page) {
   auto* cell = new CellView(form_.lblDate[index], page);
+  cell->setCheckable(true);
   binder_.Bind(form_.lblDate[index], *cell);
   const int space = Spacing(*this);
   auto* rows = new QVBoxLayout(cell);

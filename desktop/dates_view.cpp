@@ -25,7 +25,7 @@ constexpr char kLongestDate[] = "-5011-13-3-3 OLW (Daythree in Weekthree of De Q
 }  // namespace
 
 DatesView::DatesView(DatesSection& section, Binder& binder, QWidget* parent)
-    : Panel(Ground::kDark, parent), binder_(binder), table_(new QWidget(this)) {
+    : Panel(Ground::kDark, parent), section_(section), binder_(binder), table_(new QWidget(this)) {
   SetTitle("One moment, nine ways");
   const int space = Spacing(*this);
   auto* rows = new QGridLayout(table_);
@@ -61,6 +61,7 @@ void DatesView::AddRow(ValueLabel& label, QGridLayout& rows) {
 
   auto* date = new LinkLabel(LinkLabel::Kind::kValue, table_);
   date->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  date->setCheckable(&label != &section_.lblTime);
   binder_.Bind(label[1], *date);
   rows.addWidget(date, row, 1);
   rows.setRowStretch(row, 1);

@@ -23,6 +23,7 @@ class DatesView final : public Panel {
   QSize RoomFor(const QFont& font) const;
   void FitFont();
 
+  DatesSection& section_;
   Binder& binder_;
   QWidget* table_;
   const QWidget* current_ = nullptr;  // the date in the current calendar

@@ -21,6 +21,7 @@ constexpr Wording kWordings[] = {
     {"optMinus", 'm', ""},
     {"txbPlusMinus", 0, "Days to add or subtract"},
     {"lblDays", 'd', ""},
+    {.control = "lblEntryHint", .spoken = "", .announced = true},
     {"cmdCompute", 'C', ""},
     {"cmdClearDate", 'l', ""},
 };

@@ -10,6 +10,7 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "desktop/accessible.h"
 #include "desktop/bound_widgets.h"
 #include "desktop/characters.h"
 #include "desktop/look.h"
@@ -32,6 +33,8 @@ constexpr Wording kCreditsWordings[] = {
     {"cmdWebPage", 'w', ""},
     {"cmdClose", 'C', ""},
 };
+
+constexpr Wording kNoticeWordings[] = {{.control = "lblNotice", .spoken = "", .announced = true}};
 
 // In lines of text.
 constexpr QSize kHelpSize{52, 34};
@@ -96,7 +99,8 @@ NoticeView::NoticeView(frmNotice& form, HandlerGate& gate)
     : QWidget(nullptr, Qt::ToolTip | Qt::FramelessWindowHint),
       form_(form),
       gate_(gate),
-      binder_(gate, {}) {
+      binder_(gate, kNoticeWordings) {
+  SetRole(*this, QAccessible::Notification);
   setAttribute(Qt::WA_ShowWithoutActivating);
   setPalette(LightPalette());
   const int space = Spacing(*this);

@@ -23,6 +23,8 @@ class LinkLabel : public QAbstractButton {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  // One of several that can be current: its owner marks it, not a click.
+  void nextCheckState() override {}
 
  private:
   QMargins Padding() const;

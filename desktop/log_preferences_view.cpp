@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/bound_widgets.h"
+#include "desktop/characters.h"
 #include "desktop/look.h"
 #include "desktop/panel.h"
 #include "desktop/screen_fit.h"
@@ -47,6 +48,7 @@ LogPreferencesView::LogPreferencesView(frmLogPreferences& form, HandlerGate& gat
 
 QWidget* LogPreferencesView::MakeIncludePanel() {
   auto* panel = new Panel(Panel::Ground::kDark, this);
+  panel->setAccessibleName(ToQt(form_.lblInclude.Caption()));
   binder_.Bind(form_.lblInclude, panel->Title());
   for (Control* control : form_.Controls()) {
     auto* box = dynamic_cast<CheckBox*>(control);
@@ -61,6 +63,7 @@ QWidget* LogPreferencesView::MakeIncludePanel() {
 
 QWidget* LogPreferencesView::MakeFormatPanel() {
   auto* panel = new Panel(Panel::Ground::kDark, this);
+  panel->setAccessibleName(ToQt(form_.lblFormat.Caption()));
   binder_.Bind(form_.lblFormat, panel->Title());
   auto* layouts = new Area(3 * Spacing(*this), panel);
   AddOption(binder_, form_.optLogFormat[0], *layouts);

@@ -8,6 +8,7 @@
 
 #include "app/main_window.h"
 #include "controls/form.h"
+#include "desktop/accessible.h"
 #include "desktop/calendar_view.h"
 #include "desktop/characters.h"
 #include "desktop/help_view.h"
@@ -39,6 +40,7 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);  // the main window's form ends the program
   QApplication::setDesktopFileName("tarnwick");
   QApplication::setKeyboardInputInterval(1000);  // within which letters make one name in a list
+  tarnwick::InstallAccessibles();
   tarnwick::ApplyLook();
 
   tarnwick::HandlerGate gate(EndWithFault);

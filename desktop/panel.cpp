@@ -5,12 +5,14 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "desktop/accessible.h"
 #include "desktop/look.h"
 
 namespace tarnwick {
 
 Panel::Panel(Ground ground, QWidget* parent)
     : QWidget(parent), ground_(ground), title_(new QLabel(this)), content_(new QVBoxLayout(this)) {
+  SetRole(*this, QAccessible::Grouping);
   if (ground == Ground::kLight) setPalette(LightPalette());
   SetTextColor(*title_, ground == Ground::kLight ? Look::kLightCaption : Look::kCaption);
   QFont font = title_->font();

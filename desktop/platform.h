@@ -9,6 +9,10 @@ namespace tarnwick::platform {
 // The folder for the data that programs keep for the user.
 std::filesystem::path UserDataFolder();
 
+// Whether screen readers are handed values that are texts; else such a value has to be part of the
+// description.
+bool ReadersKnowValues();
+
 // Shows a page in the user's browser.
 void OpenWebPage(const std::string& address);
 

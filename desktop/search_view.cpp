@@ -20,6 +20,7 @@ constexpr Wording kWordings[] = {
     {"optNext", 'x', ""},
     {"optPrevious", 'i', ""},
     {"cmdSearch", 'S', ""},
+    {.control = "lblSearching", .spoken = "", .announced = true},
     {"lblActualEclipseData", 0, "Eclipse"},
 };
 
@@ -79,7 +80,6 @@ EclipseView::EclipseView(SearchSection& section, Binder& binder, QWidget* parent
   SetTitle("Eclipse");
   auto* text = new QLabel(this);
   text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  text->setTextInteractionFlags(Qt::TextSelectableByMouse);
   auto* place = new QGridLayout;
   place->addWidget(text, 0, 0);
   // Room for any eclipse, so that nothing moves when one is found.

@@ -16,6 +16,8 @@ There is one current moment, and all that the main window shows belongs to it. T
 
 Nine lines show the moment: CE, JC, ARC, SD, LLT, KSG, OLW, CJD and AJD. The calendar of the white line is the current one. A click on a date makes its calendar current and copies the date to the entry box. Rest the pointer on a date to read it in words, and on what stands before it to read what it is.
 
+The time, the dates, the facts about the Moon and the eclipse can be copied as they are shown: by "Copy" of their context menu, or by Ctrl+C when the Tab key has brought you there. "Copy all dates" copies the time and the nine dates, a line each.
+
 After Now the moment follows the clock until you compute, move, search or recall another one.
 
 # Time

@@ -91,8 +91,9 @@ void frmCalendar::ShowLunation() {
 
 void frmCalendar::ShowCell(std::size_t index, DayNumber current_day) {
   const GridCell& cell = *grid_.cells[index];
+  imgMoon[index].SetDescription(cell.moon);
   lblDate[index].SetCaption(cell.date);
-  lblDate[index].SetForeColor(cell.day_number == current_day ? kSelectedColor : kUnselectedColor);
+  ShowSelected(lblDate[index], cell.day_number == current_day);
   lblCEDate[index].SetCaption(cell.ce_date);
   lblEvent[index].SetCaption(cell.event);
   for (Control* control : std::initializer_list<Control*>{&imgMoon[index], &lblDate[index],

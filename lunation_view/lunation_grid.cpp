@@ -9,6 +9,7 @@
 #include "calendars/lunar_week.h"
 #include "engines/phases.h"
 #include "lunation_view/month_calendar.h"
+#include "moon/moon_data.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
 
@@ -69,7 +70,11 @@ GridCell CellOf(DayNumber day_number, const GridReading& reading,
   const auto calendar = PageCalendar(reading.calendar);
   const std::string date =
       calendar ? DateTextsOf(*calendar, noon, reading.offset_minutes).long_form : "";
-  GridCell cell{day_number, CalendarDayOf(reading.calendar, day_number).day, ce.short_form, "",
+  GridCell cell{day_number,
+                CalendarDayOf(reading.calendar, day_number).day,
+                ce.short_form,
+                "",
+                MoonDescription(MoonDataAt(noon)),
                 date + "\n" + ce.long_form};
   for (const DayEvent& event : events) {
     if (event.when.day_number != day_number) continue;

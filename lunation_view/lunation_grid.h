@@ -42,6 +42,7 @@ struct GridCell {
   std::string date;      // in the chosen calendar: "14 Sophia"
   std::string ce_date;   // "2026-11-23 CE"
   std::string event;     // principal phase and eclipse of the day, a line each
+  std::string moon;      // "The Moon, gibbous, waxing, 62 % lit": at noon
   std::string tool_tip;  // both dates at length, the events with their times
 };
 

@@ -77,10 +77,15 @@ std::string DatesSection::DisplayAllDates() {
   return summary;
 }
 
+std::string DatesSection::AllDatesText() const {
+  std::string text = lblTime[1].Caption() + "\r\n";
+  for (const Calendar calendar : kDisplayOrder) text += LabelOf(calendar)[1].Caption() + "\r\n";
+  return text;
+}
+
 void DatesSection::MarkCurrentCalendar() {
   for (const Calendar calendar : kCalendars) {
-    const bool current = calendar == session_.CurrentCalendar();
-    LabelOf(calendar)[1].SetForeColor(current ? kSelectedColor : kUnselectedColor);
+    ShowSelected(LabelOf(calendar)[1], calendar == session_.CurrentCalendar());
   }
 }
 

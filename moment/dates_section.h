@@ -35,6 +35,13 @@ class DatesSection {
   // The label array of a calendar.
   ValueLabel& LabelOf(Calendar calendar) { return *labels_[static_cast<std::size_t>(calendar)]; }
 
+  const ValueLabel& LabelOf(Calendar calendar) const {
+    return *labels_[static_cast<std::size_t>(calendar)];
+  }
+
+  // The time and the nine dates as they are shown, a line each, ended by CR LF.
+  std::string AllDatesText() const;
+
   // Shows the moment; returns it in the current calendar, in short form.
   std::string Show();
   // Sets the current calendar apart, and shows the time as it counts the day.

@@ -61,6 +61,7 @@ void MoonSection::DisplayMoonData() {
   lblAgeOfMoon[1].SetCaption(lunation + " " + AgeText(moon.age) + " " + share);
   Explain(lblAgeOfMoon, lunation + " numbers the lunation from that of 2000-01-06; " + share +
                             " is how much of it has passed");
+  picMoon.SetDescription(MoonDescription(moon));
   if (moon.phase < 0) {
     ReportPhaseError(desktop_, moon.phase, "DisplayMoonData");
     return;

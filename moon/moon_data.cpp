@@ -27,11 +27,17 @@ std::string Counted(std::int64_t number, std::string_view unit) {
 }
 
 std::string_view PhaseName(double percent) {
-  if (percent < 1) return "Dark moon";
-  if (percent < 45) return "Crescent moon";
-  if (percent < 55) return "Half moon";
-  if (percent < 99) return "Gibbous moon";
-  return "Full moon";
+  if (percent < 1) return "Dark";
+  if (percent < 45) return "Crescent";
+  if (percent < 55) return "Half";
+  if (percent < 99) return "Gibbous";
+  return "Full";
+}
+
+// Next to new and full moon it is left out.
+std::string_view WaxingText(double percent, bool waxing) {
+  if (percent < 0.05 || percent > 99.95) return {};
+  return waxing ? "waxing" : "waning";
 }
 
 }  // namespace
@@ -85,9 +91,19 @@ std::string ErrorText(double seconds) {
 
 std::string PhaseOfMoonText(double fraction, bool waxing) {
   const double percent = 100 * fraction;
-  std::string text(PhaseName(percent));
-  if (percent >= 0.05 && percent <= 99.95) text += waxing ? " (waxing)" : " (waning)";
-  return text;
+  const std::string text = std::string(PhaseName(percent)) + " moon";
+  const std::string change(WaxingText(percent, waxing));
+  return change.empty() ? text : text + " (" + change + ")";
+}
+
+std::string MoonDescription(const MoonData& moon) {
+  if (moon.phase < 0) return "The Moon";
+  const double percent = 100 * moon.fraction;
+  std::string name(PhaseName(percent));
+  name[0] = static_cast<char>(name[0] - 'A' + 'a');
+  const std::string change(WaxingText(percent, moon.waxing));
+  return "The Moon, " + name + (change.empty() ? "" : ", " + change) + ", " +
+         std::to_string(std::lround(percent)) + " % lit";
 }
 
 }  // namespace tarnwick

@@ -35,4 +35,8 @@ std::string ErrorText(double seconds);
 // "Crescent moon (waxing)" and so on. Whether it waxes is left out next to new and full moon.
 std::string PhaseOfMoonText(double fraction, bool waxing);
 
+// What a picture of the Moon shows: "The Moon, gibbous, waxing, 62 % lit"; "The Moon" if the phase
+// is an error.
+std::string MoonDescription(const MoonData& moon);
+
 }  // namespace tarnwick

@@ -16,6 +16,9 @@ std::filesystem::path UserDataFolder() {
   return QFile::encodeName(folder).toStdString();
 }
 
+// They are handed numbers only.
+bool ReadersKnowValues() { return false; }
+
 void OpenWebPage(const std::string& address) { QDesktopServices::openUrl(QUrl(ToQt(address))); }
 
 }  // namespace tarnwick::platform

@@ -38,6 +38,8 @@ std::filesystem::path UserDataFolder() {
   return folder.empty() ? LocalDrive() : folder;
 }
 
+bool ReadersKnowValues() { return true; }
+
 void OpenWebPage(const std::string& address) {
   ShellExecuteA(nullptr, "open", address.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
 }

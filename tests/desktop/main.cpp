@@ -1,5 +1,6 @@
 #include <QApplication>
 
+#include "desktop/accessible.h"
 #include "desktop/look.h"
 #include "tests/desktop/suites.h"
 
@@ -8,6 +9,7 @@ int main(int argc, char** argv) {
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
+  tarnwick::InstallAccessibles();
   tarnwick::ApplyLook();
   int failures = 0;
   for (const tarnwick::SuiteRun run : tarnwick::Suites()) failures += run(argc, argv);

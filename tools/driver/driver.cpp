@@ -131,6 +131,7 @@ const Driver::Command Driver::kCommands[] = {
     {"answer", &Driver::Answer},     {"tick", &Driver::Tick},
     {"during", &Driver::During},     {"clipboard", &Driver::Clipboard},
     {"dump", &Driver::Dump},         {"key", &Driver::Key},
+    {"menu", &Driver::Menu},
 };
 
 Driver::Driver(std::istream& input, std::ostream& output, std::filesystem::path program_folder)
@@ -320,6 +321,16 @@ void Driver::Click(std::string_view name) {
   Control& control = FindUsable(name);
   control.SetFocus();
   if (!control.Click()) throw CommandError(control.Name() + " cannot be clicked");
+}
+
+void Driver::Menu(std::string_view arguments) {
+  const auto [name, caption] = SplitWord(arguments);
+  for (const MenuItem& item : FindUsableAs<Label>(name, "label").menu) {
+    if (item.caption != caption) continue;
+    item.on_click();
+    return;
+  }
+  throw CommandError("no such item: " + std::string(caption));
 }
 
 void Driver::Press(std::string_view arguments) {

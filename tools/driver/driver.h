@@ -53,6 +53,7 @@ class Driver {
   void Set(std::string_view arguments);
   void Choose(std::string_view arguments);
   void Click(std::string_view name);
+  void Menu(std::string_view arguments);
   void Press(std::string_view arguments);
   void Select(std::string_view arguments);
   void MouseUp(std::string_view name);

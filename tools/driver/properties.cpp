@@ -27,6 +27,9 @@ std::optional<std::string> OwnProperty(const Control& control, std::string_view 
   if (const auto* captioned = dynamic_cast<const CaptionedControl*>(&control)) {
     if (property == "Caption") return captioned->Caption();
   }
+  if (const auto* label = dynamic_cast<const Label*>(&control)) {
+    if (property == "Selected") return Flag(label->Selected());
+  }
   if (const auto* check = dynamic_cast<const CheckBox*>(&control)) {
     if (property == "Value") return Flag(check->Value());
   }
@@ -44,6 +47,7 @@ std::optional<std::string> OwnProperty(const Control& control, std::string_view 
   }
   if (const auto* picture = dynamic_cast<const Picture*>(&control)) {
     if (property == "Picture") return picture->File().filename().string();
+    if (property == "Description") return picture->Description();
   }
   if (const auto* timer = dynamic_cast<const Timer*>(&control)) {
     if (property == "Interval") return std::to_string(timer->Interval());
