@@ -17,6 +17,7 @@ constexpr Wording kWordings[] = {
     {"cboTimeZone", 0, "Time zone"},
 };
 
+constexpr char kLongestZone[] = "GMT + 00:00";
 constexpr int kVisibleZones = 17;
 
 }  // namespace
@@ -48,7 +49,7 @@ void TimeView::AddTimeZone() {
   SetTextColor(*caption, Look::kCaption);
   Row().addWidget(caption);
 
-  zone->setSizeAdjustPolicy(DropList::AdjustToContents);
+  ReserveWidth(*zone, kLongestZone);
   zone->setMaxVisibleItems(kVisibleZones);
   binder_.Bind(section_.cboTimeZone, *zone);
   Row().addWidget(zone);
