@@ -65,6 +65,10 @@ void DatesView::AddRow(ValueLabel& label, QGridLayout& rows) {
   binder_.Bind(label[1], *date);
   rows.addWidget(date, row, 1);
   rows.setRowStretch(row, 1);
+  new EventHook(*date, [this](QEvent& event) {
+    if (event.type() == QEvent::Move || event.type() == QEvent::Resize) update();
+    return false;
+  });
 
   Mirror(label[1], Property::kForeColor, *caption, [this, caption, date, &value = label[1]] {
     const bool current = value.ForeColor() == kSelectedColor;
