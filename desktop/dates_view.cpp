@@ -29,7 +29,7 @@ DatesView::DatesView(DatesSection& section, Binder& binder, QWidget* parent)
   SetTitle("One moment, nine ways");
   const int space = Spacing(*this);
   auto* rows = new QGridLayout(table_);
-  rows->setContentsMargins(space, 0, 0, 0);
+  rows->setContentsMargins(3 * space / 2, 0, 0, 0);
   rows->setHorizontalSpacing(2 * space);
   rows->setVerticalSpacing(0);  // the padding of the labels is enough
   rows->setColumnStretch(1, 1);

@@ -210,6 +210,10 @@ class Style final : public QProxyStyle {
       case CT_LineEdit:
         return {contents.width() + 2 * FieldPadding(font),
                 std::max(contents.height(), ControlHeight(font))};
+      case CT_ItemViewItem: {
+        const QSize least(0, 3 * font.height() / 2);
+        return QProxyStyle::sizeFromContents(type, option, contents, widget).expandedTo(least);
+      }
       default:
         return QProxyStyle::sizeFromContents(type, option, contents, widget);
     }
