@@ -64,12 +64,16 @@ class ContentArea final : public QScrollArea {
   }
 
  private:
-  // The whole of it with the ring around it, or at least the caret in it.
+  // The whole of it with the ring around it, or at least its beginning and the caret in it.
   void Reveal(QWidget& part) {
-    const QPoint middle = part.mapTo(widget(), part.rect().center());
-    const QSize half = part.size() / 2 + QSize(1, 1) * (fontMetrics().height() / 2);
-    ensureVisible(middle.x(), middle.y(), half.width(), half.height());
+    const QPoint place = part.mapTo(widget(), QPoint());
+    Reveal(*horizontalScrollBar(), place.x(), part.width(), viewport()->width());
+    Reveal(*verticalScrollBar(), place.y(), part.height(), viewport()->height());
     ensureWidgetVisible(&part, 0, 0);
+  }
+  void Reveal(QScrollBar& bar, int begin, int length, int room) const {
+    const int ring = std::clamp((room - length) / 2, 0, fontMetrics().height() / 2);
+    bar.setValue(qMin(qMax(bar.value(), begin + length + ring - room), begin - ring));
   }
 
   // What the scroll bars take of the width and the height where the room is smaller than the least.
