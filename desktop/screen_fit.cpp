@@ -100,18 +100,6 @@ void MoveContentIntoArea(QWidget& window) {
   rows->addWidget(area);
 }
 
-// The frame of a window is known when it has been shown. Before, it is taken for that of the window
-// it belongs to, or for a generous one.
-QMargins FrameOf(const QWidget& window) {
-  const QWindow* handle = window.windowHandle();
-  for (; handle != nullptr; handle = handle->transientParent()) {
-    const QMargins frame = handle->frameMargins();
-    if (!frame.isNull()) return frame;
-  }
-  const int line = window.fontMetrics().height();
-  return {line / 4, 2 * line, line / 4, line / 4};
-}
-
 QRect OpeningPlace(const QWidget& window) {
   QRect place = window.geometry();
   if (window.testAttribute(Qt::WA_Moved)) return place;
@@ -134,8 +122,11 @@ QRect Inside(QRect place, const QRect& room) {
   return place;
 }
 
+// The frame itself is known only when a window has been shown, too late for its size.
 QRect RoomFor(const QWidget& window) {
-  return window.screen()->availableGeometry().marginsRemoved(FrameOf(window));
+  const int line = window.fontMetrics().height();
+  const QMargins generous(line / 2, 5 * line / 2, line / 2, line / 2);
+  return window.screen()->availableGeometry().marginsRemoved(generous);
 }
 
 void FitToScreen(QWidget& window) {

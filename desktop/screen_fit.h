@@ -11,7 +11,7 @@ namespace tarnwick {
 // A place moved, and where it must be made smaller, so that it lies inside the room.
 QRect Inside(QRect place, const QRect& room);
 
-// The part of its screen that a window can fill without its frame lying outside, in
+// The part of its screen that a window can fill without a usual frame lying outside, in
 // device-independent pixels.
 QRect RoomFor(const QWidget& window);
 

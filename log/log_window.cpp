@@ -14,7 +14,7 @@ namespace {
 constexpr std::size_t kCapacity = 1'000'000;  // characters
 
 // Places and sizes in twips.
-constexpr Rectangle kInitialSize{0, 0, 15000, 6600};
+constexpr Rectangle kInitialSize{0, 0, 13200, 6600};
 constexpr int kMargin = 150;
 constexpr int kTextMargins = 300;   // left and right of the text
 constexpr int kBelowText = 700;     // beside the height of the buttons
