@@ -56,8 +56,9 @@ int main(int argc, char** argv) {
   tarnwick::HelpView help_view(form.help_window, gate);
   tarnwick::CreditsView credits_view(form.help_window.credits_window, gate);
   tarnwick::NoticeView notice_view(form.notice, gate);
-  for (QWidget* window : std::initializer_list<QWidget*>{
-           &log_view, &log_preferences_view, &calendar_view, &help_view, &credits_view, &notice_view}) {
+  for (QWidget* window :
+       std::initializer_list<QWidget*>{&log_view, &log_preferences_view, &calendar_view, &help_view,
+                                       &credits_view, &notice_view}) {
     tarnwick::BelongTo(*window, view);
   }
   gate.Run([&] { form.Load(); });
