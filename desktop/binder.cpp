@@ -38,7 +38,7 @@ QString ShownCaption(const Label& label) {
 
 // What the control is for and, in its own window, the keys that click it.
 QString ToolTipOf(const Control& control) {
-  const QString text = ToQt(control.ToolTipText());
+  QString text = ToQt(control.ToolTipText());
   for (const Shortcut& shortcut : control.Owner().Shortcuts()) {
     if (shortcut.control != &control) continue;
     const QString keys = ToKeySequence(shortcut.keys).toString(QKeySequence::NativeText);
