@@ -7,13 +7,9 @@
 #include <algorithm>
 
 #include "calendars/calendar_table.h"
-#include "desktop/calendar_view.h"
-#include "desktop/help_view.h"
-#include "desktop/log_preferences_view.h"
-#include "desktop/log_window_view.h"
 #include "desktop/platform.h"
 #include "desktop/qt_desktop.h"
-#include "tests/desktop/shown_main_window.h"
+#include "tests/desktop/all_windows.h"
 #include "tests/desktop/suites.h"
 
 namespace tarnwick {
@@ -34,7 +30,7 @@ class AccessibleTest : public QObject {
 namespace {
 
 // Every window of the program.
-struct Windows {
+struct Windows : AllWindows {
   Windows() {
     for (Form* form : main.screen.Forms()) {
       if (form != &main.form.notice) form->Show();
@@ -45,14 +41,6 @@ struct Windows {
     main.form.search.lblSearching.SetVisible(true);
     main.form.search.lblActualEclipseData.SetCaption("Partial lunar eclipse\r\n");
   }
-
-  MainWindow main;
-  LogWindowView log{main.form.log.log_window, main.gate};
-  LogPreferencesView preferences{main.form.log.log_preferences, main.gate};
-  CalendarView calendar{main.form.calendar.calendar_window, main.gate};
-  HelpView help{main.form.help_window, main.gate};
-  CreditsView credits{main.form.help_window.credits_window, main.gate};
-  NoticeView notice{main.form.notice, main.gate};
 };
 
 QWidget* WindowOf(const Form& form) {

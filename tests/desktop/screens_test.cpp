@@ -5,13 +5,9 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "desktop/calendar_view.h"
-#include "desktop/help_view.h"
-#include "desktop/log_preferences_view.h"
-#include "desktop/log_window_view.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/screen_fit.h"
-#include "tests/desktop/shown_main_window.h"
+#include "tests/desktop/all_windows.h"
 #include "tests/desktop/suites.h"
 
 namespace tarnwick {
@@ -35,7 +31,7 @@ namespace {
 QRect Available() { return QGuiApplication::primaryScreen()->availableGeometry(); }
 
 // All windows of the program, open.
-struct Windows {
+struct Windows : AllWindows {
   Windows() {
     main.view.move(Available().bottomRight() - QPoint(200, 100));
     for (QWidget* window : Secondary()) BelongTo(*window, main.view);
@@ -54,14 +50,6 @@ struct Windows {
 
   QList<QWidget*> Secondary() { return {&log, &preferences, &calendar, &help, &credits}; }
   QList<QWidget*> All() { return Secondary() << &main.view; }
-
-  MainWindow main;
-  LogWindowView log{main.form.log.log_window, main.gate};
-  LogPreferencesView preferences{main.form.log.log_preferences, main.gate};
-  CalendarView calendar{main.form.calendar.calendar_window, main.gate};
-  HelpView help{main.form.help_window, main.gate};
-  CreditsView credits{main.form.help_window.credits_window, main.gate};
-  NoticeView notice{main.form.notice, main.gate};
 };
 
 void VerifyInside(const QWidget& window) {
