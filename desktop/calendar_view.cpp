@@ -62,24 +62,20 @@ class CellView final : public LinkLabel {
         QPalette::Window);  // else the texts in it would have the colour of a button's
   }
 
-  QSize sizeHint() const override { return QWidget::sizeHint(); }
-  QSize minimumSizeHint() const override { return QWidget::minimumSizeHint(); }
+  QSize sizeHint() const override { return layout()->totalSizeHint(); }
+  QSize minimumSizeHint() const override { return layout()->totalMinimumSize(); }
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
     const bool current = date_.ForeColor() == kSelectedColor;
     const double radius = fontMetrics().height() / 3.0;
-    const QRectF ground = QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5);
+    const QRectF ground = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(current ? Look::kCurrentBar : underMouse() ? Look::kCaption : Look::kPanelEdge);
     painter.setBrush(isDown() ? Look::kPanel : Look::kSky);
     painter.drawRoundedRect(ground, radius, radius);
     if (current) PaintBar(painter, ground, radius);
-    if (!hasFocus()) return;
-    painter.setPen(QPen(Look::kFocusRing, 2));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius + 2, radius + 2);
   }
 
   void keyPressEvent(QKeyEvent* event) override {
@@ -167,7 +163,7 @@ QWidget* CalendarView::MakePage() {
   rows->addSpacing(space);
 
   auto* grid = new QGridLayout;
-  grid->setSpacing(space / 4);
+  grid->setSpacing(space);  // the ring of the focus stands between the cells
   AddHeadings(*grid, page);
   for (int i = 0; i < kGridCells; ++i) {
     const int row = 1 + i / kGridColumns;
@@ -195,7 +191,7 @@ void CalendarView::AddHeadings(QGridLayout& grid, QWidget* page) {
     SetTextColor(*heading, Look::kCaption);
     grid.addWidget(heading, 0, column);
     grid.setColumnStretch(column, 1);
-    grid.setColumnMinimumWidth(column, widest + 3 * Spacing(*this));
+    grid.setColumnMinimumWidth(column, widest + 2 * Spacing(*this));
   }
 }
 
@@ -205,7 +201,7 @@ QWidget* CalendarView::MakeCell(std::size_t index, QWidget* page) {
   binder_.Bind(form_.lblDate[index], *cell);
   const int space = Spacing(*this);
   auto* rows = new QVBoxLayout(cell);
-  rows->setContentsMargins(space, space + space / 2, space, space);
+  rows->setContentsMargins(space / 2, space + space / 2, space / 2, space);
   rows->setSpacing(space / 4);
 
   auto* picture = new PictureView(kPictureLines, cell);
