@@ -24,12 +24,13 @@ else
   export WINEPREFIX=$root/build/wine
 fi
 
-# make_prefix: a new one says that it is Windows 7, and lacks the fonts that Windows has.
+# make_prefix: a new one says that it is Windows 7, and lacks the fonts that Windows has. The windows
+# under test are not managed, since Wine waits two seconds a window for a manager that is not there.
 make_prefix() {
   mkdir -p "$WINEPREFIX"
   "$wine" wineboot -i
   "$wine" winecfg -v win10
-  "$wine" regedit /S "$root/scripts/wine-fonts.reg"
+  "$wine" regedit /S "$root/scripts/wine.reg"
   wineserver -w
   touch "$WINEPREFIX/.ready"
 }
