@@ -95,7 +95,7 @@ Wording Binder::WordingOf(const Control& control) const {
 // What a screen reader says: what the control is, then what it shows, unless that is a mere sign.
 QString Binder::SpokenName(const CaptionedControl& control) const {
   const std::string spoken(WordingOf(control).spoken);
-  const QString shown = ToQt(control.Caption());
+  QString shown = ToQt(control.Caption());
   if (spoken.empty()) return shown;
   const bool readable =
       std::any_of(shown.begin(), shown.end(), [](QChar c) { return c.isLetterOrNumber(); });

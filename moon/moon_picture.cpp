@@ -116,8 +116,9 @@ std::uint32_t Changed(std::uint32_t pixel, const Factors& factors) {
     const unsigned shift = 8 * i;
     const auto sky = static_cast<float>((kMoonSky >> shift) & 0xffU);
     const auto value = static_cast<float>((pixel >> shift) & 0xffU);
-    const float lit = std::clamp(sky + (value - sky) * factors[i], 0.0F, 255.0F);
-    changed |= static_cast<std::uint32_t>(lit + 0.5F) << shift;
+    // Half a step is added, since the conversion cuts off what is behind the point.
+    const float lit = std::clamp(sky + (value - sky) * factors[i] + 0.5F, 0.5F, 255.5F);
+    changed |= static_cast<std::uint32_t>(lit) << shift;
   }
   return changed;
 }
