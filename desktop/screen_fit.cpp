@@ -15,6 +15,9 @@
 namespace tarnwick {
 namespace {
 
+// Of a window's size this much may be lost by rounding where the scaling is no whole number.
+constexpr QSize kRounding(1, 1);
+
 // The content of a window. The window grows and shrinks as if there were no scrolling, as long as
 // the screen has room for it.
 class ContentArea final : public QScrollArea {
@@ -40,11 +43,11 @@ class ContentArea final : public QScrollArea {
     });
   }
 
-  QSize sizeHint() const override { return widget()->sizeHint(); }
+  QSize sizeHint() const override { return widget()->sizeHint() + kRounding; }
   QSize minimumSizeHint() const override {
     const QSize room = RoomFor(*window()).size();
     const QSize least = widget()->minimumSizeHint();
-    return (least + BarsFor(least, room)).boundedTo(room);
+    return (least + BarsFor(least, room) + kRounding).boundedTo(room);
   }
 
  protected:
