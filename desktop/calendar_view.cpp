@@ -40,15 +40,9 @@ constexpr int kEventLines = 3;  // a phase, and an eclipse that takes two
 constexpr char kLongestDate[] = "10-3 Mellephan.";
 constexpr char kLongestEventLine[] = "Non-central annular";
 
-QFont Resized(const QFont& font, double factor) {
-  QFont resized = font;
-  resized.setPointSizeF(factor * font.pointSizeF());
-  return resized;
-}
-
 QLabel* MakeText(double size, QWidget* parent) {
   auto* text = new QLabel(parent);
-  text->setFont(Resized(text->font(), size));
+  text->setFont(Scaled(text->font(), size));
   text->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   return text;
 }
@@ -180,7 +174,7 @@ QWidget* CalendarView::MakePage() {
 }
 
 void CalendarView::AddHeadings(QGridLayout& grid, QWidget* page) {
-  const QFontMetrics small(Resized(font(), kSmall));
+  const QFontMetrics small(Scaled(font(), kSmall));
   const int widest = qMax(fontMetrics().horizontalAdvance(kLongestDate),
                           small.horizontalAdvance(kLongestEventLine));
   for (int column = 0; column < kGridColumns; ++column) {
