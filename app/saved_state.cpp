@@ -4,7 +4,6 @@
 #include "app/main_window.h"
 #include "controls/save_path.h"
 #include "controls/text_file.h"
-#include "navigation/target.h"
 
 namespace tarnwick {
 namespace {
@@ -22,11 +21,11 @@ StateRecord MarkerRecord() {
 }
 
 // A run never begins with the search for the same saros; any eclipse takes its place.
-StateRecord TargetRecord(ComboBox& list) {
-  StateRecord record = RecordOf(list);
-  record.read = [&list, read = record.read](StateReader& reader) {
+StateRecord TargetRecord(SearchSection& search) {
+  StateRecord record = RecordOf(search.cboTarget);
+  record.read = [&search, read = record.read](StateReader& reader) {
     if (!read(reader)) return false;
-    if (list.ListIndex() == kSameSarosTarget) list.SetListIndex(kAnyEclipseTarget);
+    search.LeaveSameSaros();
     return true;
   };
   return record;
@@ -84,7 +83,7 @@ std::vector<StateRecord> frmMain::StateRecords() {
       RecordOf(search.optNext, search.optPrevious),
       RecordOf(time.optGreenwich, time.optLocal),
       RecordOf(move.cboMoveStep),
-      TargetRecord(search.cboTarget),
+      TargetRecord(search),
       RecordOf(time.cboTimeZone),
       RecordOf(move.cboRefreshPeriod),
       RecordOf(move.chkRepeatedly),

@@ -9,7 +9,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "controls/choice.h"
 #include "desktop/bound_widgets.h"
 #include "desktop/characters.h"
 #include "desktop/link_label.h"
@@ -61,7 +60,7 @@ class CellView final : public LinkLabel {
 
  protected:
   void paintEvent(QPaintEvent* /*event*/) override {
-    const bool current = date_.ForeColor() == kSelectedColor;
+    const bool current = date_.Selected();
     const double radius = fontMetrics().height() / 3.0;
     const QRectF ground = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
     QPainter painter(this);

@@ -6,7 +6,6 @@
 #include <algorithm>
 
 #include "calendars/calendar_table.h"
-#include "controls/choice.h"
 #include "desktop/event_hook.h"
 #include "desktop/link_label.h"
 #include "desktop/look.h"
@@ -70,8 +69,8 @@ void DatesView::AddRow(ValueLabel& label, QGridLayout& rows) {
     return false;
   });
 
-  Mirror(label[1], Property::kForeColor, *caption, [this, caption, date, &value = label[1]] {
-    const bool current = value.ForeColor() == kSelectedColor;
+  Mirror(label[1], Property::kSelected, *caption, [this, caption, date, &value = label[1]] {
+    const bool current = value.Selected();
     SetTextColor(*caption, current ? Look::kFieldText : Look::kCaption);
     if (current) current_ = date;
     if (!current && current_ == date) current_ = nullptr;
