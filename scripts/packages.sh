@@ -1,7 +1,8 @@
 #!/bin/bash
 # Installs what is missing of the named groups of Debian packages.
 # usage: scripts/packages.sh GROUP...     groups: run, screen, test, windows, windows-qt,
-#                                           package-windows, package-linux, drive, check
+#                                           package-windows, package-linux, faults,
+#                                           drive, check
 set -euo pipefail
 
 packages_of() {
@@ -13,6 +14,7 @@ packages_of() {
     windows-qt) echo g++ g++-mingw-w64-x86-64-posix qt6-base-dev cmake ninja-build dpkg-dev patch xz-utils ;;
     package-windows) echo zip nsis ;;
     package-linux) echo dpkg-dev file ;;
+    faults) echo python3 xvfb xdotool util-linux mount ;;
     drive) echo openbox xdotool imagemagick unzip ;;
     check) echo clang-format clang-tidy ;;
     *)
