@@ -71,7 +71,8 @@ int OwnFolder::RemoveOthers(std::chrono::seconds age) const {
     std::error_code gone;
     const fs::file_time_type made = fs::last_write_time(at->path(), gone);
     if (gone) continue;
-    if (now - made > age) {
+    // One that seems to be made later has been left behind before the clock was set back.
+    if (std::chrono::abs(now - made) > age) {
       Remove(at->path());
     } else {
       ++left;

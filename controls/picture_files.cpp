@@ -9,7 +9,7 @@ namespace tarnwick {
 std::filesystem::path PictureFiles::Find(const std::filesystem::path& name) {
   std::filesystem::path file = desktop_.ProgramFolder() / "assets" / name;
   std::error_code error;
-  if (std::filesystem::exists(file, error)) return file;
+  if (std::filesystem::is_regular_file(file, error)) return file;
   if (!std::exchange(reported_, true)) {
     const std::u8string text = file.u8string();
     desktop_.ShowMessage({"Picture not found: " + std::string(text.begin(), text.end()), "Error",

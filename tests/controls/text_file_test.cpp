@@ -139,9 +139,14 @@ TEST_F(TextFile, OldDraftsAndTurnsOfOursAreRemoved) {
   };
   using namespace std::chrono_literals;
   constexpr Case kTable[] = {
-      {".tnwk-draft-0123456789abcdef", 25h, false}, {".tnwk-draft-fedcba9876543210", 23h, true},
-      {".tnwk-draft-fedcba987654321", 25h, true},   {".tnwk-draft-0123456789ABCDEF", 25h, true},
+      {".tnwk-draft-0123456789abcdef", 25h, false},
+      {".tnwk-draft-fedcba9876543210", 23h, true},
+      {".tnwk-draft-fedcba987654321", 25h, true},
+      {".tnwk-draft-0123456789ABCDEF", 25h, true},
       {".tnwk-turn-0123456789abcdef", 11s, false},
+      // The clock has been set back.
+      {".tnwk-draft-0123456789abcdee", -25h, false},
+      {".tnwk-turn-0123456789abcdee", -11s, false},
   };
   for (const auto& [name, age, stays] : kTable) {
     fs::create_directory(folder_ / name);
