@@ -63,6 +63,9 @@ class frmMain final : public Form {
   void Form_Unload(bool& cancel) override;
   void Form_KeyPress(int& key) override;
 
+  // What Quit saves, where nobody can be told of an error any more.
+  void SaveSilently();
+
  private:
   void WireSession();
   void ConnectHandlers();

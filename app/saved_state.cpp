@@ -134,6 +134,11 @@ void frmMain::SaveAll() {
   desktop_.ShowMessage({text, title, MessageIcon::kExclamation});
 }
 
+void frmMain::SaveSilently() {
+  WriteState();
+  log.log_window.Keep();
+}
+
 void frmMain::cmdSaveState_Click() {
   const std::string error = WriteState();
   if (!error.empty()) {

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <string_view>
 
 #include "app/main_window.h"
 #include "controls/form.h"
@@ -32,10 +33,45 @@ namespace {
   std::_Exit(EXIT_FAILURE);
 }
 
+// Where Qt finds no display it ends the program by a fault. What it says of displays first is the
+// cause.
+void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  static QString cause;
+  if (type == QtFatalMsg) {
+    std::cerr << "tarnwick: no window can be opened: " << tarnwick::FromQt(cause) << std::endl;
+    std::_Exit(EXIT_FAILURE);
+  }
+  if (!std::string_view(context.category).starts_with("qt.qpa.")) {
+    std::cerr << tarnwick::FromQt(qFormatLogMessage(type, context, text)) << std::endl;
+  } else if (cause.isEmpty()) {
+    cause = text.trimmed();
+  }
+}
+
+// Where the display is taken away Qt ends the program too, by std::exit. As long as this object
+// lives, what Quit would have saved is saved then.
+class SaverAtExit {
+ public:
+  explicit SaverAtExit(tarnwick::frmMain& form) {
+    form_ = &form;
+    std::atexit([] {
+      if (form_ != nullptr) form_->SaveSilently();
+    });
+  }
+  ~SaverAtExit() { form_ = nullptr; }
+  SaverAtExit(const SaverAtExit&) = delete;
+  SaverAtExit& operator=(const SaverAtExit&) = delete;
+
+ private:
+  static inline tarnwick::frmMain* form_ = nullptr;
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  const QtMessageHandler usual_handler = qInstallMessageHandler(EndWithoutDisplay);
   QApplication application(argc, argv);
+  qInstallMessageHandler(usual_handler);
   QApplication::setApplicationName("tarnwick");
   QApplication::setQuitOnLastWindowClosed(false);  // the main window's form ends the program
   QApplication::setDesktopFileName("tarnwick");
@@ -62,5 +98,6 @@ int main(int argc, char** argv) {
     tarnwick::BelongTo(*window, view);
   }
   gate.Run([&] { form.Load(); });
+  const SaverAtExit saver(form);
   return gate.IsOpen() ? QApplication::exec() : EXIT_SUCCESS;
 }
