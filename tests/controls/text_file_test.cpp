@@ -10,7 +10,9 @@
 #include <thread>
 #include <vector>
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include <windows.h>
+#else
 #include <chrono>
 #include <csignal>
 #include <sys/resource.h>
@@ -213,6 +215,26 @@ TEST_F(TextFile, KillDuringAWriteLeavesAWholeFile) {
   // The kills did strike, inside writes and after either of the two.
   EXPECT_GT(drafts_left, 0U);
   EXPECT_THAT(found, testing::Each(testing::Gt(0)));
+}
+
+#else
+
+TEST_F(TextFile, FileThatAnotherProgramHoldsStaysAndIsWrittenOnceItIsFree) {
+  std::string text = "earlier\n";
+  Put(file_, text);
+  for (const DWORD shared : {0, FILE_SHARE_READ, FILE_SHARE_READ | FILE_SHARE_WRITE}) {
+    const HANDLE held = CreateFileW(file_.c_str(), GENERIC_READ, shared, nullptr, OPEN_EXISTING,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    ASSERT_NE(held, INVALID_HANDLE_VALUE);
+    EXPECT_NE(WriteTextFile(file_, "text"), "") << shared;
+    EXPECT_NE(AppendToTextFile(file_, "text"), "") << shared;
+    CloseHandle(held);
+    EXPECT_EQ(Read(file_), text) << shared;
+    EXPECT_EQ(Names().size(), 1U) << shared;
+    EXPECT_EQ(AppendToTextFile(file_, "more\n"), "");
+    text += "more\n";
+    EXPECT_EQ(Read(file_), text);
+  }
 }
 
 #endif
