@@ -77,7 +77,7 @@ TEST_F(TextFile, WhatIsNoFileToBeWrittenIsRefusedAndStays) {
   fs::create_directory(folder);
   std::vector<fs::path> refused = {file_, folder, folder_ / "none" / "log.txt"};
 #ifndef _WIN32
-  refused.insert(refused.end(), {folder_ / "fifo", folder_ / "loop", "/dev/null"});
+  refused.insert(refused.end(), {folder_ / "fifo", folder_ / "loop"});
   ASSERT_EQ(mkfifo(refused[3].c_str(), 0600), 0);
   fs::create_symlink(refused[4], refused[4]);
 #endif

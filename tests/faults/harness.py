@@ -45,6 +45,7 @@ class Workshop:
     def __exit__(self, *error):
         for folder in reversed(self.mounted):
             subprocess.run(["umount", "--lazy", folder], check=True, timeout=PATIENCE)
+        subprocess.run(["chmod", "-R", "u+rwX", self.folder], check=True, timeout=PATIENCE)
         shutil.rmtree(self.folder)
 
     def mount(self, folder, *options):
@@ -83,11 +84,12 @@ def additions(text):
 
 
 def look_of(path):
-    """Kind, permissions and, of an ordinary file, what is in it."""
+    """Kind, permissions and, of an ordinary file that can be read, what is in it."""
     status = path.lstat()
     if stat.S_ISLNK(status.st_mode):
         return status.st_mode, os.readlink(path)
-    return status.st_mode, path.read_bytes() if stat.S_ISREG(status.st_mode) else None
+    readable = stat.S_ISREG(status.st_mode) and os.access(path, os.R_OK)
+    return status.st_mode, path.read_bytes() if readable else None
 
 
 def everything_in(folder):

@@ -39,7 +39,7 @@ def main():
     options.add_argument("bin", type=Path)
     options.add_argument("--no-skips", action="store_true")
     options.add_argument("word", nargs="?", default="")
-    options = options.parse_args()
+    options = options.parse_intermixed_args()
     count = {"passed": 0, "failed": 0, "SKIPPED": 0}
     for name, case in [*files.cases(), *kills.cases(), *desktop.cases()]:
         if options.word not in name:
