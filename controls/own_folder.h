@@ -22,7 +22,8 @@ class OwnFolder {
   std::filesystem::path File() const { return FileIn(path_); }
 
   // Removes the other folders of that prefix that have been left behind: those made more than
-  // `age` before this one, or after it, by the file system's own clock. Returns how many others there still are.
+  // `age` before this one, or after it, by the file system's own clock. Returns how many others
+  // there still are.
   int RemoveOthers(std::chrono::seconds age) const;
 
  private:
