@@ -137,9 +137,7 @@ std::optional<std::filesystem::path> frmLog::FileToKeepIn() const {
 std::string frmLog::Keep() {
   const auto file = FileToKeepIn();
   if (!file) return {};
-  std::string error = AppendToTextFile(*file, KeptLogText(desktop_.ReadClock(), txbText.Text()));
-  blnSaved = error.empty();
-  return error;
+  return AppendToTextFile(*file, KeptLogText(desktop_.ReadClock(), txbText.Text()));
 }
 
 // The system's close box takes the text out of the window; the next entry begins the log anew. It
