@@ -41,6 +41,7 @@ TEST(PhaseOfMoonText, ChangesAtItsThresholds) {
       {0.5499, false, "Half moon (waning)"},
       {0.55, true, "Gibbous moon (waxing)"},
       {0.99, true, "Full moon (waxing)"},
+      {0.9994, false, "Full moon (waning)"},
       {0.9996, true, "Full moon"},
   };
   for (const auto& [fraction, waxing, text] : cases) {
