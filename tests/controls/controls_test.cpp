@@ -166,5 +166,20 @@ TEST_F(Controls, HidingTheActiveWindowReturnsToTheMainOne) {
   EXPECT_EQ(form.activations, 2);
 }
 
+TEST_F(Controls, HidingTheActiveWindowReturnsToItsOpenerIfThatIsStillShown) {
+  TestForm second(screen, "frmSecond");
+  TestForm third(screen, "frmThird");
+  form.Show();
+  second.Show();
+  third.Show();
+  third.Show();  // as when it is restored
+  third.Hide();
+  EXPECT_TRUE(second.IsActive());
+  third.Show();
+  second.Hide();
+  third.Hide();
+  EXPECT_TRUE(form.IsActive());
+}
+
 }  // namespace
 }  // namespace tarnwick

@@ -172,6 +172,11 @@ void AccessibleTest::currentCalendarIsAState() {
   }
   QCOMPARE(CountOf(QAccessible::StateChanged, "Kestrin-Sarvik Goddess Calendar date"), 1);
   QCOMPARE(CountOf(QAccessible::StateChanged, "Common Era date"), 1);
+  events.clear();
+  ListenToEvents(NoteEvent);
+  form.move.cmdMove.Click();
+  ListenToEvents(QAccessible::updateAccessibility);
+  QCOMPARE(CountOf(QAccessible::ValueChanged, "Common Era date"), 1);
   // A click on a day marks it only by making it the current one.
   form.calendar.cmdDisplayCalendar.Click();
   frmCalendar& page = form.calendar.calendar_window;

@@ -68,6 +68,8 @@ void BinderTextTest::selectionCountsCharacters() {
   edit.setSelection(3, 2);
   QCOMPARE(box.SelStart(), std::size_t{2});
   QCOMPARE(box.SelText(), "bc");
+  edit.setSelection(1, 2);
+  QCOMPARE(box.SelText(), FromQt(kMoon));
   edit.setSelection(5, -4);  // made from right to left, and left so
   QCOMPARE(box.SelText(), FromQt(kMoon + "bc"));
   QCOMPARE(edit.cursorPosition(), 1);

@@ -113,6 +113,20 @@ TEST(MoonPicture, TerminatorIsAHalfEllipse) {
   }
 }
 
+// Its own mirror image is drawn but once.
+TEST(MoonPicture, MiddleRowIsAsBrightAsTheNext) {
+  constexpr int kWidth = 101;
+  const std::vector<std::uint32_t> pixels = Draw(kWidth, 0.7, true);
+  const auto brightness = [&](int row) {
+    double sum = 0;
+    for (int i = 0; i < kWidth; ++i) {
+      sum += (pixels[static_cast<std::size_t>(row * kWidth + i)] >> 16U) & 0xffU;
+    }
+    return sum;
+  };
+  EXPECT_NEAR(brightness(50) / brightness(49), 1, 0.01);
+}
+
 TEST(MoonPicture, SkyStays) {
   constexpr int kWidth = 100;
   constexpr int kPixels = kWidth * kWidth;

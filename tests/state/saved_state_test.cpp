@@ -318,6 +318,16 @@ TEST_F(SavedState, MomentBeyondALimitIsKeptAtTheLimit) {
   }
 }
 
+TEST_F(SavedState, CanBeSavedAgainOnceAnythingOfItHasChanged) {
+  const std::string save = "click cmdSaveState\nget cmdSaveState.Enabled\n";
+  const std::string ask = "get cmdSaveState.Enabled\n";
+  EXPECT_THAT(Answers("start\nclick cmdLogPreferences\n" + save +
+                      "set txbDate nonsense\nclick cmdCompute\n" + ask +
+                      "set frmLogPreferences.chkIncludeKSG 0\n" + ask + save + "click optMinus\n" +
+                      ask + save + "click cmdClearDate\nclick cmdMove\n" + ask),
+              testing::ElementsAre("0", "0", "1", "0", "1", "0", "1"));
+}
+
 constexpr char kComplaint[] = "exclamation|ok|Save state|Error when attempting to save the state: ";
 
 TEST_F(SavedState, FailedWriteIsTold) {
