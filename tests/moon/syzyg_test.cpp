@@ -51,6 +51,7 @@ TEST_F(Lunations, GetPhaseTellsALunationThatDoesNotFit) {
   const UniversalTime moment = PhaseTime(100, 2);
   ExpectPhase(GetPhase(99, moment), -1, false);
   ExpectPhase(GetPhase(101, moment), -2, false);
+  ExpectPhase(GetPhase(99, PhaseTime(100, kNewMoon)), -1, false);
   ExpectPhase(PhaseAt(100, Syzygy(100, 2)), 2, true);
 }
 
