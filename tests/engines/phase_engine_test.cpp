@@ -151,6 +151,7 @@ TEST(DeltaT, FollowsObservationsAndTheLongTermParabola) {
       // The middle of the cubic between 2027 and 2827, from its values and slopes at both ends.
       {2426.5, (69.10 - 320 + 32.5 * 10.02 * 10.02) / 2 + 100 * (0.05 - 0.65 * 10.02), 0.01},
       {2827, -320 + 32.5 * 10.025 * 10.025, 0.01},
+      {2899.5, -320 + 32.5 * 10.75 * 10.75, 0.01},
       {5999.5, -320 + 32.5 * 41.75 * 41.75, 0.01},
       // Between the knots, to half a unit of the last place of docs/astronomy.md.
       {-3200, 22 * 3600 + 39 * 60, 30},
