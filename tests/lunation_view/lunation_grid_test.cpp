@@ -96,8 +96,7 @@ TEST(LunationGridTest, IsTitledByTheMonthOfMostOfItsDays) {
         Case{49, 1, "Lunation 49 (Julius 33-23)", "33-23 - Julius", "1 Julius"},
         Case{49, 2, "Lunation 49 (Freya 1-98)", "1-98 - Epona-Freya", "30 Epona"},
         Case{49, 3, "Lunation 49 (Amethes 103)", "103 - Mousanios-Amethes", "10-3 Mousanios"},
-        Case{-1200, 3, "Lunation -1200 (Mousanios -1-383)", "-1-383 - Mousanios",
-             "1-1 Mousanios"},
+        Case{-1200, 3, "Lunation -1200 (Mousanios -1-383)", "-1-383 - Mousanios", "1-1 Mousanios"},
         Case{49, 4, "Lunation 49 (Undefined calendar)", "", ""}}) {
     const LunationGrid grid = MakeLunationGrid(c.lunation, {c.calendar, 0});
     EXPECT_EQ(grid.title, c.title);
