@@ -1,6 +1,7 @@
 #include "tools/tables/tables.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <cstddef>
 #include <gtest/gtest.h>
@@ -181,35 +182,44 @@ TEST(Tables, ShowTheirProgress) {
   EXPECT_TRUE(err.str().ends_with("\r99 %\r     \r")) << err.str();
 }
 
-// A file on a disk with little room.
+// Takes no more than there is room for, and fails with an error.
 class SmallFile : public std::streambuf {
  public:
-  explicit SmallFile(int room) : room_(room) {}
+  SmallFile(int room, int error) : room_(room), error_(error) {}
 
  protected:
   int_type overflow(int_type character) override {
-    return room_-- > 0 ? traits_type::not_eof(character) : traits_type::eof();
+    if (room_-- > 0) return traits_type::not_eof(character);
+    errno = error_;
+    return traits_type::eof();
   }
-  int sync() override { return room_ > 0 ? 0 : -1; }
+  int sync() override {
+    errno = error_;
+    return room_ > 0 ? 0 : -1;
+  }
 
  private:
   int room_;
+  int error_;
 };
 
 TEST(Tables, StopAtOnceWhenTheOutputTakesNoMore) {
-  SmallFile file(1000);
-  std::ostream out(&file);
-  std::ostringstream err;
-  EXPECT_EQ(RunTables(Arguments{"phases", "2000", "2100"}, out, err, true), kOutputClosed);
-  EXPECT_EQ(err.str(), "\r0 %\r     \r");
-}
-
-TEST(Tables, FailWhenTheLastRowsAreLost) {
   const auto length = static_cast<int>(Print({"dates", "2000", "2001"}).size());
-  SmallFile file(length);
+  for (const int room : {1000, length}) {
+    for (const bool pipe_closed : {true, false}) {
+      SmallFile file(room, pipe_closed ? EPIPE : ENOSPC);
+      std::ostream out(&file);
+      std::ostringstream err;
+      EXPECT_EQ(RunTables(Arguments{"dates", "2000", "2001"}, out, err, false), kCannotWrite);
+      const std::string told = "tarnwick_tables: cannot write the table: No space left on device\n";
+      EXPECT_EQ(err.str(), pipe_closed ? "" : told) << room;
+    }
+  }
+  SmallFile file(1000, EPIPE);
   std::ostream out(&file);
   std::ostringstream err;
-  EXPECT_EQ(RunTables(Arguments{"dates", "2000", "2001"}, out, err, false), kOutputClosed);
+  EXPECT_EQ(RunTables(Arguments{"phases", "2000", "2100"}, out, err, true), kCannotWrite);
+  EXPECT_EQ(err.str(), "\r0 %\r     \r");
 }
 
 }  // namespace

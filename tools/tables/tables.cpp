@@ -1,10 +1,12 @@
 #include "tools/tables/tables.h"
 
 #include <array>
+#include <cerrno>
 #include <charconv>
 #include <cstdint>
 #include <ostream>
 #include <string>
+#include <system_error>
 
 #include "calendars/calendar_table.h"
 #include "calendars/date_processing.h"
@@ -198,6 +200,15 @@ int Refuse(std::ostream& err, std::string_view why) {
   return kBadArguments;
 }
 
+// Whoever closes the pipe has read enough; any other error is told.
+int ReportFailedWrite(std::ostream& err, int error) {
+  if (error != EPIPE) {
+    err << "tarnwick_tables: cannot write the table: " << std::generic_category().message(error)
+        << '\n';
+  }
+  return kCannotWrite;
+}
+
 }  // namespace
 
 int RunTables(std::span<const std::string_view> arguments, std::ostream& out, std::ostream& err,
@@ -216,8 +227,9 @@ int RunTables(std::span<const std::string_view> arguments, std::ostream& out, st
   const Period period{NewYear(from), NewYear(to)};
   Printer printer(period, out, shows_progress ? &err : nullptr);
   const bool done = command->print(period, printer) && out.flush().good();
+  const int error = errno;  // progress may change it
   if (shows_progress) err << "\r     \r";
-  return done ? kTablesDone : kOutputClosed;
+  return done ? kTablesDone : ReportFailedWrite(err, error);
 }
 
 }  // namespace tarnwick
