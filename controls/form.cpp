@@ -34,6 +34,14 @@ Form::~Form() {
 
 Control* Form::Find(std::string_view name) const { return FindByName(controls_, name); }
 
+void Form::SetBounds(const Rectangle& bounds) {
+  constexpr int kMost = kLargestLength;
+  const Rectangle bounded{std::clamp(bounds.left, -kMost, kMost),
+                          std::clamp(bounds.top, -kMost, kMost), std::clamp(bounds.width, 0, kMost),
+                          std::clamp(bounds.height, 0, kMost)};
+  Assign(bounds_, bounded, Property::kBounds);
+}
+
 void Form::Load() {
   if (std::exchange(loaded_, true)) return;
   Form_Load();

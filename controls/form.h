@@ -31,6 +31,10 @@ struct Shortcut {
   Control* control = nullptr;
 };
 
+// The largest side of a window, in twips, and its largest distance from the screen's corner: far
+// more than any screen has, and small enough to be added and multiplied.
+inline constexpr int kLargestLength = 1'000'000;
+
 // A window: its controls by name, its focus and its own events. A form handles an event by
 // overriding it.
 class Form : public Observable {
@@ -46,7 +50,8 @@ class Form : public Observable {
   void SetCaption(std::string caption) { Assign(caption_, std::move(caption), Property::kCaption); }
 
   const Rectangle& Bounds() const { return bounds_; }
-  void SetBounds(const Rectangle& bounds) { Assign(bounds_, bounds, Property::kBounds); }
+  // Lengths beyond kLargestLength become that.
+  void SetBounds(const Rectangle& bounds);
 
   bool Visible() const { return visible_; }
   bool Minimised() const { return minimised_; }

@@ -1,6 +1,7 @@
 #include "controls/controls.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -47,6 +48,12 @@ TEST_F(Controls, AreFoundByNameArraysByIndex) {
   EXPECT_EQ(form.Find("lbl(1)"), &form.labels[1]);
   EXPECT_EQ(form.Find("lbl"), nullptr);
   EXPECT_EQ(screen.Find("frmTest"), &form);
+}
+
+TEST_F(Controls, AWindowHasBoundsThatCanBeAddedAndMultiplied) {
+  constexpr int kHuge = std::numeric_limits<int>::max();
+  form.SetBounds({-kHuge, kHuge, kHuge, -1});
+  EXPECT_EQ(form.Bounds(), (Rectangle{-kLargestLength, kLargestLength, kLargestLength, 0}));
 }
 
 TEST_F(Controls, SettingACheckBoxRunsItsHandlerOnlyOnAChange) {

@@ -25,10 +25,12 @@ std::pair<std::string_view, std::string_view> SplitWord(std::string_view text) {
   return {text.substr(0, blank), text.substr(blank + 1)};
 }
 
-int ParseNumber(std::string_view text, int least = std::numeric_limits<int>::min()) {
+int ParseNumber(std::string_view text, int least = std::numeric_limits<int>::min(),
+                int most = std::numeric_limits<int>::max()) {
   int number = 0;
   const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (status != std::errc() || end != text.data() + text.size() || number < least) {
+  if (status != std::errc() || end != text.data() + text.size() || number < least ||
+      number > most) {
     throw CommandError("no such number: " + std::string(text));
   }
   return number;
@@ -365,8 +367,8 @@ void Driver::Resize(std::string_view arguments) {
   const auto [name, size] = SplitWord(arguments);
   const auto [width, height] = SplitWord(size);
   Form& form = FindForm(name);
-  const int new_width = ParseNumber(width, 1);
-  form.Resize(new_width, ParseNumber(height, 1));
+  const int new_width = ParseNumber(width, 1, kLargestLength);
+  form.Resize(new_width, ParseNumber(height, 1, kLargestLength));
 }
 
 void Driver::Minimise(std::string_view name) { FindForm(name).Minimise(); }
