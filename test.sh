@@ -5,9 +5,11 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 
 usage() {
   cat >&2 <<'END'
-usage: ./test.sh [--sanitize | --windows] [--build-only]
+usage: ./test.sh [--sanitize | --windows | --coverage] [--build-only]
   --sanitize    with the address, leak and undefined behaviour sanitizers
   --windows     cross-built for Windows, run under Wine
+  --coverage    without the windows of the program; also tells how much of the code they reach, and shows
+                it in build/coverage/index.html
   --build-only  build, but run nothing
 END
   exit 2
@@ -17,7 +19,7 @@ preset=release
 build_only=false
 for option in "$@"; do
   case $option in
-    --sanitize | --windows)
+    --sanitize | --windows | --coverage)
       [[ $preset == release ]] || usage
       preset=${option#--}
       ;;
@@ -27,7 +29,7 @@ for option in "$@"; do
 done
 
 groups=(run test)
-[[ $preset == windows ]] && groups+=(windows)
+[[ $preset == windows || $preset == coverage ]] && groups+=("$preset")
 scripts/packages.sh "${groups[@]}"
 
 if [[ $preset == windows ]]; then
@@ -38,8 +40,13 @@ cmake --preset "$preset"
 cmake --build --preset "$preset"
 if $build_only; then exit 0; fi
 
+# Counts of an earlier run would be added to.
+[[ $preset == coverage ]] && find build/coverage -name '*.gcda' -delete
+
 code=0
 ctest --preset "$preset" -j "$(nproc)" || code=$?
+
+[[ $preset == coverage ]] && scripts/coverage-table.sh
 
 count=$(scripts/count-tests.awk "build/$preset/Testing/Temporary/LastTest.log")
 echo "$count"

@@ -160,7 +160,8 @@ std::string_view MonthName(std::int32_t month, std::int32_t language, bool abbre
 }
 
 std::string_view AnnusNovusDayName(std::int32_t day) {
-  return day < 1 ? "" : kAnnusNovusDays[static_cast<std::size_t>((day - 1) % 5)];
+  if (day < 1) return {};
+  return kAnnusNovusDays[static_cast<std::size_t>((day - 1) % 5)];
 }
 
 std::string YearText(std::int32_t year) {

@@ -33,7 +33,8 @@ const CheckBox& frmLogPreferences::IncludeOf(Calendar calendar) const {
   const CheckBox* const boxes[] = {&chkIncludeCE,  &chkIncludeJC,  &chkIncludeARC,
                                    &chkIncludeSD,  &chkIncludeLLT, &chkIncludeKSG,
                                    &chkIncludeCJD, &chkIncludeAJD, &chkIncludeOLWC};
-  return *boxes[static_cast<std::size_t>(calendar)];
+  const CheckBox* const box = boxes[static_cast<std::size_t>(calendar)];
+  return *box;
 }
 
 void frmLogPreferences::Form_Activate() { cmdClose.SetFocus(); }

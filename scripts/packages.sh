@@ -2,7 +2,7 @@
 # Installs what is missing of the named groups of Debian packages.
 # usage: scripts/packages.sh GROUP...     groups: run, screen, test, windows, windows-qt,
 #                                           package-windows, package-linux, faults,
-#                                           drive, check
+#                                           drive, check, coverage
 set -euo pipefail
 
 packages_of() {
@@ -16,7 +16,8 @@ packages_of() {
     package-linux) echo dpkg-dev file ;;
     faults) echo python3 xvfb xdotool util-linux mount ;;
     drive) echo openbox xdotool imagemagick unzip ;;
-    check) echo clang-format clang-tidy ;;
+    check) echo clang-format clang-tidy cppcheck valgrind ;;
+    coverage) echo gcovr ;;
     *)
       echo "$0: unknown group: $1" >&2
       return 2

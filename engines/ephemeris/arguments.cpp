@@ -15,14 +15,14 @@ constexpr double kRadiansPerDegree = std::numbers::pi / 180;
 
 using Polynomial = std::array<double, 9>;
 
-constexpr Polynomial kArguments[] = {
+constexpr auto kArguments = std::to_array<Polynomial>({
 #include "engines/ephemeris/arguments.inc"
-};
+});
 constexpr std::size_t kSunLongitude = 13;
 constexpr std::size_t kEccentricity = 14;
 constexpr std::size_t kP = 15;
 constexpr std::size_t kQ = 16;
-static_assert(std::size(kArguments) == kQ + 1);
+static_assert(kArguments.size() == kQ + 1);
 
 // A polynomial's value and its rate a century.
 MovingAngle Evaluate(const Polynomial& c, double t) {

@@ -1,7 +1,9 @@
 #include "engines/phase_engine.h"
 
+#include <array>
+#include <bit>
 #include <cmath>
-#include <cstring>
+#include <cstddef>
 #include <gtest/gtest.h>
 #include <numbers>
 #include <vector>
@@ -114,9 +116,15 @@ TEST(Syzyg, AnswersAnyLunation) {
   }
 }
 
+// A record full of what was there before.
+EclipseRecord Soiled() {
+  std::array<std::byte, sizeof(EclipseRecord)> bytes{};
+  bytes.fill(std::byte{0x55});
+  return std::bit_cast<EclipseRecord>(bytes);
+}
+
 TEST(Syzyg, FillsTheRecordAndLeavesTheRestOfItZero) {
-  EclipseRecord record;
-  std::memset(&record, 0x55, sizeof record);
+  EclipseRecord record = Soiled();
   syzyg(300, 0, record);  // the new moon of 2024-04-08
   EXPECT_EQ(record.lunation, 300);
   EXPECT_EQ(record.type, 3);
@@ -126,7 +134,7 @@ TEST(Syzyg, FillsTheRecordAndLeavesTheRestOfItZero) {
   EXPECT_EQ(record.total_minutes, 0);
 
   for (const auto& [n, phase] : {std::pair(301, 0), std::pair(300, 1), std::pair(300, 3)}) {
-    std::memset(&record, 0x55, sizeof record);
+    record = Soiled();
     syzyg(n, phase, record);
     EclipseRecord none{};
     none.lunation = n;
