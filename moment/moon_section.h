@@ -33,7 +33,8 @@ class MoonSection {
   PictureFiles& pictures_;
 };
 
-// Tells the user of a negative answer of GetPhase in a routine.
+// Tells the user of a negative answer of GetPhase in a routine. There is none as long as GetPhase
+// and LunationOf agree to which lunation a moment belongs.
 void ReportPhaseError(Desktop& desktop, std::int16_t code, const std::string& routine);
 
 }  // namespace tarnwick

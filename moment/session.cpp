@@ -37,7 +37,7 @@ void Session::ClearEclipse() {
 }
 
 void Session::SetActivity(Activity activity) {
-  if (blnEnding || activity == activity_) return;
+  if (blnEnding) return;
   activity_ = activity;
   hooks.activity_changed();
 }

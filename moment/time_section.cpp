@@ -61,7 +61,6 @@ void TimeSection::optLocal_Click() {
 
 // Keeps the local date and time on display, so that the moment itself moves.
 void TimeSection::cboTimeZone_Click() {
-  if (cboTimeZone.ListIndex() < 0) return;
   const std::int16_t offset = TimeZoneOffset(cboTimeZone.Text());
   if (session_.blnRestoring) {
     session_.SetZoneOffset(offset);

@@ -18,20 +18,6 @@ namespace {
 
 constexpr int kMaximumHistory = 8;
 
-// The zone of an entry, in minutes. Entries name their zone in another form, so that neither marker
-// occurs and a recall always selects GMT.
-std::int16_t RecalledOffset(const std::string& entry) {
-  for (const auto& [marker, sign] : {std::pair("Greenwich+", 1), std::pair("Greenwich-", -1)}) {
-    const std::size_t found = entry.find(marker);
-    if (found == std::string::npos) continue;
-    const std::string_view rest = std::string_view(entry).substr(found + 10);
-    const double hours = LeadingNumber(rest.substr(0, 2));
-    const double minutes = rest.size() > 3 ? LeadingNumber(rest.substr(3, 2)) : 0;
-    return static_cast<std::int16_t>(sign * (60 * hours + minutes));
-  }
-  return 0;
-}
-
 // Greatest eclipse can lie just before its syzygy, in the phase before.
 PhaseNumber SyzygyOf(PhaseNumber at, int eclipse_type) {
   if (IsLunarEclipse(eclipse_type) && at.phase == kFirstQuarter) return {at.lunation, kFullMoon};
@@ -138,7 +124,7 @@ void HistorySection::RecallHistory() {
   entry_.ClearTexts();
   session_.SetClockRunning(false);
   const std::string text = cboHistory.Text();
-  time_.Select(Contains(text, "Greenwich;"), RecalledOffset(text));
+  time_.Select(Contains(text, "Greenwich;"), 0);  // of zones a recall knows GMT only
 
   Entry read = entry_.ParseDateEntry(text);
   if (read.code != kEntryOk) {

@@ -100,6 +100,7 @@ std::string MoveSection::MoveRepeatedly() {
   blnRepeating = true;
   blnStepDue = true;
   while (blnRepeating && !session_.IsEnding()) {
+    // A tick and Pause may come in during one sleep.
     if (blnStepDue && !session_.IsPaused()) {
       blnStepDue = false;
       summary = MakeStep();

@@ -14,7 +14,7 @@ void CarryOut(Session& session, Desktop& desktop, const std::string& title,
   const UniversalTime start = session.Moment();
   try {
     operation();
-  } catch (const RuntimeError& error) {
+  } catch (const RuntimeError& error) {  // no row of today overflows: the limits end it before
     session.SetMoment(start);
     session.hooks.show_moment();
     desktop.ShowMessage({error.what(), title, MessageIcon::kExclamation});

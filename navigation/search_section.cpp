@@ -101,7 +101,7 @@ void SearchSection::cmdSearch_Click() {
   CarryOut(session_, desktop_, form_.Caption(), [this] {
     if (!entry_.TakeUpTypedMoment()) return;
     const int target = cboTarget.ListIndex();
-    if (target < 0 || IsBlank(target)) {
+    if (IsBlank(target)) {
       desktop_.ShowMessage(
           {"Please specify target for search.", "Search", MessageIcon::kExclamation});
     } else if (Search(target)) {
@@ -216,6 +216,7 @@ std::optional<SearchSection::Result> SearchSection::FindCoincidenceTarget() {
   const auto found = FindCoincidence(today, optNext.Value(), [this] { return KeepSearching(); });
   lblSearching.SetVisible(false);
   if (found) return Result{NoonOf(*found, session_.ReadingOffset()), 0, std::nullopt};
+  // The calendar reaches so far beyond the limits that no search is known to end by itself.
   const bool given_up = !blnSearching || session_.IsEnding();
   if (!given_up) notice_.ShowOver(form_, "No coincidence was found.");
   return std::nullopt;

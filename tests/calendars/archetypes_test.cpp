@@ -51,6 +51,7 @@ TEST(Archetypes, AcceptsOnlyDatesThatExist) {
     EXPECT_EQ(c.date.jdn == 0, !c.exists);
   }
   EXPECT_EQ(ARCMonthLength(4709, 14), -1);
+  EXPECT_EQ(ARCMonthLength(4709, 0), -1);
 }
 
 TEST(Archetypes, ThrowsWhereNumbersEnd) {

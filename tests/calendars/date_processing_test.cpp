@@ -56,6 +56,7 @@ TEST(Names, AreTakenFromTheirLanguage) {
   EXPECT_EQ(MonthName(0), "");
   EXPECT_EQ(AnnusNovusDayName(30), "Quintidi");
   EXPECT_EQ(AnnusNovusDayName(6), "Primidi");
+  EXPECT_EQ(AnnusNovusDayName(0), "");
 }
 
 TEST(DateTexts, GroupThousandsOnlyInLongYears) {

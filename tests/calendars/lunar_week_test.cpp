@@ -151,6 +151,10 @@ TEST(LunarWeek, TextsOfAnotherShapeAreRefused) {
   OLWDate date;
   EXPECT_EQ(ParseOLWDate("5011-03-2-4", date), kOLWValid);
   EXPECT_EQ(OLWDateString(date, 2), "Dayfour in Weektwo of Clark, 5011");
+  EXPECT_EQ(OLWDateString(date, 3), "");
+  EXPECT_EQ(OLWShortMonthName(4), "De Quin");
+  EXPECT_EQ(OLWDayStart(UniversalTime(2451545.7)), UniversalTime(2451544.75));
+  EXPECT_EQ(OLWDayStart(UniversalTime(2451545.75)), UniversalTime(2451545.75));
   EXPECT_EQ(ParseOLWDate("-180-6-4-2", date), kOLWValid);
   for (const char* const text : {"", "5011", "5011-3-2", "5011-3-2-4-1", "5011-3-2-x", "5011--2-4",
                                  "9999999999-1-1-1", "13000-1-1-1", "-7000-1-1-1"}) {

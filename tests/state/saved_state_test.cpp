@@ -199,6 +199,7 @@ TEST_F(SavedState, RecordAtTheEdgeIsTakenUp) {
       {"cboTarget", "13", "6"},  // there is no eclipse to take the series of
       {"cboTimeZone", " 0 ", "0"},
       {"lblActualEclipseData", "\"\"", ""},
+      {"lblActualEclipseData", "\"Lunation number = 311\"", "Lunation number = 311"},
   };
   for (const auto& [control, line, shown] : kTable) {
     std::vector<std::string> expected = Shown(kCount);
