@@ -127,7 +127,7 @@ void HistorySection::RecallHistory() {
   time_.Select(Contains(text, "Greenwich;"), 0);  // of zones a recall knows GMT only
 
   Entry read = entry_.ParseDateEntry(text);
-  if (read.code != kEntryOk) {
+  if (read.code != kEntryOk) {  // no entry of today: each is written so that it can be read
     desktop_.ShowMessage({"Error" + std::to_string(read.code) + " when selecting from History.",
                           "Error", MessageIcon::kExclamation});
     return;
