@@ -5,9 +5,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 
 usage() {
   cat >&2 <<'END'
-usage: ./test.sh [--sanitize | --windows] [--build-only]
+usage: ./test.sh [--sanitize | --windows | --fuzz [SECONDS]] [--build-only]
   --sanitize    with the address, leak and undefined behaviour sanitizers
   --windows     cross-built for Windows, run under Wine
+  --fuzz        the fuzz targets instead of the tests, each for so many seconds, 60 unless named
   --build-only  build, but run nothing
 END
   exit 2
@@ -15,19 +16,26 @@ END
 
 preset=release
 build_only=false
-for option in "$@"; do
-  case $option in
-    --sanitize | --windows)
+seconds=60
+while (($#)); do
+  case $1 in
+    --sanitize | --windows | --fuzz)
       [[ $preset == release ]] || usage
-      preset=${option#--}
+      preset=${1#--}
+      if [[ $preset == fuzz && ${2:-} =~ ^[1-9][0-9]*$ ]]; then
+        seconds=$2
+        shift
+      fi
       ;;
     --build-only) build_only=true ;;
     *) usage ;;
   esac
+  shift
 done
 
 groups=(run test)
 [[ $preset == windows ]] && groups+=(windows)
+[[ $preset == fuzz ]] && groups=(fuzz)
 scripts/packages.sh "${groups[@]}"
 
 if [[ $preset == windows ]]; then
@@ -37,6 +45,7 @@ fi
 cmake --preset "$preset"
 cmake --build --preset "$preset"
 if $build_only; then exit 0; fi
+if [[ $preset == fuzz ]]; then exec fuzz/run.sh "$seconds"; fi
 
 code=0
 ctest --preset "$preset" -j "$(nproc)" || code=$?
