@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
+#include <filesystem>
 #include <ostream>
 #include <random>
 #include <sstream>
@@ -175,7 +175,7 @@ std::size_t Write(const Lines& lines, std::uint8_t* data, std::size_t room) {
     if (text.size() + line.size() + 1 > room) break;
     text += line + "\n";
   }
-  std::memcpy(data, text.data(), text.size());
+  std::copy(text.begin(), text.end(), data);
   return text.size();
 }
 

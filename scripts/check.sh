@@ -10,14 +10,19 @@ if (($# > 1)) || [[ ${1:-} != @(|--format) ]]; then
   exit 2
 fi
 
-scripts/packages.sh check
+scripts/packages.sh check fuzz
 git ls-files -z '*.h' '*.cpp' '*.inc' '*CMakeLists.txt' | xargs -0rx scripts/layers.awk
 git ls-files -z '*.h' '*.cpp' | xargs -0r clang-format --dry-run -Werror
 [[ ${1:-} == --format ]] && exit
 
 # clang-tidy reads how each source is compiled, and Qt's generated headers, from the release build.
 ./test.sh --build-only
+cmake --preset fuzz  # which alone compiles fuzz/
 # Every source below the root but those that Qt's tools generate in build/. Warnings of the
 # compiler's own are GCC's business: clang's -Wconversion has another idea of the signs.
-run-clang-tidy -quiet -p build/release -j "$(nproc)" -extra-arg=-Wno-everything \
-  "^$PWD/(?!build/)"
+for build in release fuzz; do
+  sources='(?!build/)'
+  [[ $build == fuzz ]] && sources=fuzz/
+  run-clang-tidy -quiet -p "build/$build" -j "$(nproc)" -extra-arg=-Wno-everything \
+    "^$PWD/$sources"
+done
