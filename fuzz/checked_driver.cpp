@@ -117,8 +117,12 @@ void CheckHistory(const ComboBox& history) {
 
 // What the main window reads its dates from, and they themselves.
 std::string DatesOf(const frmMain& main) {
-  return main.dates.AllDatesText() + main.time.cboTimeZone.Text() +
-         (main.time.optGreenwich.Value() ? "G" : "L");
+  std::string text = main.dates.AllDatesText() + main.time.cboTimeZone.Text();
+  text += main.time.optGreenwich.Value() ? "G" : "L";
+  for (const Calendar calendar : kCalendars) {
+    text += main.dates.LabelOf(calendar)[1].Selected() ? "1" : "0";
+  }
+  return text;
 }
 
 // Hands the driver one line after another. When it asks for the next it is done with the last.

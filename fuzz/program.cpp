@@ -1,6 +1,6 @@
 // The whole program by the driver's commands, one a line, so that an input that fails is a script
-// for tarnwick_driver. Inputs change line by line: new lines are commands on the controls and
-// windows that there are.
+// for tarnwick_driver. In the end it quits, and the next start shows what it showed. Inputs change
+// line by line: new lines are commands on the controls and windows that there are.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -12,9 +12,12 @@
 #include <string_view>
 #include <vector>
 
+#include "calendars/text.h"
 #include "controls/controls.h"
 #include "controls/form.h"
+#include "fuzz/check.h"
 #include "fuzz/checked_driver.h"
+#include "moment/session.h"
 #include "tools/driver/driver.h"
 
 // libFuzzer's own change of a few bytes.
@@ -228,6 +231,57 @@ std::string Harmless(const std::string& line) {
   return line.substr(0, tick + kTick.size() + kMostDigits);
 }
 
+// What the next start shows again.
+constexpr const char* kKept[] = {"lblAstronomicalJulianDate(1)",
+                                 "lblTime(1)",
+                                 "lblCommonEraDate(1)",
+                                 "lblJulianCalendarDate(1)",
+                                 "lblArchetypesDate(1)",
+                                 "lblSarvikDolmerSLCDate(1)",
+                                 "lblLTCLunarDate(1)",
+                                 "lblKSGDate(1)",
+                                 "lblOstrelLWCDate(1)",
+                                 "lblChronologicalJulianDate(1)",
+                                 "lblOstrelLWCDate(1).Selected",
+                                 "lblActualEclipseData",
+                                 "optGreenwich",
+                                 "optMoveDirection(0)",
+                                 "optPlus",
+                                 "optNext",
+                                 "cboTimeZone",
+                                 "cboMoveStep",
+                                 "cboRefreshPeriod",
+                                 "cboMonthCalendar",
+                                 "chkRepeatedly",
+                                 "chkLog",
+                                 "frmLogPreferences.optLogFormat(0)",
+                                 "frmLogPreferences.chkIncludeOLWC"};
+
+// No command of the driver, but one that its answers show the place of.
+constexpr std::string_view kMark = "#";
+
+// Asks for all that is kept, quits, starts and asks again.
+std::string Restart() {
+  std::string questions(kMark);
+  for (const char* const name : kKept) questions += std::string("\nget ") + name;
+  return "click cmdStop\nstart\n" + questions + "\nclose frmMain\nstart\n" + questions + "\n";
+}
+
+// A move may end one step beyond the limits, where the next start does not begin.
+bool IsWithinLimits(std::string_view ajd) {
+  const UniversalTime moment(LeadingNumber(RemoveChars(ajd, ",")));
+  return moment >= kLowerLimit && moment <= kUpperLimit;
+}
+
+void CheckRestart(std::string_view answers) {
+  const std::string mark = "error: unknown command: " + std::string(kMark) + "\n";
+  const std::size_t second = answers.rfind(mark);
+  const std::size_t first = answers.rfind(mark, second - 1);
+  const std::string_view after = answers.substr(second + mark.size());
+  const std::string_view before = answers.substr(first + mark.size(), second - first - mark.size());
+  if (IsWithinLimits(before)) CheckAlike(before, after, "the next start shows what was shown");
+}
+
 }  // namespace
 }  // namespace tarnwick
 
@@ -263,7 +317,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   std::string commands = "statefile " + (ScratchFolder() / "state.usr").string() + "\nstart\n";
   for (const std::string& line : LinesOf(data, size)) commands += Harmless(line) + "\n";
-  std::ostream nowhere(nullptr);
-  RunChecked(commands, nowhere);
+  std::ostringstream answers;
+  RunChecked(commands + Restart(), answers);
+  CheckRestart(answers.str());
   return 0;
 }
