@@ -10,14 +10,16 @@ if (($# > 1)) || [[ ${1:-} != @(|--format) ]]; then
   exit 2
 fi
 
-scripts/packages.sh check fuzz
+scripts/packages.sh check
 git ls-files -z '*.h' '*.cpp' '*.inc' '*CMakeLists.txt' | xargs -0rx scripts/layers.awk
 git ls-files -z '*.h' '*.cpp' | xargs -0r clang-format --dry-run -Werror
 [[ ${1:-} == --format ]] && exit
 
 # clang-tidy reads how each source is compiled, and Qt's generated headers, from the release build.
 ./test.sh --build-only
-cmake --preset fuzz  # which alone compiles fuzz/
+# Only the preset fuzz compiles fuzz/.
+scripts/packages.sh fuzz
+cmake --preset fuzz
 # Every source below the root but those that Qt's tools generate in build/. Warnings of the
 # compiler's own are GCC's business: clang's -Wconversion has another idea of the signs.
 for build in release fuzz; do
