@@ -111,7 +111,7 @@ void AddPatterns(const Control& control, const std::string& name, std::vector<Pa
 std::vector<Pattern> PatternsOf(const Form& form) {
   std::vector<Pattern> patterns{{"close " + form.Name()},
                                 {"minimise " + form.Name()},
-                                {"resize " + form.Name() + " 9000 ", 20000},
+                                {"resize " + form.Name() + " 9000 ", 1000001},
                                 {"key " + form.Name() + " Escape"},
                                 {"key " + form.Name() + " Return"}};
   for (const Shortcut& shortcut : form.Shortcuts()) {
