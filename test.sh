@@ -5,11 +5,12 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 
 usage() {
   cat >&2 <<'END'
-usage: ./test.sh [--sanitize | --windows | --coverage] [--build-only]
+usage: ./test.sh [--sanitize | --windows | --coverage | --fuzz [SECONDS]] [--build-only]
   --sanitize    with the address, leak and undefined behaviour sanitizers
   --windows     cross-built for Windows, run under Wine
   --coverage    without the windows of the program; also tells how much of the code they reach, and shows
                 it in build/coverage/index.html
+  --fuzz        the fuzz targets instead of the tests, each for so many seconds, 60 unless named
   --build-only  build, but run nothing
 END
   exit 2
@@ -17,19 +18,26 @@ END
 
 preset=release
 build_only=false
-for option in "$@"; do
-  case $option in
-    --sanitize | --windows | --coverage)
+seconds=60
+while (($#)); do
+  case $1 in
+    --sanitize | --windows | --coverage | --fuzz)
       [[ $preset == release ]] || usage
-      preset=${option#--}
+      preset=${1#--}
+      if [[ $preset == fuzz && ${2:-} =~ ^[1-9][0-9]*$ ]]; then
+        seconds=$2
+        shift
+      fi
       ;;
     --build-only) build_only=true ;;
     *) usage ;;
   esac
+  shift
 done
 
 groups=(run test)
 [[ $preset == windows || $preset == coverage ]] && groups+=("$preset")
+[[ $preset == fuzz ]] && groups=(fuzz)
 scripts/packages.sh "${groups[@]}"
 
 if [[ $preset == windows ]]; then
@@ -39,6 +47,7 @@ fi
 cmake --preset "$preset"
 cmake --build --preset "$preset"
 if $build_only; then exit 0; fi
+if [[ $preset == fuzz ]]; then exec fuzz/run.sh "$seconds"; fi
 
 # Counts of an earlier run would be added to.
 [[ $preset == coverage ]] && find build/coverage -name '*.gcda' -delete

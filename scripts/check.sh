@@ -30,7 +30,14 @@ seq 0 $(($(nproc) - 1)) | GTEST_TOTAL_SHARDS=$(nproc) xargs -P "$(nproc)" -I {} 
   env GTEST_SHARD_INDEX={} valgrind --quiet --leak-check=full --error-exitcode=1 \
   build/release/bin/tarnwick_tests --gtest_brief=1 --gtest_filter="-$long"
 
+# Only the preset fuzz compiles fuzz/.
+scripts/packages.sh fuzz
+cmake --preset fuzz
 # Every source below the root but those that Qt's tools generate in build/. Warnings of the
 # compiler's own are GCC's business: clang's -Wconversion has another idea of the signs.
-run-clang-tidy -quiet -p build/release -j "$(nproc)" -extra-arg=-Wno-everything \
-  "^$PWD/(?!build/)"
+for build in release fuzz; do
+  sources='(?!build/)'
+  [[ $build == fuzz ]] && sources=fuzz/
+  run-clang-tidy -quiet -p "build/$build" -j "$(nproc)" -extra-arg=-Wno-everything \
+    "^$PWD/$sources"
+done

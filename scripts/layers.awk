@@ -18,7 +18,7 @@ BEGIN {
   Add("app")
   Add("desktop")
   Add("tools")
-  Add("tests benchmarks")
+  Add("tests benchmarks fuzz")
 }
 
 function Add(folders,    names, count, i) {

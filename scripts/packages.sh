@@ -1,6 +1,6 @@
 #!/bin/bash
 # Installs what is missing of the named groups of Debian packages.
-# usage: scripts/packages.sh GROUP...     groups: run, screen, test, windows, windows-qt,
+# usage: scripts/packages.sh GROUP...     groups: run, screen, test, fuzz, windows, windows-qt,
 #                                           package-windows, package-linux, faults,
 #                                           drive, check, coverage
 set -euo pipefail
@@ -10,6 +10,7 @@ packages_of() {
     run) echo g++ cmake ninja-build ccache qt6-base-dev libgl1-mesa-dev fonts-dejavu-core ;;
     screen) echo xvfb xauth imagemagick ;;
     test) echo googletest libbenchmark-dev ;;
+    fuzz) echo clang libclang-rt-14-dev cmake ninja-build ccache ;;
     windows) echo g++-mingw-w64-x86-64-posix wine64 fonts-liberation xvfb xauth ;;
     windows-qt) echo g++ g++-mingw-w64-x86-64-posix qt6-base-dev cmake ninja-build dpkg-dev patch xz-utils ;;
     package-windows) echo zip nsis ;;

@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "calendars/date_processing.h"
+#include "engines/time_units.h"
 #include "tools/driver/properties.h"
 
 namespace tarnwick {
@@ -48,6 +50,16 @@ bool Matches(std::string_view text, std::string_view pattern) {
     if (!fits) return false;
   }
   return true;
+}
+
+bool IsDate(std::string_view text) {
+  DateRecord date;
+  return Matches(text, "0000-00-00") && ParseDateString(text, date) == kDateParsed;
+}
+
+bool IsTime(std::string_view text) {
+  return Matches(text, "00:00:00") && text.substr(0, 2) < "24" && text.substr(3, 2) < "60" &&
+         text.substr(6) < "60";
 }
 
 std::string_view IconName(MessageIcon icon) {
@@ -279,12 +291,13 @@ T& Driver::FindUsableAs(std::string_view name, std::string_view kind) {
 
 void Driver::Now(std::string_view arguments) {
   const auto [date, rest] = SplitWord(arguments);
-  const auto [time, offset] = SplitWord(rest);
-  if (!Matches(date, "0000-00-00") || !Matches(time, "00:00:00")) {
+  const auto [time, zone] = SplitWord(rest);
+  if (!IsDate(date) || !IsTime(time)) {
     throw CommandError("not a date and time: " + std::string(arguments));
   }
-  desktop_.SetClock(
-      {std::string(date), std::string(time), offset.empty() ? 0 : ParseNumber(offset)});
+  const int offset = zone.empty() ? 0 : ParseNumber(zone, -kMinutesPerDay);
+  if (offset > kMinutesPerDay) throw CommandError("no such number: " + std::string(zone));
+  desktop_.SetClock({std::string(date), std::string(time), offset});
 }
 
 void Driver::StateFile(std::string_view path) {

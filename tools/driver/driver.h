@@ -25,6 +25,12 @@ class Driver {
   // Carries out commands until "quit" or the end of the input. Returns 0, or 1 if any was in error.
   int Run();
 
+  // The windows; null unless the program has been started.
+  const frmMain* MainWindow() const { return main_.get(); }
+  const Screen* Windows() const { return screen_.get(); }
+  // While a command is being read: whether it is for the running move.
+  bool IsInsideHandler() const { return running_handlers_ > 0; }
+
  private:
   struct Command;
   struct Target;   // a form and perhaps a control and a property of it
