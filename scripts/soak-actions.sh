@@ -6,7 +6,7 @@
 # click on the row with Quit, and no Tab but from a place that a mnemonic leads to.
 
 readonly kinds=(move move move search search search entry entry entry present history time log log
-  preferences lunation lunation help copy save_state click click lists window)
+  save_log preferences lunation lunation save_page help copy save_state click click lists window)
 
 readonly entries=('2003-12-31 CE 15:55' '1999-08-11 CE 11:03' '-3200-01-01 CE' '5999-12-31 CE 23:59'
   '1582-10-04 JC' '4723-10-13 ARC' '33-46-09-14 SD 06:00' '127-06-04-3 LLT' '1-98-06-08 KSG'
@@ -138,13 +138,15 @@ action_log() {
   press_some ctrl+a 1
   press alt+c
   click 1 40 30
-  draw 4
-  ((drawn > 0)) || {
-    press alt+s
-    save_as txt
-  }
   press_some alt+l 1
   press_one_of Return Escape
+}
+
+action_save_log() {
+  press alt+v alt+h alt+w
+  pause 2
+  press alt+s
+  save_as txt
 }
 
 action_preferences() {
@@ -171,11 +173,13 @@ action_lunation() {
   click 1 "$left" $((20 + drawn))
   press_some Right 3
   press_some Down 3
-  draw 6
-  ((drawn > 0)) || {
-    press alt+s
-    save_as png
-  }
+}
+
+action_save_page() {
+  press ctrl+l
+  pause 2
+  press alt+s
+  save_as png
 }
 
 action_help() {
