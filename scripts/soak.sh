@@ -56,22 +56,33 @@ wait_until() {
 
 windows() { xdotool search --onlyvisible "$@" 2>/dev/null; }
 
-# Whether there is nothing but the main window any more; helps what is there to go. Notices go by
-# themselves. What is drawn over the others, as an open list, has the name of the program.
+active_window() { xdotool getactivewindow 2>/dev/null || true; }
+
+# Whether there is nothing but the main window any more; helps what is there to go. Escape goes to the
+# window that is active, since another one may wait for an answer to it. Notices go by themselves.
+# What is drawn over the others, as an open list, has the name of the program.
 only_main_is_left() {
-  local window name
+  local window name other= list=
   for window in $(windows --pid "$pid"); do
     name=$(xdotool getwindowname "$window" 2>/dev/null) || return 1
-    [[ $window != "$main" && $name != Notice ]] || continue
-    [[ $name == tarnwick ]] || xdotool windowactivate "$window" 2>/dev/null
-    xdotool key Escape
-    sleep 0.05
-    return 1
+    case $name in
+      Notice) ;;
+      tarnwick) list=$window ;;
+      *) [[ $window == "$main" ]] || other=$window ;;
+    esac
   done
+  [[ -n $other$list ]] || return 0
+  if [[ -z $list && $(active_window) == @(|"$main") ]]; then
+    xdotool windowactivate "$other" 2>/dev/null
+  else
+    xdotool key Escape
+  fi
+  sleep 0.1
+  return 1
 }
 
 main_is_active() {
-  [[ $(xdotool getactivewindow 2>/dev/null) == "$main" ]] && return
+  [[ $(active_window) == "$main" ]] && return
   xdotool windowactivate "$main" 2>/dev/null
   return 1
 }
@@ -171,7 +182,8 @@ quit_program() {
 }
 
 clean_up() {
-  kill "${pid:-}" "$manager" 2>/dev/null || true
+  kill -KILL "${pid:-}" 2>/dev/null || true # it may hang
+  kill "$manager" 2>/dev/null || true
   rm -rf "${work:-}"
 }
 
@@ -188,6 +200,7 @@ for kind in $(printf '%s\n' "${kinds[@]}" | sort -u); do perform "$kind"; done
 while ((SECONDS < minutes * 60)); do
   draw ${#kinds[@]}
   perform "${kinds[drawn]}"
+  must_run
   sample >>"$samples"
 done
 must_be_idle
