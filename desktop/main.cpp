@@ -22,8 +22,8 @@
 
 namespace {
 
-// Of drawn parts of controls. Qt's own limit of 10 MB fills up with sizes that no window has any more,
-// as windows are resized and lists opened.
+// Of drawn parts of controls. Qt's own limit of 10 MB fills up with sizes that no window has any
+// more, as windows are resized and lists opened.
 constexpr int kPixmapCache = 1024;  // kB
 
 // A handler has failed where none may. What further handlers are still running cannot be trusted,

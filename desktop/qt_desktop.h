@@ -28,8 +28,8 @@ class QtDesktop final : public Desktop {
   void EndProgram() override;
 
  private:
-  // The window over which to ask: the active one or, while none is, the last that was. A box that has
-  // just been answered leaves none active until the window system says which is next.
+  // The window over which to ask: the active one or, while none is, the last that was. A box that
+  // has just been answered leaves none active until the window system says which is next.
   QWidget* WindowInUse();
 
   HandlerGate& gate_;
