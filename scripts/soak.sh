@@ -81,15 +81,18 @@ only_main_is_left() {
   return 1
 }
 
-main_is_active() {
+main_is_alone() {
+  only_main_is_left || return
   [[ $(active_window) == "$main" ]] && return
   xdotool windowactivate "$main" 2>/dev/null
   return 1
 }
 
-# A key may be lost while the focus changes: it is pressed anew, but not so often that they queue up.
+# A message may come up late, and a key be lost while the focus changes: it is pressed anew, but not
+# so often that many queue up.
 help_is_open() {
   windows --name '^Help$' >/dev/null && return
+  main_is_alone || return
   if ((SECONDS >= next_key)); then
     xdotool key F1
     next_key=$((SECONDS + 5))
@@ -100,13 +103,11 @@ help_is_open() {
 # Back to the main window, with nothing under way. Help can be opened only then, and only by a program
 # that takes events from the window system and runs its handlers: this is how it shows that it lives.
 rest() {
-  wait_until only_main_is_left
-  wait_until main_is_active
+  wait_until main_is_alone
   xdotool key Escape
   next_key=0
   wait_until help_is_open
-  wait_until only_main_is_left
-  wait_until main_is_active
+  wait_until main_is_alone
 }
 
 # CPU time so far, in hundredths of a second.
