@@ -2,6 +2,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QMessageBox>
+#include <QPixmapCache>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
@@ -21,6 +22,10 @@
 #include "desktop/screen_fit.h"
 
 namespace {
+
+// Of drawn parts of controls. Qt's own limit of 10 MB fills up with sizes that no window has any
+// more, as windows are resized and lists opened.
+constexpr int kPixmapCache = 1024;  // kB
 
 // A handler has failed where none may. What further handlers are still running cannot be trusted,
 // so the program ends at once, and says so.
@@ -76,6 +81,7 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);  // the main window's form ends the program
   QApplication::setDesktopFileName("tarnwick");
   QApplication::setKeyboardInputInterval(1000);  // within which letters make one name in a list
+  QPixmapCache::setCacheLimit(kPixmapCache);
   tarnwick::InstallAccessibles();
   tarnwick::ApplyLook();
 

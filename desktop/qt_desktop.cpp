@@ -129,9 +129,14 @@ void Widen(QMessageBox& box) {
 
 }  // namespace
 
+QWidget* QtDesktop::WindowInUse() {
+  if (QWidget* active = QApplication::activeWindow()) window_in_use_ = active;
+  return window_in_use_;
+}
+
 MessageAnswer QtDesktop::ShowMessage(const Message& message) {
   QMessageBox box(IconOf(message.icon), ToQt(message.title), ToQt(message.text),
-                  ButtonsOf(message.buttons), QApplication::activeWindow());
+                  ButtonsOf(message.buttons), WindowInUse());
   box.setTextFormat(Qt::PlainText);
   for (QAbstractButton* button : box.buttons()) button->setIcon(QIcon());
   ScrollLongText(box);
@@ -157,7 +162,7 @@ void QtDesktop::SetClipboardText(const std::string& text) {
 
 std::optional<std::filesystem::path> QtDesktop::AskSavePath(const std::string& title,
                                                             const std::string& suggestion) {
-  QFileDialog dialog(QApplication::activeWindow(), ToQt(title));
+  QFileDialog dialog(WindowInUse(), ToQt(title));
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the form asks
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QFileInfo(ToQt(suggestion)).suffix());

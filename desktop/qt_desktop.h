@@ -1,6 +1,9 @@
 // The real desktop. It needs a QApplication.
 #pragma once
 
+#include <QPointer>
+#include <QWidget>
+
 #include "controls/desktop.h"
 #include "desktop/handler_gate.h"
 
@@ -25,7 +28,12 @@ class QtDesktop final : public Desktop {
   void EndProgram() override;
 
  private:
+  // The window over which to ask: the active one or, while none is, the last that was. A box that
+  // has just been answered leaves none active until the window system says which is next.
+  QWidget* WindowInUse();
+
   HandlerGate& gate_;
+  QPointer<QWidget> window_in_use_;
 };
 
 }  // namespace tarnwick

@@ -21,6 +21,7 @@ class QtDesktopTest : public QObject {
   void clockReadsLocalTime();
   void clipboardKeepsText();
   void filePathIsAskedFor();
+  void nextQuestionBelongsToTheSameWindow();
   void stateFileFollowsTheEnvironment();
   void programFolderHoldsTheProgram();
   void waitingYieldWaitsForAnEvent();
@@ -128,6 +129,23 @@ void QtDesktopTest::filePathIsAskedFor() {
 
   WhenModal<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
   QVERIFY(!desktop_.AskSavePath("Save picture", "lunation.png").has_value());
+}
+
+// A box that has been answered leaves no window active for a moment.
+void QtDesktopTest::nextQuestionBelongsToTheSameWindow() {
+  QWidget window;
+  window.show();
+  QVERIFY(QTest::qWaitForWindowActive(&window));
+  QList<QWidget*> owners;
+  const auto note_and_refuse = [&owners](QDialog& dialog) {
+    owners << dialog.parentWidget();
+    dialog.reject();
+  };
+  WhenModal<QMessageBox>(note_and_refuse);
+  desktop_.ShowMessage({"Replace it?", "Save", MessageIcon::kQuestion, MessageButtons::kYesNo});
+  WhenModal<QFileDialog>(note_and_refuse);
+  desktop_.AskSavePath("Save", "lunation.png");
+  QCOMPARE(owners, (QList<QWidget*>{&window, &window}));
 }
 
 void QtDesktopTest::stateFileFollowsTheEnvironment() {
