@@ -82,6 +82,7 @@ TEST(Archetypes, StepsByTheRulesOfTheYearBefore) {
                            {{4702, 13, 30}, StepARCYear, true, "4703-12-29 ARC"},
                            {{4703, 13, 30}, StepARCYear, false, "4702-13-30 ARC"},
                            {{4704, 10, 30}, StepARCYear, true, "4705-10-30 ARC"},
+                           {{4705, 11, 30}, StepARCMonth, true, "4705-12-29 ARC"},
                            {{4706, 10, 30}, StepARCYear, true, "4707-10-29 ARC"}}) {
     ARCDate date = step.from;
     step.step(date, step.forward);
