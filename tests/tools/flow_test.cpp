@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sstream>
 #include <string>
@@ -80,20 +81,28 @@ TEST(Driver, ExitStatusTellsOfErrors) {
 }
 
 TEST(Driver, DumpPrintsEverythingByName) {
-  const std::string dump = DriverAnswers("start\nset txbPlusMinus 7\ndump\n");
+  const std::string dump = DriverAnswers("start\nset txbPlusMinus 7\\\\r\ndump\n");
   std::size_t at = 0;
   for (const std::string line :
        {"frmCredits|Credits|0", "frmLogPreferences|chkIncludeCE|1|1|1|#000000|",
         "frmMain|Tarnwick 18.0|1", "frmMain|Clock|0|0|1|#000000|",
         "|1|1|#ffffff|The 5th day of March in the year 2024 in the Common Era Calendar",
         "frmMain|lblTime(1)|12:00 (local=GMT)|1|1|#000000|",
-        "frmMain|picMoon|lastquarter.bmp|1|1|#000000|", "frmMain|txbPlusMinus|7|1|1|#000000|",
+        "frmMain|picMoon|lastquarter.bmp|1|1|#000000|", "frmMain|txbPlusMinus|7\\\\r|1|1|#000000|",
         "frmMain.txbPlusMinus\n."}) {
     const std::size_t found = dump.find(line + "\n", at);
     ASSERT_NE(found, std::string::npos) << line;
     at = found + line.size();
   }
   EXPECT_EQ(at + 1, dump.size());
+}
+
+TEST(Driver, TellsOfTheFirstMissingPictureOnly) {
+  std::istringstream input("start\nclick cmdMove\nmessages\n");
+  std::ostringstream output;
+  Driver(input, output, "nowhere").Run();
+  EXPECT_THAT(output.str(), testing::MatchesRegex("exclamation.ok.Error.Picture not found: nowhere"
+                                                  "\\S*lastquarter.bmp\n.\n"));
 }
 
 }  // namespace
