@@ -137,6 +137,7 @@ void AccessibleTest::listsAndDatesHaveNameAndValue() {
       {main.form.dates.lblTime[1], "Time", "12:34 (local=GMT)"},
       {main.form.dates.lblJulianCalendarDate[1], "Julian date",
        "2024-02-21 JC (Tuesday, February 21, 2024)"},
+      {main.form.dates.lblKSGDate[0], "KSG", ""},
   };
   for (const auto& [control, name, value] : cases) {
     QAccessibleInterface& told = Told(main.Find<QWidget>(control));
@@ -152,6 +153,7 @@ void AccessibleTest::listsAndDatesHaveNameAndValue() {
   QCOMPARE(NameOf(main.Find<QWidget>(main.form.history.cmdBack)), "Back");
   auto& julian = Told(main.Find<QWidget>(main.form.dates.lblJulianCalendarDate[1]));
   QVERIFY(julian.text(QAccessible::Description).contains("21st day of February"));
+  QCOMPARE(julian.role(), QAccessible::Button);
   julian.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
   QCOMPARE(main.form.entry.txbDate.Text(), "2024-02-21 JC 12:34");
 }

@@ -41,6 +41,11 @@ void BinderFormTest::sizesAreTwips() {
   bound.form.SetBounds({1500, 750, 7500, 3000});
   QTRY_COMPARE(bound.window.size(), QSize(500, 200));
   QCOMPARE(bound.window.pos(), QPoint(100, 50));
+
+  bound.window.showMaximized();
+  QTRY_VERIFY(bound.window.width() > 500);
+  bound.form.SetBounds({1500, 750, 7500, 3000});
+  QVERIFY(bound.window.width() > 500);
 }
 
 void BinderFormTest::closeBoxAsksTheForm() {
@@ -88,6 +93,7 @@ void BinderFormTest::escapeReachesTheFormFromAList() {
   bound.Show();
   combo.setFocus();
   QTest::keyClick(&combo, Qt::Key_Escape);
+  QTest::simulateEvent(&combo, true, Qt::Key_Escape, Qt::NoModifier, {}, true);  // held down
   QCOMPARE(bound.form.keys, std::vector<int>{27});
 }
 

@@ -78,6 +78,13 @@ void HelpViewTest::noticeGoesByItselfAndOnAClick() {
   QVERIFY(QTest::qWaitForWindowActive(&main.view));
   main.form.cmdSaveState.Click();
   QVERIFY(notice.isVisible());
+  int starts = 0;
+  Timer& timer = main.form.notice.tmrNotice;
+  timer.Watch([&](Property changed) {
+    if (changed == Property::kEnabled && timer.Enabled()) ++starts;
+  });
+  main.form.notice.ShowOver(main.form, "Saved");  // for as long again
+  QCOMPARE(starts, 1);
   QCOMPARE(QApplication::focusWidget()->objectName(), "cmdMove");  // as saving leaves it
   QTest::mouseClick(notice.findChild<QWidget*>("lblNotice"), Qt::LeftButton);
   QVERIFY(!notice.isVisible());

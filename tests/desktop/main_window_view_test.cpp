@@ -51,6 +51,16 @@ void MainWindowViewTest::faultyEntryIsReported() {
   const std::vector<Message> messages = main.desktop.TakeMessages();
   QCOMPARE(messages.size(), std::size_t{1});
   QCOMPARE(messages.front().title, "Invalid date/time entry");
+
+  // A hint that has no room for all of it can be read in its tool tip.
+  Label& hint = main.form.entry.lblEntryHint;
+  auto& line = main.Find<QWidget>(hint);
+  for (const std::string& text : {std::string("short"), std::string(500, 'x')}) {
+    hint.SetCaption(text);
+    QHelpEvent asked(QEvent::ToolTip, {}, {});
+    QApplication::sendEvent(&line, &asked);
+    QCOMPARE(line.toolTip().toStdString(), text == "short" ? "" : text);
+  }
 }
 
 void MainWindowViewTest::everyControlHasItsWidget() {

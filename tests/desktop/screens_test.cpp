@@ -100,6 +100,7 @@ void ScreensTest::everyWindowOpensInside() {
   for (QWidget* window : windows.Secondary()) {
     QCOMPARE(window->windowHandle()->transientParent(), windows.main.view.windowHandle());
   }
+  QCOMPARE(windows.log.x(), windows.main.view.x());
   // An open log is put to its place again, which may lie below the screen.
   windows.main.form.log.cmdViewLog.Click();
   QCoreApplication::processEvents();
