@@ -1,8 +1,11 @@
 #include <QDir>
 #include <QImage>
 #include <array>
+#include <cstdint>
+#include <vector>
 
 #include "tests/desktop/suites.h"
+#include "tools/moon_pictures/moon_drawing.h"
 
 namespace tarnwick {
 namespace {
@@ -35,6 +38,7 @@ class MoonPicturesTest : public QObject {
 
  private Q_SLOTS:
   void lightFollowsTheDaysOfALunation();
+  void reliefShowsInSunlight();
 };
 
 void MoonPicturesTest::lightFollowsTheDaysOfALunation() {
@@ -54,6 +58,19 @@ void MoonPicturesTest::lightFollowsTheDaysOfALunation() {
     // Next to new moon nothing may be lit.
     QVERIFY2(number < kFullMoon ? lit.right >= lit.left : lit.left >= lit.right, qPrintable(file));
   }
+}
+
+// A full Moon is flat.
+void MoonPicturesTest::reliefShowsInSunlight() {
+  constexpr int kWidth = 60;
+  std::vector<std::uint32_t> flat = DrawMoon(kWidth, {1, true});
+  Relight(flat, kWidth, {1, true}, {0.5, true});
+  const std::vector<std::uint32_t> drawn = DrawMoon(kWidth, {0.5, true});
+  int different = 0;
+  for (std::size_t i = kWidth / 2 + 5; i < drawn.size(); i += kWidth) {
+    if (drawn[i] != flat[i]) ++different;
+  }
+  QVERIFY(different > kWidth / 3);
 }
 
 const AddSuite<MoonPicturesTest> added;
