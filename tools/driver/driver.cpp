@@ -295,8 +295,7 @@ void Driver::Now(std::string_view arguments) {
   if (!IsDate(date) || !IsTime(time)) {
     throw CommandError("not a date and time: " + std::string(arguments));
   }
-  const int offset = zone.empty() ? 0 : ParseNumber(zone, -kMinutesPerDay);
-  if (offset > kMinutesPerDay) throw CommandError("no such number: " + std::string(zone));
+  const int offset = zone.empty() ? 0 : ParseNumber(zone, -kMinutesPerDay, kMinutesPerDay);
   desktop_.SetClock({std::string(date), std::string(time), offset});
 }
 
