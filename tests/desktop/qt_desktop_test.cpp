@@ -97,7 +97,7 @@ void QtDesktopTest::messageBoxShowsTheMessageAndAnswers() {
 }
 
 void QtDesktopTest::clockReadsLocalTime() {
-#ifndef Q_OS_WIN  // which keeps its own
+#ifndef Q_OS_WIN              // which keeps its own
   qputenv("TZ", "IST-5:30");  // most machines that test stand at Greenwich
 #endif
   const ClockReading clock = desktop_.ReadClock();
