@@ -115,12 +115,12 @@ TEST(MoonPicture, TerminatorIsAHalfEllipse) {
 
 // Its own mirror image is drawn but once.
 TEST(MoonPicture, MiddleRowIsAsBrightAsTheNext) {
-  constexpr int kWidth = 101;
+  constexpr std::size_t kWidth = 101;
   const std::vector<std::uint32_t> pixels = Draw(kWidth, 0.7, true);
-  const auto brightness = [&](int row) {
+  const auto brightness = [&](std::size_t row) {
     double sum = 0;
-    for (int i = 0; i < kWidth; ++i) {
-      sum += (pixels[static_cast<std::size_t>(row * kWidth + i)] >> 16U) & 0xffU;
+    for (std::size_t i = 0; i < kWidth; ++i) {
+      sum += (pixels[row * kWidth + i] >> 16U) & 0xffU;
     }
     return sum;
   };
