@@ -23,10 +23,6 @@
 
 namespace {
 
-// Of drawn parts of controls. Qt's own limit of 10 MB fills up with sizes that no window has any
-// more, as windows are resized and lists opened.
-constexpr int kPixmapCache = 1024;  // kB
-
 // A handler has failed where none may. What further handlers are still running cannot be trusted,
 // so the program ends at once, and says so.
 [[noreturn]] void EndWithFault(const std::string& what) {
@@ -81,7 +77,9 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);  // the main window's form ends the program
   QApplication::setDesktopFileName("tarnwick");
   QApplication::setKeyboardInputInterval(1000);  // within which letters make one name in a list
-  QPixmapCache::setCacheLimit(kPixmapCache);
+  // Qt would keep drawn parts of controls for every size and palette, up to 10 MB, and never forget
+  // the names under which it kept them: some kB each time a file is asked for.
+  QPixmapCache::setCacheLimit(0);
   tarnwick::InstallAccessibles();
   tarnwick::ApplyLook();
 
