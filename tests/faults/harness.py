@@ -14,6 +14,10 @@ RECORDS = 27  # of a saved state
 AS_A_USER = ["setpriv", "--bounding-set=-dac_override,-dac_read_search", "--inh-caps=-all"]
 
 
+def as_a_user(*command):
+    return [*(AS_A_USER if os.geteuid() == 0 else []), *command]
+
+
 class Fault(Exception):
     pass
 
@@ -57,8 +61,7 @@ class Workshop:
         self.mounted.append(folder)
 
     def driver_command(self):
-        as_a_user = AS_A_USER if os.geteuid() == 0 else []
-        return [*as_a_user, str(self.programs / "tarnwick_driver")]
+        return as_a_user(str(self.programs / "tarnwick_driver"))
 
     def answers(self, *commands):
         """The lines that the driver answers to commands, none of which may be in error."""
