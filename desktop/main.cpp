@@ -20,6 +20,7 @@
 #include "desktop/main_window_view.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/screen_fit.h"
+#include "desktop/session_end.h"
 
 namespace {
 
@@ -103,5 +104,6 @@ int main(int argc, char** argv) {
   }
   gate.Run([&] { form.Load(); });
   const SaverAtExit saver(form);
+  tarnwick::SaveAtSessionEnd([&] { form.SaveSilently(); });
   return gate.IsOpen() ? QApplication::exec() : EXIT_SUCCESS;
 }

@@ -36,10 +36,14 @@ start_program() {
   sleep 2
 }
 
+await_end() {
+  timeout 60 tail --pid="$running" -f /dev/null || fail "the program does not end"
+}
+
 # quit_program: by its mnemonic.
 quit_program() {
   xdotool key alt+q
-  timeout 60 tail --pid="$running" -f /dev/null || fail "the program does not end"
+  await_end
   wait "$running" || fail "the program ends with exit code $?"
 }
 
@@ -72,6 +76,15 @@ cp "$state" build/first.usr
 start_program
 quit_program
 cmp "$state" build/first.usr || fail "the state did not come back as it was"
+
+# The end of the session of Windows comes without Quit.
+start_program
+xdotool type --delay 50 '1999-08-12 CE 11:03'
+xdotool key Return
+sleep 2
+wine wineboot --end-session
+await_end
+[[ $(head -n 1 "$state") == 2451402.96*$'\r' ]] || fail "the end of the session lost the state"
 
 # Unpacked in a folder whose name is not ASCII it finds its pictures: else a message would be in the way.
 unpacked=$TARNWICK_WINEPREFIX/drive_c/Kalender\ é

@@ -1,6 +1,7 @@
 """The windows: pictures that are no good, and displays that are not there or go."""
 import os
 import shutil
+import signal
 import subprocess
 import time
 from contextlib import contextmanager
@@ -69,10 +70,14 @@ class Program:
         return self.process.returncode, said
 
 
+def expect_end(program, status):
+    found, said = program.end()
+    expect_equal(found, status, f"status ({said})")
+
+
 def quits(program):
     program.press("^Tarnwick ", "alt+q")
-    status, said = program.end()
-    expect_equal(status, 0, f"status ({said})")
+    expect_end(program, 0)
 
 
 # Each spoils a picture that is there.
@@ -153,8 +158,10 @@ def without_display(shop, **more):
            f"what is said: {lines}")
 
 
-def display_goes(shop, moving):
-    """At rest or in a repeated move: what Quit would save is saved all the same."""
+@contextmanager
+def in_use(shop, moving):
+    """The program with its display, at rest or in a repeated move: once it has been ended from
+    outside, what Quit would save must have been saved all the same."""
     state = shop.folder / "config" / STATE
     state.parent.mkdir(parents=True)
     shop.answers(f"statefile {state}", "start", f"set cboMoveStep {STEP}", "set chkLog 1",
@@ -165,15 +172,25 @@ def display_goes(shop, moving):
         if moving:
             program.press("^Tarnwick ", "alt+v")
             time.sleep(SOME_STEPS)
-        server.kill()
-        status, said = program.end()
-        expect_equal(status, 1, f"status ({said})")
+        yield program, server
     text = state.read_bytes().decode()
     expect_equal(step_of_state(text), STEP, "the step that was saved before")
     moment = float(text.splitlines()[0])
     expect(moment > float(MOMENT) if moving else moment == float(MOMENT), f"saved: {moment}")
     logs = additions((state.parent / "tnwk-log.txt").read_bytes().decode())
     expect(len(logs) == 1 and f"{int(MOMENT):,}.0000 AJD" in logs[0], f"kept: {logs}")
+
+
+def display_goes(shop, moving):
+    with in_use(shop, moving) as (program, server):
+        server.kill()
+        expect_end(program, 1)
+
+
+def signalled(shop, number, moving):
+    with in_use(shop, moving) as (program, _):
+        program.process.send_signal(number)
+        expect_end(program, -number)
 
 
 def cases():
@@ -188,3 +205,6 @@ def cases():
     yield "display: of an unknown kind", partial(without_display, QT_QPA_PLATFORM="none")
     yield "display: goes", partial(display_goes, moving=False)
     yield "display: goes during a move", partial(display_goes, moving=True)
+    for number in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
+        yield f"signal: {number.name}", partial(signalled, number=number, moving=False)
+    yield "signal: during a move", partial(signalled, number=signal.SIGTERM, moving=True)
