@@ -29,19 +29,17 @@ double Improved(double ajd, const MovingAngle& elongation, std::int32_t phase) {
   return ajd - Offset(elongation.value, phase) / elongation.rate;
 }
 
-MovingAngle ElongationAt(double ajd) {
-  const MoonAndSun positions = PositionsAt(ajd);
+MovingAngle ElongationOf(const MoonAndSun& positions) {
   const MovingAngle& moon = positions.moon.longitude;
   const MovingAngle& sun = positions.sun.longitude;
   return {moon.value - sun.value, moon.rate - sun.rate};
 }
 
-// Two steps with the largest terms lead from the mean phase, up to 14 hours away, to within a
-// minute; then one with all terms leaves less than a millisecond.
-double PhaseInstant(double mean, std::int32_t phase) {
+// From the mean phase, up to 14 hours away, to within a minute of the true one.
+double InstantNearPhase(double mean, std::int32_t phase) {
   double ajd = mean;
   for (int i = 0; i < 2; ++i) ajd = Improved(ajd, RoughElongationAt(ajd), phase);
-  return Improved(ajd, ElongationAt(ajd), phase);
+  return ajd;
 }
 
 bool MayHaveEclipse(double mean_syzygy) {
@@ -60,9 +58,11 @@ void FillRecord(const Eclipse& eclipse, std::int32_t saros, EclipseRecord& recor
   record.total_minutes = eclipse.total_minutes;
 }
 
-void FindEclipse(std::int32_t lunation, std::int32_t phase, double instant, EclipseRecord& record) {
+void FindEclipse(std::int32_t lunation, std::int32_t phase, double near_syzygy,
+                 const MoonAndSun& positions, EclipseRecord& record) {
   const bool solar = phase == kNewMoon;
-  const Eclipse eclipse = solar ? SolarEclipseAt(instant) : LunarEclipseAt(instant);
+  const Eclipse eclipse =
+      solar ? SolarEclipseNear(near_syzygy, positions) : LunarEclipseNear(near_syzygy, positions);
   if (eclipse.type == kNotEclipsed) return;
   FillRecord(eclipse, solar ? SolarSaros(lunation) : LunarSaros(lunation), record);
 }
@@ -71,11 +71,15 @@ void FindEclipse(std::int32_t lunation, std::int32_t phase, double instant, Ecli
 
 double syzyg(std::int32_t lunation, std::int32_t phase, EclipseRecord& record) {
   const double mean = MeanElongationInstant(lunation + 1.0 + phase / 4.0);
-  const double instant = PhaseInstant(mean, phase);
+  const double near_phase = InstantNearPhase(mean, phase);
+  const MoonAndSun positions = PositionsAt(near_phase);
   record = {};
   record.lunation = lunation;
-  if (IsSyzygy(phase) && MayHaveEclipse(mean)) FindEclipse(lunation, phase, instant, record);
-  return instant;
+  if (IsSyzygy(phase) && MayHaveEclipse(mean)) {
+    FindEclipse(lunation, phase, near_phase, positions, record);
+  }
+  // With all terms one more step leaves less than a millisecond.
+  return Improved(near_phase, ElongationOf(positions), phase);
 }
 
 double deltat(double year, std::int32_t /*model*/) {

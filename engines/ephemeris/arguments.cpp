@@ -1,7 +1,7 @@
 #include "engines/ephemeris/arguments.h"
 
 #include <algorithm>
-#include <cmath>
+#include <cstdint>
 #include <numbers>
 
 #include "engines/time_units.h"
@@ -24,7 +24,7 @@ constexpr std::size_t kP = 15;
 constexpr std::size_t kQ = 16;
 static_assert(kArguments.size() == kQ + 1);
 
-// A polynomial's value and its rate a century.
+// The value of a polynomial and its rate a century.
 MovingAngle Evaluate(const Polynomial& c, double t) {
   double value = 0;
   double rate = 0;
@@ -37,20 +37,31 @@ MovingAngle Evaluate(const Polynomial& c, double t) {
 
 double Centuries(double ajd_tt) { return (ajd_tt - kJ2000) / kDaysPerCentury; }
 
+// The mean longitudes of the planets go on at a steady rate.
+constexpr bool IsPlanet(std::size_t argument) {
+  return argument > kMoonLongitude && argument < kAngles;
+}
+
 // Degrees and degrees a century; along the tangent outside the span.
-MovingAngle Continue(const Polynomial& c, double ajd_tt) {
+MovingAngle Continue(std::size_t argument, double ajd_tt) {
+  const Polynomial& c = kArguments[argument];
+  if (IsPlanet(argument)) return {c[0] + c[1] * Centuries(ajd_tt), c[1]};
   const double held = HeldCenturies(ajd_tt);
   MovingAngle angle = Evaluate(c, held);
   angle.value += angle.rate * (Centuries(ajd_tt) - held);
   return angle;
 }
 
+// By way of an integer, since not every processor has an instruction for std::floor.
 double ReducedRadians(double degrees) {
-  return (degrees - 360 * std::floor(degrees / 360)) * kRadiansPerDegree;
+  const double turns = degrees * (1.0 / 360);
+  const auto whole = static_cast<double>(static_cast<std::int64_t>(turns));
+  const double begun = whole - (turns < whole ? 1 : 0);
+  return (degrees - 360 * begun) * kRadiansPerDegree;
 }
 
 MovingAngle AngleAt(std::size_t argument, double ajd_tt) {
-  const MovingAngle degrees = Continue(kArguments[argument], ajd_tt);
+  const MovingAngle degrees = Continue(argument, ajd_tt);
   return {ReducedRadians(degrees.value), degrees.rate * kRadiansPerDegree / kDaysPerCentury};
 }
 
@@ -75,7 +86,7 @@ double MeanElongationInstant(double turns) {
   const Polynomial& c = kArguments[kD];
   double ajd_tt = kJ2000 + (360 * turns - c[0]) / c[1] * kDaysPerCentury;
   for (int i = 0; i < 3; ++i) {
-    const MovingAngle degrees = Continue(c, ajd_tt);
+    const MovingAngle degrees = Continue(kD, ajd_tt);
     ajd_tt += (360 * turns - degrees.value) / degrees.rate * kDaysPerCentury;
   }
   return ajd_tt;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engines/eclipse_type.h"
+#include "engines/ephemeris/positions.h"
 
 namespace tarnwick {
 
@@ -16,9 +17,10 @@ struct Eclipse {
   double total_minutes = 0;
 };
 
-// The eclipse at a new or full moon, whose instant (AJD, Terrestrial Time) is given. Type
-// kNotEclipsed, and all else 0, where there is none.
-Eclipse SolarEclipseAt(double new_moon);
-Eclipse LunarEclipseAt(double full_moon);
+// The eclipse at a new or full moon, of which an instant within minutes of it (AJD, Terrestrial
+// Time) and the positions at that instant are given. Type kNotEclipsed, and all else 0, where there
+// is none.
+Eclipse SolarEclipseNear(double new_moon, const MoonAndSun& positions);
+Eclipse LunarEclipseNear(double full_moon, const MoonAndSun& positions);
 
 }  // namespace tarnwick

@@ -90,10 +90,10 @@ double Gamma(const MoonAndSunVectors& places, const ShadowCircles& circles) {
 
 }  // namespace
 
-Eclipse LunarEclipseAt(double full_moon) {
-  const MoonAndSunVectors middle = MoonAndSunVectorsAt(full_moon);
-  if (!MayMeetShadow(middle)) return {};
-  const MoonSunTrack track(full_moon, middle);
+Eclipse LunarEclipseNear(double full_moon, const MoonAndSun& positions) {
+  const MoonAndSunVectors places = VectorsOf(positions);
+  if (!MayMeetShadow(places)) return {};
+  const MoonSunTrack track(full_moon, places);
   const double greatest = track.ClosestApproach(FromAntisolarPoint);
   const ShadowCircles circles = CirclesAt(track, greatest);
 

@@ -22,16 +22,15 @@ MovingVector Rectangular(const Position& position) {
 
 }  // namespace
 
-MoonAndSunVectors MoonAndSunVectorsAt(double ajd_tt) {
-  const MoonAndSun positions = PositionsAt(ajd_tt);
+MoonAndSunVectors VectorsOf(const MoonAndSun& positions) {
   return {Rectangular(positions.moon), Rectangular(positions.sun)};
 }
 
-MoonSunTrack::MoonSunTrack(double syzygy, const MoonAndSunVectors& middle) {
-  const MoonAndSunVectors before = MoonAndSunVectorsAt(syzygy - kReach);
-  const MoonAndSunVectors after = MoonAndSunVectorsAt(syzygy + kReach);
-  moon_ = Interpolate(before.moon, middle.moon, after.moon);
-  sun_ = Interpolate(before.sun, middle.sun, after.sun);
+MoonSunTrack::MoonSunTrack(double middle, const MoonAndSunVectors& places) {
+  const MoonAndSunVectors before = VectorsOf(PositionsAt(middle - kReach));
+  const MoonAndSunVectors after = VectorsOf(PositionsAt(middle + kReach));
+  moon_ = Interpolate(before.moon, places.moon, after.moon);
+  sun_ = Interpolate(before.sun, places.sun, after.sun);
 }
 
 // In u = offset / kReach the outer instants are -1 and 1. Half the sum of the outer places gives

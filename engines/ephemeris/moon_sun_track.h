@@ -1,10 +1,11 @@
 // Moon and Sun through the hours around a new or full moon.
 //
 // The series cost microseconds and an eclipse asks for some fifty positions, so that they are
-// evaluated at three instants only. A polynomial of the fifth degree goes through the three places
-// with the velocities found there (Hermite). The Moon strays from the series by less than 1e-8
-// Earth radii, the axis of its shadow by less than 2e-8; the Sun by less than 4e-6, because the
-// velocities leave out the slow change of the amplitudes.
+// evaluated at three instants only, of which the search for the syzygy has made the middle one. A
+// polynomial of the fifth degree goes through the three places with the velocities found there
+// (Hermite). The Moon strays from the series by less than 1e-8 Earth radii, the axis of its shadow
+// by less than 2e-8; the Sun by less than 4e-6, because the velocities leave out the slow change of
+// the amplitudes.
 //
 // Rectangular coordinates in the mean ecliptic and equinox of date: x to the equinox, z to the pole
 // of the ecliptic. Unit: the Earth's equatorial radius, 6378.137 km. Time: days, Terrestrial Time.
@@ -29,8 +30,8 @@ struct MoonAndSunVectors {
   MovingVector sun;
 };
 
-// Apparent geocentric places straight from the series, at an AJD.
-MoonAndSunVectors MoonAndSunVectorsAt(double ajd_tt);
+// Apparent geocentric places as vectors.
+MoonAndSunVectors VectorsOf(const MoonAndSun& positions);
 
 // Days until a vector is shortest if it goes on along a straight line.
 inline double TimeToClosest(const MovingVector& a) {
@@ -39,15 +40,15 @@ inline double TimeToClosest(const MovingVector& a) {
 
 class MoonSunTrack {
  public:
-  // The track is good for offsets from the syzygy of up to this many days either way: the longest
+  // The track is good for offsets from its middle of up to this many days either way: the longest
   // penumbral eclipses last 6.4 hours, and greatest eclipse stays within half an hour of the
   // syzygy.
   static constexpr double kReach = 0.2;
 
-  // `middle` is what MoonAndSunVectorsAt gives at the syzygy.
-  MoonSunTrack(double syzygy, const MoonAndSunVectors& middle);
+  // Its middle (AJD, Terrestrial Time), within minutes of the syzygy, and the places then.
+  MoonSunTrack(double middle, const MoonAndSunVectors& places);
 
-  // Places at so many days after the syzygy.
+  // Places at so many days after the middle.
   MoonAndSunVectors At(double offset) const;
 
   // The offset, within reach, at which the vector that `distance` makes of the places is shortest.

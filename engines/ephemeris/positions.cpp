@@ -31,21 +31,28 @@ constexpr SeriesTerm kSunDistanceTerms[] = {
 #include "engines/ephemeris/sun_distance.inc"
 };
 
-using Terms = std::span<const SeriesTerm>;
-enum Table {
-  kMoonLongitudeTable,
+enum Series {
+  kMoonLongitudeSeries,
   kMoonLatitude,
   kMoonDistance,
   kSunLongitude,
   kSunLatitude,
   kSunDistance
 };
-constexpr Terms kTables[] = {kMoonLongitudeTerms, kMoonLatitudeTerms, kMoonDistanceTerms,
-                             kSunLongitudeTerms,  kSunLatitudeTerms,  kSunDistanceTerms};
+// What is large stands in tools/ephemeris/make_tables.py too.
+constexpr SeriesTable kTables[] = {{kMoonLongitudeTerms, 2}, {kMoonLatitudeTerms, 2},
+                                   {kMoonDistanceTerms, 50}, {kSunLongitudeTerms, 2},
+                                   {kSunLatitudeTerms, 2},   {kSunDistanceTerms, 100}};
+constexpr PhasorProduct kProducts[] = {
+#include "engines/ephemeris/products.inc"
+};
 
-enum RoughTable { kRoughMoon, kRoughSun };
-constexpr Terms kRoughTables[] = {Terms(kMoonLongitudeTerms).first(80),
-                                  Terms(kSunLongitudeTerms).first(10)};
+enum RoughSeries { kRoughMoon, kRoughSun };
+constexpr SeriesTable kRoughTables[] = {{std::span(kMoonLongitudeTerms).first(80)},
+                                        {std::span(kSunLongitudeTerms).first(10)}};
+constexpr PhasorProduct kRoughProducts[] = {
+#include "engines/ephemeris/rough_products.inc"
+};
 
 double Reduced(double radians) { return radians - kTurn * std::floor(radians / kTurn); }
 
@@ -78,7 +85,7 @@ void Tip(MovingAngle& latitude, const Tilt& tilt, double longitude_rate) {
 
 Position MoonAt(const Arguments& arguments, const SeriesSet::Values& series) {
   const MovingAngle& mean = arguments.angles[kMoonLongitude];
-  const MovingAngle a = Longitude(mean, series[kMoonLongitudeTable]);
+  const MovingAngle a = Longitude(mean, series[kMoonLongitudeSeries]);
   const MovingAngle b = Latitude(series[kMoonLatitude]);
   const Tilt tilt = TiltAt(arguments, a.value);
   const double tan_b = std::tan(b.value);
@@ -108,14 +115,14 @@ Position SunAt(const Arguments& arguments, const SeriesSet::Values& series) {
 }  // namespace
 
 MoonAndSun PositionsAt(double ajd_tt) {
-  static const SeriesSet series(kTables);
+  static const SeriesSet series(kTables, kProducts);
   const Arguments arguments = ArgumentsAt(ajd_tt);
   const SeriesSet::Values values = series.Evaluate(arguments);
   return {MoonAt(arguments, values), SunAt(arguments, values)};
 }
 
 MovingAngle RoughElongationAt(double ajd_tt) {
-  static const SeriesSet series(kRoughTables);
+  static const SeriesSet series(kRoughTables, kRoughProducts);
   const Arguments arguments = ArgumentsAt(ajd_tt);
   const SeriesSet::Values values = series.Evaluate(arguments);
   const MovingAngle moon = Longitude(arguments.angles[kMoonLongitude], values[kRoughMoon]);

@@ -13,7 +13,7 @@
 // apart when a plane separates them; for a cone beside the limb it may be taken tangent to the
 // cone.
 //
-// Unit of length: the Earth's equatorial radius. Times are days from the new moon.
+// Unit of length: the Earth's equatorial radius. Times are days from the middle of the track.
 #include <cmath>
 
 #include "engines/ephemeris/bounded_search.h"
@@ -44,9 +44,9 @@ bool MayMeetEarth(const MoonAndSunVectors& places) {
 // A new moon whose shadow comes near the Earth.
 class Passage {
  public:
-  Passage(double new_moon, const MoonAndSunVectors& middle)
-      : track_(new_moon, middle),
-        earth_(Spheroid::EarthAt(new_moon)),
+  Passage(double middle, const MoonAndSunVectors& places)
+      : track_(middle, places),
+        earth_(Spheroid::EarthAt(middle)),
         greatest_(track_.ClosestApproach(ShadowAxisFoot)) {}
 
   double Greatest() const { return greatest_; }
@@ -148,10 +148,10 @@ double Passage::Magnitude() const {
 
 }  // namespace
 
-Eclipse SolarEclipseAt(double new_moon) {
-  const MoonAndSunVectors middle = MoonAndSunVectorsAt(new_moon);
-  if (!MayMeetEarth(middle)) return {};
-  const Passage passage(new_moon, middle);
+Eclipse SolarEclipseNear(double new_moon, const MoonAndSun& positions) {
+  const MoonAndSunVectors places = VectorsOf(positions);
+  if (!MayMeetEarth(places)) return {};
+  const Passage passage(new_moon, places);
   Eclipse eclipse;
   eclipse.type = passage.FindType();
   if (eclipse.type == kNotEclipsed) return {};

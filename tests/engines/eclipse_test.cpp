@@ -26,6 +26,9 @@ double Syzygy(std::int32_t lunation, std::int32_t phase) {
   return syzyg(lunation, phase, record);
 }
 
+Eclipse SolarEclipseAt(double instant) { return SolarEclipseNear(instant, PositionsAt(instant)); }
+Eclipse LunarEclipseAt(double instant) { return LunarEclipseNear(instant, PositionsAt(instant)); }
+
 Eclipse SolarEclipseOf(std::int32_t lunation) { return SolarEclipseAt(Syzygy(lunation, kNewMoon)); }
 Eclipse LunarEclipseOf(std::int32_t lunation) {
   return LunarEclipseAt(Syzygy(lunation, kFullMoon));
@@ -191,9 +194,9 @@ TEST(MoonSunTrack, StraysLessThanAMillionthOfTheEarthsRadius) {
   for (std::int32_t lunation = -64316; lunation <= 49472; lunation += 911) {
     for (const std::int32_t phase : {kNewMoon, kFullMoon}) {
       const double syzygy = Syzygy(lunation, phase);
-      const MoonSunTrack track(syzygy, MoonAndSunVectorsAt(syzygy));
+      const MoonSunTrack track(syzygy, VectorsOf(PositionsAt(syzygy)));
       for (const double offset : {-0.17, -0.09, -0.04, 0.03, 0.11, 0.16}) {
-        const MoonAndSunVectors direct = MoonAndSunVectorsAt(syzygy + offset);
+        const MoonAndSunVectors direct = VectorsOf(PositionsAt(syzygy + offset));
         const MoonAndSunVectors between = track.At(offset);
         moon.Add(Length(between.moon.value - direct.moon.value));
         sun.Add(Length(between.sun.value - direct.sun.value));
