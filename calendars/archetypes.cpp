@@ -167,15 +167,13 @@ std::string_view ARCDayName(std::int32_t day) {
 std::string_view ARCMonthName(std::int32_t month) { return NameOf(kMonthNames, month); }
 
 std::string ARCDateString(const ARCDate& record, std::int32_t style) {
-  std::string numbers = std::to_string(record.year) + "-" + TwoDigits(record.month) + "-" +
-                        TwoDigits(record.day) + " ARC";
+  std::string numbers = NumericDate({{record.year}, {record.month, 2}, {record.day, 2}}, " ARC");
+  if (style == 1) return numbers;
   const std::string month(ARCMonthName(record.month));
   const std::string year = SignedNumberText(record.year);
   std::string words = month + SignedNumberText(record.day) + ", " + year;
   std::string day_words = std::string(ARCDayName(record.day)) + ", " + words;
   switch (style) {
-    case 1:
-      return numbers;
     case 2:
       return numbers + " (" + day_words + ")";
     case 3:

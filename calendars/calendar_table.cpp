@@ -10,9 +10,13 @@
 namespace tarnwick {
 namespace {
 
+std::string EuroShortForm(const DateRecord& date, Calendar calendar) {
+  return DateText(date) + " " + std::string(AbbreviationOf(calendar));
+}
+
 DateTexts EuroTexts(DayNumber day_number, char letter, Calendar calendar) {
   const DateRecord date = CivilDateOf(day_number.value, letter);
-  const std::string short_form = DateText(date) + " " + std::string(AbbreviationOf(calendar));
+  const std::string short_form = EuroShortForm(date, calendar);
   return {short_form,
           short_form + " (" + WeekdayName(euro_day_of_week(day_number.value)) + ", " +
               std::string(MonthName(date.month)) + " " + std::to_string(date.day) + ", " +
@@ -20,8 +24,30 @@ DateTexts EuroTexts(DayNumber day_number, char letter, Calendar calendar) {
           DayOfYearText(date)};
 }
 
+std::string CEShortForm(DayNumber day_number) {
+  return EuroShortForm(CivilDateOf(day_number.value, 'G'), kCE);
+}
+std::string JCShortForm(DayNumber day_number) {
+  return EuroShortForm(CivilDateOf(day_number.value, 'J'), kJC);
+}
 DateTexts CETexts(DayNumber day_number) { return EuroTexts(day_number, 'G', kCE); }
 DateTexts JCTexts(DayNumber day_number) { return EuroTexts(day_number, 'J', kJC); }
+
+std::string ARCShortForm(DayNumber day_number) {
+  return ARCDateString(DateOfDay<ARCDate>(day_number), 1);
+}
+std::string SDShortForm(DayNumber day_number) {
+  return SDDateString(DateOfDay<SDDate>(day_number), 1);
+}
+std::string LLTShortForm(DayNumber day_number) {
+  return LLTDateString(DateOfDay<LLTDate>(day_number), 1);
+}
+std::string KSGShortForm(DayNumber day_number) {
+  return KSGDateString(DateOfDay<KSGDate>(day_number), 1, true);
+}
+std::string OLWShortForm(DayNumber day_number) {
+  return OLWDateString(DateOfDay<OLWDate>(day_number), 1);
+}
 
 DateTexts ARCTexts(DayNumber day_number) {
   const ARCDate date = DateOfDay<ARCDate>(day_number);
@@ -106,36 +132,36 @@ ReadDay ReadOLWDay(std::string_view date) {
 constexpr std::array<CalendarRow, kCalendarCount> kRows{{
     {"CE", "Common Era date", "Common Era date",
      "Common Era: the Gregorian calendar, also before 1582; the year before 1 is 0", 0, kInvalidCE,
-     CETexts, ReadCEDay},
+     CEShortForm, CETexts, ReadCEDay},
     {"JC", "Julian date", "Julian date",
      "Julian calendar: every fourth year is a leap year; the year before 1 is 0", 0, kInvalidJC,
-     JCTexts, ReadJCDay},
+     JCShortForm, JCTexts, ReadJCDay},
     {"ARC", "Archetypes Calendar date", "Archetypes Calendar date",
      "Archetypes Calendar: 12 or 13 months of 30 and 29 days a year, by a rule over 1803 years", 0,
-     kInvalidARC, ARCTexts, ReadARCDay},
+     kInvalidARC, ARCShortForm, ARCTexts, ReadARCDay},
     {"SD", "Sarvik-Dolmer Solilunar Calendar date", "Sarvik-Dolmer Solilunar Calendar date",
      "Sarvik-Dolmer Solilunar Calendar: 12 or 13 months from the new moon nearest the March "
      "equinox",
-     0, kInvalidSD, SDTexts, ReadSDDay},
+     0, kInvalidSD, SDShortForm, SDTexts, ReadSDDay},
     {"LLT", "Lunar Liberalia Triday Calendar date", "Lunar Liberalia Triday Calendar date",
      "Lunar Liberalia Triday Calendar: 12 lunar months a year, each divided into tridays of three "
      "days",
-     0, kInvalidLLT, LLTTexts, ReadLLTDay},
+     0, kInvalidLLT, LLTShortForm, LLTTexts, ReadLLTDay},
     {"KSG", "Kestrin-Sarvik Goddess Calendar date", "Kestrin-Sarvik Goddess Calendar date",
      "Kestrin-Sarvik Goddess Calendar: 13 months of 30 and 29 days a year, in cycles of 470 years",
-     0, kInvalidKSG, KSGTexts, ReadKSGDay},
+     0, kInvalidKSG, KSGShortForm, KSGTexts, ReadKSGDay},
     {"CJD", "chronological Julian date", "Chronological Julian date",
      "Chronological Julian date: days counted from midnight in the chosen zone; 2000-01-01 CE is "
      "day 2,451,545",
-     0, kInvalidDayCount, nullptr, nullptr},
+     0, kInvalidDayCount, nullptr, nullptr, nullptr},
     {"AJD", "astronomical Julian date", "Astronomical Julian date",
      "Astronomical Julian date: days counted from noon at Greenwich; noon of 2000-01-01 CE is "
      "2,451,545",
-     0, kInvalidDayCount, nullptr, nullptr},
+     0, kInvalidDayCount, nullptr, nullptr, nullptr},
     {"OLW", "Ostrel Lunar Week Calendar", "Ostrel Lunar Week Calendar date",
      "Ostrel Lunar Week Calendar: months by the true Moon, weeks that end with its phases, days "
      "from 6 hours",
-     kOLWDayShift, kInvalidOLW, OLWTexts, ReadOLWDay},
+     kOLWDayShift, kInvalidOLW, OLWShortForm, OLWTexts, ReadOLWDay},
 }};
 
 }  // namespace

@@ -50,6 +50,7 @@ struct CalendarRow {
   double day_shift;              // of the beginning of its days after midnight, in days
   EntryCode failure;             // why a text is refused that is none of its dates
   // Nothing for a day count:
+  std::string (*short_form)(DayNumber day_number);  // of its texts
   DateTexts (*texts)(DayNumber day_number);
   // The text is a date without abbreviation. Throws RuntimeError when a number is too large.
   ReadDay (*read)(std::string_view date);

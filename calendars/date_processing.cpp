@@ -166,11 +166,11 @@ std::string_view AnnusNovusDayName(std::int32_t day) {
 
 std::string YearText(std::int32_t year) {
   const bool long_year = year > 9999 || year < -9999;
-  return separate_thousands(std::to_string(year), long_year ? ',' : 0);
+  return long_year ? separate_thousands(std::to_string(year), ',') : std::to_string(year);
 }
 
 std::string DateText(const DateRecord& record) {
-  return YearText(record.year) + "-" + TwoDigits(record.month) + "-" + TwoDigits(record.day);
+  return YearText(record.year) + "-" + NumericDate({{record.month, 2}, {record.day, 2}});
 }
 
 std::string DayOfYearText(const DateRecord& record) {

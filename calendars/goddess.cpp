@@ -63,8 +63,8 @@ std::string Words(std::string_view name, std::int32_t number) {
 }
 
 std::string NumericText(const KSGDate& record, bool with_abbreviation) {
-  return std::to_string(record.cycle) + "-" + std::to_string(record.year) + "-" +
-         TwoDigits(record.month) + "-" + TwoDigits(record.day) + (with_abbreviation ? " KSG" : "");
+  return NumericDate({{record.cycle}, {record.year}, {record.month, 2}, {record.day, 2}},
+                     with_abbreviation ? " KSG" : "");
 }
 
 // "Monday, Maria 11, 1-105"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 
 #include "calendars/equinoxes.h"
 #include "calendars/text.h"
@@ -37,12 +38,22 @@ constexpr std::array<std::string_view, kMonths> kShortMonthNames{
     "Artaud", "Benjam", "Clark",   "De Quin", "Ellis", "Furst", "Grof",
     "Hoffm",  "Izumi",  "Janiger", "Kesey",   "Lilly", "Kestr"};
 
-// The lunation of month 1 of the year tied to a Gregorian year.
+// The lunation of month 1 of the year tied to a Gregorian year. Every conversion asks for one or
+// two, and the next one for the same, so those found last are kept.
 std::int32_t FirstLunation(std::int32_t gregorian_year) {
-  UniversalTime instant;
-  std::int32_t lunation = 0;
-  NearestNewMoon(OLWYearReference(gregorian_year), instant, lunation);
-  return lunation;
+  struct YearBegin {
+    std::optional<std::int32_t> year;
+    std::int32_t lunation = 0;
+  };
+  static std::array<YearBegin, 16> kept;
+  YearBegin& place = kept[static_cast<std::uint32_t>(gregorian_year) % kept.size()];
+  if (place.year != gregorian_year) {
+    UniversalTime instant;
+    std::int32_t lunation = 0;
+    NearestNewMoon(OLWYearReference(gregorian_year), instant, lunation);
+    place = {gregorian_year, lunation};
+  }
+  return place.lunation;
 }
 
 std::int32_t GregorianYear(std::int32_t olw_year) {
@@ -215,8 +226,7 @@ std::string_view OLWShortMonthName(std::int32_t month) { return NameOf(kShortMon
 std::string OLWDateString(const OLWDate& record, std::int32_t style) {
   switch (style) {
     case 1:
-      return std::to_string(record.year) + "-" + TwoDigits(record.month) + "-" +
-             std::to_string(record.week) + "-" + std::to_string(record.day) + " OLW";
+      return NumericDate({{record.year}, {record.month, 2}, {record.week}, {record.day}}, " OLW");
     case 2:
       return std::string(OLWDayName(record)) + " in " + std::string(OLWWeekName(record.week)) +
              " of " + std::string(OLWMonthName(record.month)) + ", " + std::to_string(record.year);

@@ -31,8 +31,7 @@ void MoveMonth(SDDate& record, bool forward) {
 }
 
 std::string NumericText(const SDDate& record) {
-  return std::to_string(record.cycle) + "-" + TwoDigits(record.year) + "-" +
-         TwoDigits(record.month) + "-" + TwoDigits(record.day) + " SD";
+  return NumericDate({{record.cycle}, {record.year, 2}, {record.month, 2}, {record.day, 2}}, " SD");
 }
 
 // " in the year 7, cycle 3"
@@ -92,11 +91,10 @@ void StepSDMonth(SDDate& record, bool forward) {
 }
 
 std::string SDDateString(const SDDate& record, std::int32_t style) {
+  if (style == 1) return NumericText(record);
   const std::string month(SDMonthName(record.month));
   const std::string day = std::to_string(record.day);
   switch (style) {
-    case 1:
-      return NumericText(record);
     case 2:
       return NumericText(record) + " (" + month + " " + day + ", " + std::to_string(record.cycle) +
              "-" + std::to_string(record.year) + ")";

@@ -184,6 +184,19 @@ std::string PadLeft(std::string_view text, std::int32_t width, char pad) {
   return std::string(missing, pad).append(text);
 }
 
+std::string NumericDate(std::initializer_list<DateNumber> numbers, std::string_view end) {
+  std::string text;
+  for (const auto& [number, width] : numbers) {
+    std::array<char, 11> digits;  // and a sign
+    const auto last = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    const auto size = static_cast<std::size_t>(last - digits.data());
+    if (&number != &numbers.begin()->number) text += '-';
+    if (size < width) text.append(width - size, '0');
+    text.append(digits.data(), size);
+  }
+  return text.append(end);
+}
+
 std::string TwoDigits(std::int32_t number) { return PadLeft(std::to_string(number), 2, '0'); }
 
 std::string SignedNumberText(std::int32_t number) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -54,6 +55,15 @@ std::string FormatFixed(double value, std::int32_t decimals, bool grouping);
 // The text filled up on its left with `pad` to the width; unchanged when it is that long already,
 // or when the width is negative.
 std::string PadLeft(std::string_view text, std::int32_t width, char pad);
+
+// A number of a date, filled up with zeros on its left to the width.
+struct DateNumber {
+  std::int32_t number = 0;
+  std::size_t width = 0;
+};
+
+// The numbers of a date with "-" between them, and what follows: "1-105-13-11 KSG".
+std::string NumericDate(std::initializer_list<DateNumber> numbers, std::string_view end = "");
 
 // A month or day number with at least two digits: 7 gives "07".
 std::string TwoDigits(std::int32_t number);

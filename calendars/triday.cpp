@@ -36,9 +36,9 @@ void ClampTo(std::int32_t tridays, LLTDate& record) {
 }
 
 std::string NumericText(const LLTDate& record) {
-  return (record.cycle == 0 ? "" : std::to_string(record.cycle) + "-") +
-         PadLeft(std::to_string(record.year), 3, '0') + "-" + TwoDigits(record.month) + "-" +
-         TwoDigits(record.triday) + "-" + std::to_string(record.day) + " LLT";
+  const std::string text =
+      NumericDate({{record.year, 3}, {record.month, 2}, {record.triday, 2}, {record.day}}, " LLT");
+  return record.cycle == 0 ? text : std::to_string(record.cycle) + "-" + text;
 }
 
 }  // namespace
@@ -90,12 +90,11 @@ void StepLLTMonth(LLTDate& record, bool forward) {
 
 std::string LLTDateString(const LLTDate& record, std::int32_t style) {
   if (style < 1) return "";
+  if (style == 1) return NumericText(record);
   const std::string day(LLTDayName(record.day));
   const std::string month(LLTMonthName(record.month));
   const std::string year = std::to_string(record.year);
   switch (style) {
-    case 1:
-      return NumericText(record);
     case 2:
       return NumericText(record) + " (" + day + " " + std::to_string(record.triday) + " " + month +
              " " + year + ")";

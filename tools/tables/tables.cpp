@@ -151,12 +151,6 @@ bool PrintEclipses(const Period& period, Printer& printer) {
 
 constexpr std::array kDateColumns{kCE, kJC, kARC, kSD, kLLT, kKSG, kOLW};
 
-// The numeric text of a day without the abbreviation behind it.
-std::string DateCell(Calendar calendar, UniversalTime noon) {
-  const std::string text = DateTextsOf(calendar, noon, 0).short_form;
-  return text.substr(0, text.find(' '));
-}
-
 // The civil day at Greenwich that contains a moment.
 DayNumber DayOf(UniversalTime moment) { return SplitCJD(AJDToCJD(moment, 0)).day_number; }
 
@@ -166,10 +160,15 @@ bool PrintDates(const Period& period, Printer& printer) {
     header += "," + std::string(AbbreviationOf(calendar));
   if (!printer.Print(period.begin, header)) return false;
   const DayNumber end = DayOf(period.end);
+  std::string row;
   for (DayNumber day = DayOf(period.begin); day < end; day = day + 1) {
     const UniversalTime noon = NoonOf(day, 0);
-    std::string row = std::to_string(day.value) + "," + std::to_string(euro_day_of_week(day.value));
-    for (const Calendar calendar : kDateColumns) row += "," + DateCell(calendar, noon);
+    row = std::to_string(day.value) + ',' + std::to_string(euro_day_of_week(day.value));
+    for (const Calendar calendar : kDateColumns) {
+      const std::string text = ShortDateText(calendar, noon, 0);
+      row += ',';
+      row.append(text, 0, text.find(' '));  // without the abbreviation
+    }
     if (!printer.Print(noon, row)) return false;
   }
   return true;
