@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFontMetrics>
+#include <QPainter>
 #include <QToolTip>
 #include <QWidget>
 
@@ -71,6 +72,10 @@ QPalette AccentPalette() {
     palette.setColor(group, QPalette::Mid, Look::kAccentPressed);
   }
   return palette;
+}
+
+double PixelRatioOf(const QPainter& painter) {
+  return std::max(painter.device()->devicePixelRatioF(), painter.deviceTransform().m11());
 }
 
 int Spacing(const QWidget& widget) { return widget.fontMetrics().height() / 2; }

@@ -6,6 +6,7 @@
 #include <QPalette>
 
 class QComboBox;
+class QPainter;
 class QWidget;
 
 namespace tarnwick {
@@ -77,6 +78,10 @@ QPalette AccentPalette();
 
 // The distance between widgets of a group; twice that lies between groups.
 int Spacing(const QWidget& widget);
+
+// How many pixels a unit of the screen has where the painter paints. A saved image
+// is painted on something finer than the screen.
+double PixelRatioOf(const QPainter& painter);
 
 // The font at another size.
 QFont Scaled(const QFont& font, double factor);

@@ -54,13 +54,17 @@ QWidget* MoonView::MakeFacts(MoonSection& section) {
   return facts;
 }
 
-void MoonView::paintEvent(QPaintEvent* /*event*/) {
+// `ratio` is the number of pixels to a unit of the screen.
+QImage MoonView::PaintedGround(double ratio) const {
   const QRect sky(0, 0, width(), facts_->y());
   QRadialGradient glow(sky.center(), 0.75 * std::max(sky.width(), sky.height()));
   glow.setColorAt(0, Look::kSkyGlow);
   glow.setColorAt(1, Look::kSky);
 
-  QPainter painter(this);
+  QImage ground((QSizeF(size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+  ground.setDevicePixelRatio(ratio);
+  ground.fill(Qt::transparent);
+  QPainter painter(&ground);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   const auto fill = [&](const QRect& part, const QBrush& brush) {
@@ -70,6 +74,17 @@ void MoonView::paintEvent(QPaintEvent* /*event*/) {
   };
   fill(sky, glow);
   fill(facts_->geometry(), Look::kLightPanel);
+  return ground;
+}
+
+void MoonView::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  const double ratio = PixelRatioOf(painter);
+  if (ground_.size() != (QSizeF(size()) * ratio).toSize() || facts_top_ != facts_->y()) {
+    ground_ = PaintedGround(ratio);
+    facts_top_ = facts_->y();
+  }
+  painter.drawImage(0, 0, ground_);
 }
 
 void MoonView::AddRow(ValueLabel& label, QGridLayout& rows) {

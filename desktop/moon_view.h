@@ -1,6 +1,8 @@
 // The Moon at the moment in its sky, and the facts about it on a pale ground below.
 #pragma once
 
+#include <QImage>
+
 #include "desktop/binder.h"
 #include "desktop/panel.h"
 #include "moment/moon_section.h"
@@ -19,9 +21,13 @@ class MoonView final : public Panel {
  private:
   QWidget* MakeFacts(MoonSection& section);
   void AddRow(ValueLabel& label, QGridLayout& rows);
+  QImage PaintedGround(double ratio) const;
 
   Binder& binder_;
   QWidget* facts_ = nullptr;
+  // The glow takes longer than all else in the window: it is kept as long as nothing moves.
+  QImage ground_;
+  int facts_top_ = 0;
 };
 
 }  // namespace tarnwick

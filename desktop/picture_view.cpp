@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <utility>
 
+#include "desktop/look.h"
+
 namespace tarnwick {
 namespace {
 
@@ -58,8 +60,7 @@ QImage PictureView::Rendered(QSize pixels) {
 void PictureView::paintEvent(QPaintEvent* /*event*/) {
   if (source_.isNull()) return;
   QPainter painter(this);
-  // A saved image is painted on something finer than the screen.
-  const double ratio = qMax(devicePixelRatioF(), painter.deviceTransform().m11());
+  const double ratio = PixelRatioOf(painter);
   const QSize room = (QSizeF(size()) * ratio).toSize();
   const QSize pixels = source_.size().scaled(room, Qt::KeepAspectRatio);
   if (pixels.isEmpty()) return;

@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstddef>
 #include <optional>
-#include <vector>
 
 namespace tarnwick {
 namespace {
@@ -23,23 +22,32 @@ constexpr double kLimbBlur = 0.02;
 bool IsQuarter(double fraction) { return fraction > 0.49 && fraction < 0.51; }
 
 // The sunlight that a ground like the Moon's sends back (the law of Lommel and Seeliger), which
-// leaves a full Moon as bright at the limb as in the middle. Arguments: the cosines of the angles
-// at which the Sun and the observer stand from the zenith.
-//
-// It comes from a table, since a power for each pixel would take most of the time of a drawing.
-float Sunlight(float sun, float observer) {
-  constexpr int kSteps = 4096;
-  static const std::vector<float> of_reflected = [] {
-    std::vector<float> light;
-    for (int i = 0; i <= kSteps; ++i) {
+// leaves a full Moon as bright at the limb as in the middle. It comes from a table, since a power
+// for each pixel would take most of the time of a drawing.
+class Sunlight {
+ public:
+  Sunlight() {
+    for (std::size_t i = 0; i < of_reflected_.size(); ++i) {
       const double eased = std::pow(static_cast<double>(i) / kSteps, 0.6);
-      light.push_back(static_cast<float>(std::lerp(kTerminatorLight, 1.0, eased)));
+      of_reflected_[i] = static_cast<float>(std::lerp(kTerminatorLight, 1.0, eased));
     }
-    return light;
-  }();
-  if (sun <= 0) return kTerminatorLight;
-  const float reflected = std::min(2 * sun / (sun + observer), 1.0F);
-  return of_reflected[static_cast<std::size_t>(reflected * kSteps)];
+  }
+
+  // The cosines of the angles at which the Sun and the observer stand from the zenith.
+  float At(float sun, float observer) const {
+    if (sun <= 0) return kTerminatorLight;
+    const float reflected = std::min(2 * sun / (sun + observer), 1.0F);
+    return of_reflected_[static_cast<std::size_t>(reflected * kSteps)];
+  }
+
+ private:
+  static constexpr int kSteps = 4096;
+  std::array<float, kSteps + 1> of_reflected_{};
+};
+
+const Sunlight& TheSunlight() {
+  static const Sunlight sunlight;
+  return sunlight;
 }
 
 // A place on the disc, in radii from its centre, x to the right and y down. Beyond the limb the
@@ -81,7 +89,8 @@ class PhaseLight {
 
   // What its lit part is like.
   float SunlightAt(const Spot& spot) const {
-    return Sunlight(side_ * spot.right * sine_ + spot.observer * cosine_, spot.observer);
+    if (cosine_ == 1) return 1;  // of a full Moon
+    return sunlight_.At(side_ * spot.right * sine_ + spot.observer * cosine_, spot.observer);
   }
 
  private:
@@ -100,6 +109,7 @@ class PhaseLight {
     return std::clamp(0.5F + distance * sharpness_, 0.0F, 1.0F);
   }
 
+  const Sunlight& sunlight_ = TheSunlight();
   float side_;  // on which it is lit: 1 for the right one
   float sharpness_;
   float inside_;  // so far from the centre no pixel reaches beyond the limb

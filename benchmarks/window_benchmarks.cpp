@@ -1,0 +1,55 @@
+// How long the main window takes to show a moment, painting included, as a step of a repeated move
+// does. It is painted off the screen, at the size given, in units of the screen.
+#include <QApplication>
+#include <benchmark/benchmark.h>
+#include <cstdlib>
+#include <string>
+
+#include "desktop/accessible.h"
+#include "desktop/look.h"
+#include "desktop/main_window_view.h"
+#include "tools/driver/driver_desktop.h"
+
+namespace tarnwick {
+namespace {
+
+// One step on and one back, by turns, so that the picture of the Moon changes each time.
+void PaintedStep(benchmark::State& state, const std::string& moment) {
+  HandlerGate gate([](const std::string&) { std::abort(); });
+  DriverDesktop desktop([](YieldMode) {}, QCoreApplication::applicationDirPath().toStdString());
+  Screen screen;
+  frmMain form(desktop, screen);
+  MainWindowView view(form, gate);
+  form.Load();
+  view.resize(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+  form.entry.txbDate.SetText(moment);
+  form.entry.cmdCompute.Click();
+  QCoreApplication::processEvents();
+  int direction = 0;
+  for ([[maybe_unused]] auto _ : state) {
+    form.move.optMoveDirection[direction].Click();
+    form.move.cmdMove.Click();
+    QCoreApplication::processEvents();
+    direction = 1 - direction;
+  }
+}
+BENCHMARK_CAPTURE(PaintedStep, Gibbous, "2024-03-20 CE")
+    ->Args({1137, 742})
+    ->Args({1900, 1000})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(PaintedStep, Crescent, "2024-03-14 CE")
+    ->Args({1137, 742})
+    ->Args({1900, 1000})
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace tarnwick
+
+int main(int argc, char** argv) {
+  if (std::getenv("QT_QPA_PLATFORM") == nullptr) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  tarnwick::InstallAccessibles();
+  tarnwick::ApplyLook();
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+}
