@@ -3,33 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <iterator>
 
-#include "engines/ephemeris/arguments.h"
+#include "engines/ephemeris/earth_frame.h"
 
 namespace tarnwick {
-namespace {
-
-constexpr double kFlattening = 1 / 298.257;
-constexpr double kPolarRadius = 1 - kFlattening;
-constexpr double kEccentricitySquared = 1 - kPolarRadius * kPolarRadius;
-
-// Mean obliquity of the ecliptic by powers of ten thousand Julian years from J2000, arcseconds
-// (Laskar, Astronomy and Astrophysics 157, 1986, table 8).
-constexpr double kObliquity[] = {84381.448, -4680.93, -1.55, 1999.25, -51.38, -249.67,
-                                 -39.05,    7.12,     27.87, 5.79,    2.45};
-
-// Radians. It keeps its value beyond the ends of the ephemeris, long before the powers run away.
-double MeanObliquity(double ajd_tt) {
-  const double u = HeldCenturies(ajd_tt) / 100;
-  double arcseconds = 0;
-  for (std::size_t i = std::size(kObliquity); i-- > 0;) {
-    arcseconds = arcseconds * u + kObliquity[i];
-  }
-  return arcseconds * kRadiansPerArcsecond;
-}
-
-}  // namespace
 
 Spheroid Spheroid::EarthAt(double ajd_tt) {
   const double obliquity = MeanObliquity(ajd_tt);

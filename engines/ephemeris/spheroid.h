@@ -29,6 +29,10 @@ struct TangentPlane {
   double gap = 0;  // from the ellipsoid to the plane; negative when the plane cuts the ellipsoid
 };
 
+inline constexpr double kFlattening = 1 / 298.257;
+inline constexpr double kPolarRadius = 1 - kFlattening;
+inline constexpr double kEccentricitySquared = 1 - kPolarRadius * kPolarRadius;
+
 class Spheroid {
  public:
   // The Earth in coordinates of the mean ecliptic and equinox of a date (AJD).
