@@ -15,6 +15,7 @@
 #include "engines/phases.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
+#include "tools/tables/printer.h"
 
 namespace tarnwick {
 namespace {
@@ -27,41 +28,6 @@ constexpr std::string_view kUsage =
     "Prints every principal phase, eclipse or day from 1 January of the CE year FROM up to but\n"
     "not including that of TO, as CSV. Years -3200 to 6001.\n";
 
-// What is to be printed: from `begin` (inclusive) to `end`.
-struct Period {
-  UniversalTime begin;
-  UniversalTime end;
-};
-
-// Where a table goes, and how far it has come.
-class Printer {
- public:
-  Printer(const Period& period, std::ostream& out, std::ostream* progress)
-      : period_(period), out_(out), progress_(progress) {}
-
-  // Prints a row that belongs to a moment; false when the output takes no more.
-  bool Print(UniversalTime moment, const std::string& row) {
-    ShowProgress(moment);
-    out_ << row << '\n';
-    return out_.good();
-  }
-
- private:
-  void ShowProgress(UniversalTime moment) {
-    if (progress_ == nullptr) return;
-    const int percent =
-        static_cast<int>(100 * (moment - period_.begin) / (period_.end - period_.begin));
-    if (percent == percent_) return;
-    percent_ = percent;
-    *progress_ << '\r' << percent << " %" << std::flush;
-  }
-
-  Period period_;
-  std::ostream& out_;
-  std::ostream* progress_;
-  int percent_ = -1;
-};
-
 UniversalTime NewYear(std::int32_t year) {
   DateRecord date;
   date.calendar = 'G';
@@ -69,25 +35,6 @@ UniversalTime NewYear(std::int32_t year) {
   date.month = 1;
   date.day = 1;
   return CJDToAJD(LocalCJD(euro_date_to_jdn(date)), 0);
-}
-
-std::string Join(std::span<const std::string> cells) {
-  std::string row;
-  for (const std::string& cell : cells) {
-    if (!row.empty()) row += ',';
-    row += cell;
-  }
-  return row;
-}
-
-template <class Scale>
-std::string Cell(Instant<Scale> instant) {
-  return FormatFixed(instant.days, 7, false);
-}
-
-// Empty for what a kind of eclipse does not have.
-std::string Optional(double value, int decimals) {
-  return value == 0 ? "" : FormatFixed(value, decimals, false);
 }
 
 // Calls visit(lunation, phase, event) for the phases of the lunations that touch the period, in
@@ -102,10 +49,6 @@ bool VisitPhases(const Period& period, std::int16_t step, const Visit& visit) {
     }
   }
   return true;
-}
-
-bool Contains(const Period& period, UniversalTime moment) {
-  return moment >= period.begin && moment < period.end;
 }
 
 bool PrintPhases(const Period& period, Printer& printer) {
