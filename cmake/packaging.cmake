@@ -1,5 +1,5 @@
 # What an installation holds, and the Debian package made of it. The program looks for its pictures
-# beside itself, so both lie in a folder of their own.
+# and tables beside itself, so all lie in a folder of their own.
 install(TARGETS tarnwick DESTINATION lib/tarnwick)
 install(DIRECTORY assets DESTINATION lib/tarnwick PATTERN "*.ico" EXCLUDE)
 install(CODE [[
