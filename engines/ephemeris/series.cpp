@@ -32,8 +32,8 @@ struct Phasor {
   double im;
 };
 
-// The phasors of all 64ths of a turn.
-constexpr int kSteps = 64;
+// The phasors of all 128ths of a turn.
+constexpr int kSteps = 128;
 constexpr double kStep = 2 * std::numbers::pi / kSteps;
 using StepPhasors = std::array<Phasor, kSteps + 1>;
 
@@ -46,13 +46,13 @@ StepPhasors MakeSteps() {
   return steps;
 }
 
-// exp(i angle), angle in [0, 2 pi]: the phasor of the nearest 64th of a turn, and what is left to
-// the angle by the series of sine and cosine. std::sin and std::cos decide between several ways,
-// which for an angle that nobody can foresee takes longer than the arithmetic.
+// exp(i angle), angle in [0, 2 pi]: the phasor of the 128ths of a turn that are full, and what is
+// left to the angle by the series of sine and cosine. std::sin and std::cos decide between several
+// ways, which for an angle that nobody can foresee takes longer than the arithmetic.
 Phasor PhasorOf(double angle, const StepPhasors& steps) {
-  const int nearest = static_cast<int>(angle * (1 / kStep) + 0.5);
-  const auto& [re, im] = steps[static_cast<std::size_t>(nearest)];
-  const double r = angle - nearest * kStep;
+  const int full = static_cast<int>(angle * (1 / kStep));
+  const auto& [re, im] = steps[static_cast<std::size_t>(full)];
+  const double r = angle - full * kStep;
   const double q = r * r;
   const double cosine =
       1 - q * (1.0 / 2) * (1 - q * (1.0 / 12) * (1 - q * (1.0 / 30) * (1 - q * (1.0 / 56))));
