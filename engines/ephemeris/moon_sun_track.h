@@ -1,11 +1,12 @@
-// Moon and Sun through the hours around a new or full moon.
+// Moon and Sun through the hours around a new or full moon, or through a day.
 //
 // The series cost microseconds and an eclipse asks for some fifty positions, so that they are
 // evaluated at three instants only, of which the search for the syzygy has made the middle one. A
 // polynomial of the fifth degree goes through the three places with the velocities found there
-// (Hermite). The Moon strays from the series by less than 1e-8 Earth radii, the axis of its shadow
-// by less than 2e-8; the Sun by less than 4e-6, because the velocities leave out the slow change of
-// the amplitudes.
+// (Hermite). Within the hours of an eclipse the Moon strays from the series by less than 1e-8 Earth
+// radii, the axis of its shadow by less than 2e-8; the Sun by less than 4e-6, because the
+// velocities leave out the slow change of the amplitudes. Within a day the Moon strays by less than
+// 0.001".
 //
 // Rectangular coordinates in the mean ecliptic and equinox of date: x to the equinox, z to the pole
 // of the ecliptic. Unit: the Earth's equatorial radius, 6378.137 km. Time: days, Terrestrial Time.
@@ -40,16 +41,18 @@ inline double TimeToClosest(const MovingVector& a) {
 
 class MoonSunTrack {
  public:
-  // The track is good for offsets from its middle of up to this many days either way: the longest
-  // penumbral eclipses last 6.4 hours, and greatest eclipse stays within half an hour of the
-  // syzygy.
+  // As far as an eclipse needs: the longest penumbral ones last 6.4 hours, and greatest eclipse
+  // stays within half an hour of the syzygy.
   static constexpr double kReach = 0.2;
 
-  // Its middle (AJD, Terrestrial Time), within minutes of the syzygy, and the places then.
-  MoonSunTrack(double middle, const MoonAndSunVectors& places);
+  // Its middle (AJD, Terrestrial Time), for an eclipse within minutes of the syzygy, and the places
+  // then. The track is good for offsets from its middle of up to `reach` days either way.
+  MoonSunTrack(double middle, const MoonAndSunVectors& places, double reach = kReach);
 
   // Places at so many days after the middle.
-  MoonAndSunVectors At(double offset) const;
+  MoonAndSunVectors At(double offset) const { return {MoonAt(offset), SunAt(offset)}; }
+  MovingVector MoonAt(double offset) const { return Evaluate(moon_, offset); }
+  MovingVector SunAt(double offset) const { return Evaluate(sun_, offset); }
 
   // The offset, within reach, at which the vector that `distance` makes of the places is shortest.
   // That vector must move nearly along a straight line. Gauss-Newton; each step leaves less than a
@@ -58,18 +61,19 @@ class MoonSunTrack {
   double ClosestApproach(const Distance& distance) const {
     double offset = 0;
     for (int i = 0; i < 6; ++i) {
-      offset = std::clamp(offset + TimeToClosest(distance(At(offset))), -kReach, kReach);
+      offset = std::clamp(offset + TimeToClosest(distance(At(offset))), -reach_, reach_);
     }
     return offset;
   }
 
  private:
-  using Coefficients = std::array<Vector3, 6>;  // by powers of offset / kReach
+  using Coefficients = std::array<Vector3, 6>;  // by powers of offset / reach
 
-  static Coefficients Interpolate(const MovingVector& before, const MovingVector& middle,
-                                  const MovingVector& after);
-  static MovingVector Evaluate(const Coefficients& coefficients, double offset);
+  Coefficients Interpolate(const MovingVector& before, const MovingVector& middle,
+                           const MovingVector& after) const;
+  MovingVector Evaluate(const Coefficients& coefficients, double offset) const;
 
+  double reach_;
   Coefficients moon_;
   Coefficients sun_;
 };

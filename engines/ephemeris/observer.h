@@ -20,6 +20,9 @@ class Observer {
   Observer(double latitude, double longitude);
 
   const Vector3& Position() const { return position_; }
+  // Unit vectors: the geodetic vertical, and due east on the horizon.
+  const Vector3& Up() const { return up_; }
+  const Vector3& East() const { return east_; }
   // From the place to what is at that geocentric vector.
   Vector3 Topocentric(const Vector3& geocentric) const { return geocentric - position_; }
   // The direction of a vector against the geodetic vertical.
