@@ -37,6 +37,8 @@ class Spheroid {
  public:
   // The Earth in coordinates of the mean ecliptic and equinox of a date (AJD).
   static Spheroid EarthAt(double ajd_tt);
+  // The Earth in the frame of EarthFrame, which turns with it.
+  static constexpr Spheroid TurningEarth() { return Spheroid({0, 0, 1}); }
 
   // Where a line runs through the ellipsoid, once all is stretched along the polar axis until the
   // ellipsoid is a sphere of radius 1.
@@ -55,7 +57,7 @@ class Spheroid {
   double HeightOf(const TangentPlane& plane, const Line& axis) const;
 
  private:
-  explicit Spheroid(const Vector3& pole) : pole_(pole) {}
+  constexpr explicit Spheroid(const Vector3& pole) : pole_(pole) {}
 
   Vector3 Stretched(const Vector3& a) const;
   // Distance from the centre of the tangent plane with this unit normal.
