@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engines/eclipse_type.h"
+#include "engines/ephemeris/moon_sun_track.h"
 #include "engines/ephemeris/positions.h"
 
 namespace tarnwick {
@@ -22,5 +23,13 @@ struct Eclipse {
 // is none.
 Eclipse SolarEclipseNear(double new_moon, const MoonAndSun& positions);
 Eclipse LunarEclipseNear(double full_moon, const MoonAndSun& positions);
+
+// How much of the Moon's diameter lies in the umbra and in the penumbra, by the geocentric places
+// at an instant; negative while the Moon is outside.
+struct LunarMagnitudes {
+  double umbral = 0;
+  double penumbral = 0;
+};
+LunarMagnitudes LunarMagnitudesOf(const MoonAndSunVectors& places);
 
 }  // namespace tarnwick

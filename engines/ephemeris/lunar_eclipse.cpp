@@ -50,8 +50,7 @@ bool MayMeetShadow(const MoonAndSunVectors& places) {
          std::abs(TimeToClosest(chord)) < MoonSunTrack::kReach;
 }
 
-ShadowCircles CirclesAt(const MoonSunTrack& track, double offset) {
-  const MoonAndSunVectors places = track.At(offset);
+ShadowCircles CirclesOf(const MoonAndSunVectors& places) {
   const double moon_distance = Length(places.moon.value);
   const double sun_distance = Length(places.sun.value);
   const Vector3 chord = 1 / moon_distance * places.moon.value + 1 / sun_distance * places.sun.value;
@@ -74,7 +73,7 @@ double Magnitude(const ShadowCircles& circles, double shadow) {
 template <class Limit>
 double SemiDuration(const MoonSunTrack& track, double greatest, const Limit& limit) {
   const auto excess = [&](double offset) {
-    const ShadowCircles circles = CirclesAt(track, offset);
+    const ShadowCircles circles = CirclesOf(track.At(offset));
     const double contact = limit(circles);
     return circles.sigma * circles.sigma - contact * contact;
   };
@@ -90,12 +89,17 @@ double Gamma(const MoonAndSunVectors& places, const ShadowCircles& circles) {
 
 }  // namespace
 
+LunarMagnitudes LunarMagnitudesOf(const MoonAndSunVectors& places) {
+  const ShadowCircles circles = CirclesOf(places);
+  return {Magnitude(circles, circles.umbra), Magnitude(circles, circles.penumbra)};
+}
+
 Eclipse LunarEclipseNear(double full_moon, const MoonAndSun& positions) {
   const MoonAndSunVectors places = VectorsOf(positions);
   if (!MayMeetShadow(places)) return {};
   const MoonSunTrack track(full_moon, places);
   const double greatest = track.ClosestApproach(FromAntisolarPoint);
-  const ShadowCircles circles = CirclesAt(track, greatest);
+  const ShadowCircles circles = CirclesOf(track.At(greatest));
 
   Eclipse eclipse;
   eclipse.penumbral_magnitude = Magnitude(circles, circles.penumbra);

@@ -3,20 +3,11 @@
 #include <cmath>
 
 namespace tarnwick {
-namespace {
 
-// Radii of the Moon: the mean one for the penumbra; for the umbra that of the deepest valleys of
-// the limb, through which the last of the Sun shines.
-constexpr double kPenumbralMoonRadius = 0.272508;
-constexpr double kUmbralMoonRadius = 0.272281;
-
-// Earth radii.
 double SunRadius() {
   static const double radius = std::sin(kSunSemiDiameter) * kEarthRadiiPerAu;
   return radius;
 }
-
-}  // namespace
 
 MovingVector ShadowAxisFoot(const MoonAndSunVectors& places) {
   const MovingVector& moon = places.moon;

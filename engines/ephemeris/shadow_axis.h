@@ -18,6 +18,13 @@
 
 namespace tarnwick {
 
+// Radii of the Moon: the mean one for the penumbra; for the umbra that of the deepest valleys of
+// the limb, through which the last of the Sun shines.
+inline constexpr double kPenumbralMoonRadius = 0.272508;
+inline constexpr double kUmbralMoonRadius = 0.272281;
+
+double SunRadius();
+
 // From the Earth's centre to the axis at right angles, and how that vector moves, a day.
 MovingVector ShadowAxisFoot(const MoonAndSunVectors& places);
 

@@ -1,0 +1,65 @@
+// Reading of the reference rows of eclipses at places.
+#pragma once
+
+#include <cmath>
+#include <numbers>
+#include <string>
+
+#include "engines/ephemeris/observer.h"
+#include "engines/instant.h"
+#include "engines/phase_engine.h"
+#include "engines/time_units.h"
+#include "sky/eclipse_view.h"
+#include "tests/error_statistics.h"
+#include "tests/reference_data.h"
+
+namespace tarnwick {
+
+inline constexpr double kDegree = std::numbers::pi / 180;
+
+inline double Number(const ReferenceRow& row, const std::string& column) {
+  return std::stod(row.at(column));
+}
+
+inline Observer ObserverAt(double latitude, double longitude) {
+  return {latitude * kDegree, longitude * kDegree};
+}
+inline Observer ObserverOf(const ReferenceRow& row) {
+  return ObserverAt(Number(row, "lat"), Number(row, "lon"));
+}
+
+inline EclipseRecord EclipseOf(std::int32_t lunation, std::int32_t phase) {
+  EclipseRecord record;
+  syzyg(lunation, phase, record);
+  return record;
+}
+
+// By delta T in seconds.
+inline EclipseCourse CourseOf(const EclipseRecord& record, double delta_t) {
+  return {TerrestrialTime(record.greatest), delta_t / kSecondsPerDay};
+}
+
+inline double SecondsFrom(UniversalTime found, const ReferenceRow& row, const std::string& column) {
+  return (found.days - Number(row, column)) * kSecondsPerDay;
+}
+
+// Errors of directions, in degrees.
+struct DirectionErrors {
+  void Add(const Horizontal& found, const ReferenceRow& row, const std::string& suffix) {
+    const double height = Number(row, "alt_" + suffix);
+    altitude.Add(found.altitude / kDegree - height);
+    if (!row.contains("az_" + suffix)) return;
+    const double turn = found.azimuth / kDegree - Number(row, "az_" + suffix);
+    azimuth.Add(std::remainder(turn, 360) * std::cos(height * kDegree));
+  }
+  void Judge() const {
+    altitude.Print("altitude", "degrees");
+    azimuth.Print("azimuth x cos(altitude)", "degrees");
+    EXPECT_LT(altitude.Largest(), 0.004);
+    EXPECT_LT(azimuth.Largest(), 0.005);
+  }
+  ErrorStatistics altitude;
+  ErrorStatistics azimuth;
+};
+
+}  // namespace tarnwick
