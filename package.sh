@@ -25,7 +25,7 @@ package_windows() {
   mkdir -p "$folder/assets/icon" "$folder/licences" "$packages"
   cp build/windows/bin/tarnwick.exe "$folder"
   cp assets/icon/tarnwick.ico "$folder"
-  cp -r assets/*.bmp assets/moon_pics "$folder/assets"
+  cp -r assets/*.bmp assets/*.csv assets/moon_pics "$folder/assets"
   cp assets/icon/tarnwick.png "$folder/assets/icon"
   # What Windows users open with an editor has their line ends.
   sed 's/$/\r/' packaging/windows/read-me.txt >"$folder/read-me.txt"

@@ -60,6 +60,7 @@ state="$users/Roaming/Ostrel Systems/tnwk.usr"
 wine "$setup" /S
 expect_file "$program"
 expect_file "$folder/assets/moon_pics/day1.gif"
+expect_file "$folder/assets/places.csv"
 expect_file "$shortcut"
 expect_no_file "$state"
 
