@@ -1,7 +1,7 @@
 # What an installation holds, and the Debian package made of it. The program looks for its pictures
 # and tables beside itself, so all lie in a folder of their own.
 install(TARGETS tarnwick DESTINATION lib/tarnwick)
-install(DIRECTORY assets DESTINATION lib/tarnwick PATTERN "*.ico" EXCLUDE)
+install(DIRECTORY assets DESTINATION lib/tarnwick PATTERN "*.ico" EXCLUDE PATTERN "*.md" EXCLUDE)
 install(CODE [[
   set(BIN "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/bin")
   file(MAKE_DIRECTORY "${BIN}")

@@ -61,6 +61,7 @@ wine "$setup" /S
 expect_file "$program"
 expect_file "$folder/assets/moon_pics/day1.gif"
 expect_file "$folder/assets/coastlines.csv"
+expect_file "$folder/assets/places.csv"
 expect_file "$shortcut"
 expect_no_file "$state"
 
