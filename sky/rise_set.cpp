@@ -5,15 +5,15 @@
 #include <numbers>
 
 #include "engines/ephemeris/bounded_search.h"
+#include "engines/ephemeris/shadow_axis.h"
+#include "sky/visibility.h"
 
 namespace tarnwick {
 namespace {
 
 constexpr double kTurn = 2 * std::numbers::pi;
 constexpr double kHalfDay = 0.5;
-constexpr double kRefraction = 34 * 60 * kRadiansPerArcsecond;
 constexpr double kSunRadius = kSunSemiDiameter * kEarthRadiiPerAu;
-constexpr double kMoonRadius = 0.272508;
 
 // Two extremes of the altitude can be closer than an hour only near a pole, where the drift of the
 // declination almost keeps pace with the rotation; between such two the altitude changes by 5".
@@ -29,8 +29,8 @@ double TurningAt(double ajd_ut, double ajd_tt) {
 // Altitude of a body over that at which it rises and sets.
 double Excess(const Vector3& topocentric, const Observer& observer, double radius) {
   const double distance = Length(topocentric);
-  return std::asin(Dot(topocentric, observer.Up()) / distance) + kRefraction +
-         std::asin(radius / distance);
+  return HeightOfUpperLimb(std::asin(Dot(topocentric, observer.Up()) / distance),
+                           std::asin(radius / distance));
 }
 
 // Rate of the sine of the altitude; 0 at its extremes. The change of the semi-diameter is too small
@@ -88,7 +88,7 @@ MovingVector SkyDay::PlaceOf(Body body, double offset) const {
 }
 
 std::vector<double> SkyDay::Crossings(Body body, bool upwards, const Observer& observer) const {
-  const double radius = body == Body::kSun ? kSunRadius : kMoonRadius;
+  const double radius = body == Body::kSun ? kSunRadius : kPenumbralMoonRadius;
   const auto topocentric = [&](double offset) {
     const MovingVector place = PlaceOf(body, offset);
     return MovingVector{observer.Topocentric(place.value), place.rate};

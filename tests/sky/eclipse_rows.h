@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cmath>
-#include <numbers>
 #include <string>
 
 #include "engines/ephemeris/observer.h"
@@ -12,20 +11,12 @@
 #include "sky/eclipse_view.h"
 #include "tests/error_statistics.h"
 #include "tests/reference_data.h"
+#include "tests/sky/reference_row.h"
 
 namespace tarnwick {
 
-inline constexpr double kDegree = std::numbers::pi / 180;
-
-inline double Number(const ReferenceRow& row, const std::string& column) {
-  return std::stod(row.at(column));
-}
-
 inline Observer ObserverAt(double latitude, double longitude) {
   return {latitude * kDegree, longitude * kDegree};
-}
-inline Observer ObserverOf(const ReferenceRow& row) {
-  return ObserverAt(Number(row, "lat"), Number(row, "lon"));
 }
 
 inline EclipseRecord EclipseOf(std::int32_t lunation, std::int32_t phase) {
@@ -40,16 +31,16 @@ inline EclipseCourse CourseOf(const EclipseRecord& record, double delta_t) {
 }
 
 inline double SecondsFrom(UniversalTime found, const ReferenceRow& row, const std::string& column) {
-  return (found.days - Number(row, column)) * kSecondsPerDay;
+  return (found.days - NumberIn(row, column)) * kSecondsPerDay;
 }
 
 // Errors of directions, in degrees.
 struct DirectionErrors {
   void Add(const Horizontal& found, const ReferenceRow& row, const std::string& suffix) {
-    const double height = Number(row, "alt_" + suffix);
+    const double height = NumberIn(row, "alt_" + suffix);
     altitude.Add(found.altitude / kDegree - height);
     if (!row.contains("az_" + suffix)) return;
-    const double turn = found.azimuth / kDegree - Number(row, "az_" + suffix);
+    const double turn = found.azimuth / kDegree - NumberIn(row, "az_" + suffix);
     azimuth.Add(std::remainder(turn, 360) * std::cos(height * kDegree));
   }
   void Judge() const {

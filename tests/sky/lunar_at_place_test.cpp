@@ -31,7 +31,7 @@ TEST(LunarAtPlace, MeetsTheReference) {
     const EclipseRecord record = EclipseOf(std::stoi(row.at("n")), kFullMoon);
     EXPECT_EQ(std::to_string(record.type), row.at("type"));
     const LunarAtPlace eclipse =
-        LunarEclipseAtPlace(record, CourseOf(record, Number(row, "delta_t")), ObserverOf(row));
+        LunarEclipseAtPlace(record, CourseOf(record, NumberIn(row, "delta_t")), ObserverOf(row));
     instants.Add(SecondsFrom(eclipse.greatest.instant, row, "ut_greatest"));
     directions.Add(eclipse.greatest.direction, row, "greatest");
     for (const auto& [name, contact] : kContacts) {

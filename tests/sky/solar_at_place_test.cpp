@@ -18,7 +18,7 @@ namespace {
 
 SolarAtPlace SolarOf(const ReferenceRow& row) {
   const EclipseRecord record = EclipseOf(std::stoi(row.at("n")), kNewMoon);
-  return SolarEclipseAtPlace(CourseOf(record, Number(row, "delta_t")), ObserverOf(row));
+  return SolarEclipseAtPlace(CourseOf(record, NumberIn(row, "delta_t")), ObserverOf(row));
 }
 
 std::string NameOf(SolarKind kind) {
@@ -50,10 +50,10 @@ TEST(SolarAtPlace, MeetsTheInstantsAndDirections) {
       const std::optional<BodyAtInstant>& found = eclipse.*contact;
       ASSERT_EQ(found.has_value(), !row.at("ut_" + name).empty()) << name;
       if (!found) continue;
-      const double rate = Number(row, "rate_" + name);
+      const double rate = NumberIn(row, "rate_" + name);
       contacts.Add(SecondsFrom(found->instant, row, "ut_" + name) / (0.2 + 0.6 / rate));
       directions.Add(found->direction, row, name);
-      const double limb = Number(row, "alt_" + name) + Number(row, "sd_sun") / 3600 + 34.0 / 60;
+      const double limb = NumberIn(row, "alt_" + name) + NumberIn(row, "sd_sun") / 3600 + 34.0 / 60;
       EXPECT_EQ(found->Visible(), limb > 0);
     }
   }
@@ -71,8 +71,8 @@ TEST(SolarAtPlace, MeetsMagnitudeAndObscuration) {
   for (const ReferenceRow& row : ReadReferenceData("sky/solar_local.csv")) {
     const SolarAtPlace eclipse = SolarOf(row);
     ErrorStatistics& magnitude = eclipse.kind > SolarKind::kPartial ? central : partial;
-    magnitude.Add(eclipse.magnitude - Number(row, "magnitude"));
-    obscuration.Add(eclipse.obscuration - Number(row, "obscuration"));
+    magnitude.Add(eclipse.magnitude - NumberIn(row, "magnitude"));
+    obscuration.Add(eclipse.obscuration - NumberIn(row, "obscuration"));
   }
   partial.Print("partial magnitude", "");
   central.Print("central magnitude", "");
