@@ -3,7 +3,9 @@
 #include <array>
 #include <cerrno>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <system_error>
@@ -15,7 +17,9 @@
 #include "engines/phases.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
+#include "tools/tables/phase_visits.h"
 #include "tools/tables/printer.h"
+#include "tools/tables/sky_tables.h"
 
 namespace tarnwick {
 namespace {
@@ -23,10 +27,18 @@ namespace {
 constexpr std::int32_t kFirstYear = -3200;
 constexpr std::int32_t kLastYear = 6001;
 
+constexpr std::int32_t kFarthestLunation = 70000;  // some 5700 years
+
 constexpr std::string_view kUsage =
     "usage: tarnwick_tables phases|eclipses|dates FROM TO\n"
-    "Prints every principal phase, eclipse or day from 1 January of the CE year FROM up to but\n"
-    "not including that of TO, as CSV. Years -3200 to 6001.\n";
+    "       tarnwick_tables local|sun_moon|crescents LATITUDE LONGITUDE FROM TO\n"
+    "       tarnwick_tables path LUNATION\n"
+    "Prints as CSV, from 1 January of the CE year FROM up to but not including that of TO, years\n"
+    "-3200 to 6001: every principal phase, eclipse or day; the eclipses that are seen at a place, "
+    "its\n"
+    "risings and settings, its crescents; or the path of the solar eclipse of a lunation. "
+    "Latitudes\n"
+    "and longitudes are degrees, north and east positive.\n";
 
 UniversalTime NewYear(std::int32_t year) {
   DateRecord date;
@@ -35,20 +47,6 @@ UniversalTime NewYear(std::int32_t year) {
   date.month = 1;
   date.day = 1;
   return CJDToAJD(LocalCJD(euro_date_to_jdn(date)), 0);
-}
-
-// Calls visit(lunation, phase, event) for the phases of the lunations that touch the period, in
-// order, until it returns false.
-template <class Visit>
-bool VisitPhases(const Period& period, std::int16_t step, const Visit& visit) {
-  const std::int32_t last = LunationOf(period.end) + 1;
-  for (std::int32_t lunation = LunationOf(period.begin) - 1; lunation <= last; ++lunation) {
-    for (std::int16_t phase = 0; phase < kPhaseCount;
-         phase = static_cast<std::int16_t>(phase + step)) {
-      if (!visit(lunation, phase, FindPhaseEvent(lunation, phase))) return false;
-    }
-  }
-  return true;
 }
 
 bool PrintPhases(const Period& period, Printer& printer) {
@@ -94,9 +92,6 @@ bool PrintEclipses(const Period& period, Printer& printer) {
 
 constexpr std::array kDateColumns{kCE, kJC, kARC, kSD, kLLT, kKSG, kOLW};
 
-// The civil day at Greenwich that contains a moment.
-DayNumber DayOf(UniversalTime moment) { return SplitCJD(AJDToCJD(moment, 0)).day_number; }
-
 bool PrintDates(const Period& period, Printer& printer) {
   std::string header = "day_number,weekday";
   for (const Calendar calendar : kDateColumns)
@@ -117,12 +112,28 @@ bool PrintDates(const Period& period, Printer& printer) {
   return true;
 }
 
+// What stands behind the name of a command.
+enum class Takes { kPeriod, kPlaceAndPeriod };
+
 struct Command {
   std::string_view name;
-  bool (*print)(const Period& period, Printer& printer);
+  Takes takes;
+  bool (*print)(const TablePlace& place, const Period& period, Printer& printer);
 };
+
+template <bool (*kPrint)(const Period&, Printer&)>
+bool Everywhere(const TablePlace& /*place*/, const Period& period, Printer& printer) {
+  return kPrint(period, printer);
+}
+
 constexpr Command kCommands[] = {
-    {"phases", PrintPhases}, {"eclipses", PrintEclipses}, {"dates", PrintDates}};
+    {"phases", Takes::kPeriod, Everywhere<PrintPhases>},
+    {"eclipses", Takes::kPeriod, Everywhere<PrintEclipses>},
+    {"dates", Takes::kPeriod, Everywhere<PrintDates>},
+    {"local", Takes::kPlaceAndPeriod, PrintLocalEclipses},
+    {"sun_moon", Takes::kPlaceAndPeriod, PrintSunAndMoon},
+    {"crescents", Takes::kPlaceAndPeriod, PrintCrescents},
+};
 
 const Command* FindCommand(std::string_view name) {
   for (const Command& command : kCommands) {
@@ -131,9 +142,10 @@ const Command* FindCommand(std::string_view name) {
   return nullptr;
 }
 
-// False for a text that is not a whole number.
-bool ParseYear(std::string_view text, std::int32_t& year) {
-  const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), year);
+// False for a text that is not such a number as a whole.
+template <class Number>
+bool Parse(std::string_view text, Number& number) {
+  const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), number);
   return status == std::errc() && end == text.data() + text.size();
 }
 
@@ -151,27 +163,75 @@ int ReportFailedWrite(std::ostream& err, int error) {
   return kCannotWrite;
 }
 
+using Texts = std::span<const std::string_view>;
+
+// Each returns what is wrong, or nothing.
+
+std::string_view ReadPeriod(std::string_view from_text, std::string_view to_text, Period& period) {
+  std::int32_t from = 0;
+  std::int32_t to = 0;
+  if (!Parse(from_text, from) || !Parse(to_text, to)) return "a year is a whole number";
+  if (from < kFirstYear || to > kLastYear) return "years run from -3200 to 6001";
+  if (from >= to) return "FROM must be before TO";
+  period = {NewYear(from), NewYear(to)};
+  return {};
+}
+
+std::string_view ReadPlace(std::string_view latitude, std::string_view longitude,
+                           TablePlace& place) {
+  if (!Parse(latitude, place.latitude) || !Parse(longitude, place.longitude)) {
+    return "a latitude or longitude is a number of degrees";
+  }
+  if (!(std::abs(place.latitude) <= 90)) return "a latitude runs from -90 to 90";
+  if (!(std::abs(place.longitude) <= 180)) return "a longitude runs from -180 to 180";
+  return {};
+}
+
+// Prints by `print`, which returns false when the output takes no more.
+template <class Print>
+int Finish(const Period& period, std::ostream& out, std::ostream& err, bool shows_progress,
+           const Print& print) {
+  Printer printer(period, out, shows_progress ? &err : nullptr);
+  const bool done = print(printer) && out.flush().good();
+  const int error = errno;  // progress may change it
+  if (shows_progress) err << "\r     \r";
+  return done ? kTablesDone : ReportFailedWrite(err, error);
+}
+
+int RunPath(Texts arguments, std::ostream& out, std::ostream& err) {
+  std::int32_t lunation = 0;
+  if (arguments.size() != 1 || !Parse(arguments[0], lunation)) {
+    return Refuse(err, "path needs a lunation, a whole number");
+  }
+  if (std::abs(lunation) > kFarthestLunation) return Refuse(err, "that lunation is out of range");
+  const std::optional<EclipsePath> path = FindPath(lunation);
+  if (!path) return Refuse(err, "no umbra meets the Earth at that new moon");
+  return Finish({}, out, err, false,
+                [&](Printer& printer) { return PrintPath(lunation, *path, printer); });
+}
+
 }  // namespace
 
 int RunTables(std::span<const std::string_view> arguments, std::ostream& out, std::ostream& err,
               bool shows_progress) {
-  if (arguments.size() != 3) return Refuse(err, "a command and two years are needed");
+  if (arguments.empty()) return Refuse(err, "a command is needed");
+  const Texts rest = arguments.subspan(1);
+  if (arguments[0] == "path") return RunPath(rest, out, err);
   const Command* command = FindCommand(arguments[0]);
   if (command == nullptr) return Refuse(err, "unknown command " + std::string(arguments[0]));
-  std::int32_t from = 0;
-  std::int32_t to = 0;
-  if (!ParseYear(arguments[1], from) || !ParseYear(arguments[2], to)) {
-    return Refuse(err, "a year is a whole number");
-  }
-  if (from < kFirstYear || to > kLastYear) return Refuse(err, "years run from -3200 to 6001");
-  if (from >= to) return Refuse(err, "FROM must be before TO");
 
-  const Period period{NewYear(from), NewYear(to)};
-  Printer printer(period, out, shows_progress ? &err : nullptr);
-  const bool done = command->print(period, printer) && out.flush().good();
-  const int error = errno;  // progress may change it
-  if (shows_progress) err << "\r     \r";
-  return done ? kTablesDone : ReportFailedWrite(err, error);
+  TablePlace place;
+  Period period{};
+  const bool with_place = command->takes == Takes::kPlaceAndPeriod;
+  if (rest.size() != (with_place ? 4U : 2U)) {
+    return Refuse(err, with_place ? "a latitude, a longitude and two years are needed"
+                                  : "two years are needed");
+  }
+  std::string_view wrong = with_place ? ReadPlace(rest[0], rest[1], place) : "";
+  if (wrong.empty()) wrong = ReadPeriod(rest[rest.size() - 2], rest.back(), period);
+  if (!wrong.empty()) return Refuse(err, wrong);
+  return Finish(period, out, err, shows_progress,
+                [&](Printer& printer) { return command->print(place, period, printer); });
 }
 
 }  // namespace tarnwick

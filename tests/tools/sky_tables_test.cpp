@@ -1,0 +1,200 @@
+#include "tools/tables/sky_tables.h"
+
+#include <cmath>
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engines/date_engine.h"
+#include "tests/sky/reference_row.h"
+#include "tools/tables/tables.h"
+
+namespace tarnwick {
+namespace {
+
+std::vector<ReferenceRow> Table(const std::vector<std::string>& words) {
+  const std::vector<std::string_view> arguments(words.begin(), words.end());
+  std::ostringstream out;
+  std::ostringstream err;
+  EXPECT_EQ(RunTables(arguments, out, err, false), kTablesDone) << err.str();
+  std::istringstream lines(out.str());
+  std::string line;
+  std::getline(lines, line);
+  const std::vector<std::string> names = SplitCells(line);
+  std::vector<ReferenceRow> rows;
+  while (std::getline(lines, line)) {
+    const std::vector<std::string> cells = SplitCells(line);
+    EXPECT_EQ(cells.size(), names.size()) << line;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+      if (i == 0) rows.emplace_back();
+      rows.back()[names[i]] = cells.at(i);
+    }
+  }
+  return rows;
+}
+
+// The table of the year before, of and after an instant at the place of a row.
+std::vector<ReferenceRow> TableOfYears(const std::string& command, const ReferenceRow& row,
+                                       const std::string& ut) {
+  const auto day = static_cast<std::int32_t>(NumberIn(row, ut) + 0.5);
+  const std::int32_t year = CivilDateOf(day).year;
+  return Table(
+      {command, row.at("lat"), row.at("lon"), std::to_string(year - 1), std::to_string(year + 2)});
+}
+
+bool IsInRange(const ReferenceRow& row, const std::string& ut) {
+  return NumberIn(row, ut) > 552700 && NumberIn(row, ut) < 3912000;
+}
+
+// Every tenth row of a reference table, at an instant that the tables reach.
+std::vector<ReferenceRow> SomeOf(const std::string& file, const std::string& ut) {
+  std::vector<ReferenceRow> some;
+  int i = 0;
+  for (const ReferenceRow& row : ReadReferenceData(file)) {
+    if (++i % 10 == 0 && IsInRange(row, ut)) some.push_back(row);
+  }
+  EXPECT_GE(some.size(), 3U) << file;
+  return some;
+}
+
+std::optional<ReferenceRow> Find(const std::vector<ReferenceRow>& table, const std::string& column,
+                                 const std::string& value) {
+  for (const ReferenceRow& row : table) {
+    if (row.at(column) == value) return row;
+  }
+  return std::nullopt;
+}
+
+// How exact the routines are is tested elsewhere.
+void ExpectInstant(const ReferenceRow& found, const std::string& column, const ReferenceRow& row,
+                   const std::string& expected, double seconds = 3) {
+  EXPECT_NEAR(NumberIn(found, column), NumberIn(row, expected), seconds / kSecondsPerDay) << column;
+}
+
+TEST(SkyTables, HoldSolarEclipsesAsThePlaceSeesThem) {
+  int seen = 0;
+  for (const ReferenceRow& row : SomeOf("sky/solar_local.csv", "ut_max")) {
+    const auto found = Find(TableOfYears("local", row, "ut_max"), "lunation", row.at("n"));
+    const bool high = row.at("kind") != "none" && NumberIn(row, "alt_max") > 0;
+    if (!high) continue;
+    ASSERT_TRUE(found) << row.at("place") << row.at("n");
+    ++seen;
+    EXPECT_EQ(found->at("seen"), row.at("kind"));
+    ExpectInstant(*found, "maximum", row, "ut_max");
+    EXPECT_NEAR(NumberIn(*found, "altitude"), NumberIn(row, "alt_max"), 0.005);
+    EXPECT_NEAR(NumberIn(*found, "magnitude"), NumberIn(row, "magnitude"), 0.0004);
+    EXPECT_NEAR(NumberIn(*found, "obscuration"), NumberIn(row, "obscuration"), 0.0004);
+    EXPECT_NEAR(NumberIn(*found, "delta_t"), NumberIn(row, "delta_t"), 0.06);
+    EXPECT_EQ(found->at("p1"), "");
+    const bool begins = !row.at("alt_c1").empty() && NumberIn(row, "alt_c1") > 0;
+    if (begins && NumberIn(row, "rate_c1") > 0.3) ExpectInstant(*found, "c1", row, "ut_c1");
+  }
+  EXPECT_GT(seen, 1);
+}
+
+TEST(SkyTables, HoldLunarEclipsesAsThePlaceSeesThem) {
+  for (const ReferenceRow& row : SomeOf("sky/lunar_local.csv", "ut_greatest")) {
+    const auto table = TableOfYears("local", row, "ut_greatest");
+    std::optional<ReferenceRow> found;
+    for (const ReferenceRow& candidate : table) {
+      if (candidate.at("lunation") == row.at("n") && candidate.at("phase") == "2")
+        found = candidate;
+    }
+    if (NumberIn(row, "alt_greatest") < 0) continue;
+    ASSERT_TRUE(found) << row.at("place") << row.at("n");
+    EXPECT_EQ(found->at("type"), row.at("type"));
+    ExpectInstant(*found, "maximum", row, "ut_greatest");
+    EXPECT_NEAR(NumberIn(*found, "azimuth"), NumberIn(row, "az_greatest"), 0.02);
+    EXPECT_EQ(found->at("obscuration") + found->at("c1"), "");
+    if (NumberIn(row, "alt_p1") > 0) ExpectInstant(*found, "p1", row, "ut_p1");
+  }
+}
+
+TEST(SkyTables, HoldCrescents) {
+  for (const char* const file : {"sky/crescent.csv", "sky/crescent_morning.csv"}) {
+    for (const ReferenceRow& row : SomeOf(file, "ut_conjunction")) {
+      const bool evening = row.contains("evening");
+      std::optional<ReferenceRow> found;
+      for (const ReferenceRow& candidate : TableOfYears("crescents", row, "ut_conjunction")) {
+        if (candidate.at("lunation") == row.at("n") &&
+            candidate.at("evening") == row.at(evening ? "evening" : "morning")) {
+          found = candidate;
+        }
+      }
+      ASSERT_TRUE(found) << row.at("place") << row.at("n");
+      EXPECT_EQ(found->at("class"), row.at("class"));
+      EXPECT_EQ(found->at("q").empty(), row.at("q").empty());
+      if (row.at("q").empty()) continue;
+      EXPECT_NEAR(NumberIn(*found, "q"), NumberIn(row, "q"), 0.0006);
+      EXPECT_NEAR(NumberIn(*found, "arcv"), NumberIn(row, "arcv"), 0.003);
+      ExpectInstant(*found, "sunset", row, evening ? "ut_sunset" : "ut_sunrise");
+    }
+  }
+}
+
+// Whatever is next after an instant stands in the table, in the row of some day.
+TEST(SkyTables, HoldRisingsAndSettings) {
+  for (const ReferenceRow& row : SomeOf("sky/rise_set.csv", "ut_start")) {
+    const std::vector<ReferenceRow> table = TableOfYears("sun_moon", row, "ut_start");
+    for (const char* const column : {"sunrise", "sunset", "sun_transit", "moonrise", "moonset"}) {
+      const std::string expected = row.at(std::string("ut_") + column);
+      if (expected.empty()) continue;
+      double nearest = 1;
+      for (const ReferenceRow& day : table) {
+        if (day.at(column).empty()) continue;
+        nearest = std::fmin(nearest, std::fabs(NumberIn(day, column) - std::stod(expected)));
+      }
+      EXPECT_LT(nearest * kSecondsPerDay, 5) << row.at("place") << " " << column;
+    }
+  }
+}
+
+TEST(SkyTables, HoldThePathOfAnEclipse) {
+  for (const ReferenceRow& row : SomeOf("sky/solar_path.csv", "ut_greatest")) {
+    const std::vector<ReferenceRow> path = Table({"path", row.at("n")});
+    ExpectInstant(path.front(), "ut", row, "ut_begin", 8);
+    ExpectInstant(path.back(), "ut", row, "ut_end", 8);
+    double minutes = 0;
+    for (const ReferenceRow& at : path) {
+      if (std::fabs(NumberIn(at, "ut") - NumberIn(row, "ut_greatest")) > 2.0 / kSecondsPerDay) {
+        ++minutes;
+        continue;
+      }
+      EXPECT_EQ(at.at("kind"), row.at("kind"));
+      EXPECT_NEAR(NumberIn(at, "latitude"), NumberIn(row, "lat"), 0.02);
+      EXPECT_NEAR(NumberIn(at, "duration_s"), NumberIn(row, "duration_s"), 0.2);
+    }
+    const double expected = (NumberIn(row, "ut_end") - NumberIn(row, "ut_begin")) * 24 * 60;
+    EXPECT_NEAR(minutes, expected + 2, 1.5);
+  }
+}
+
+TEST(SkyTables, RefuseWhatIsNoPlaceAndNoPath) {
+  const struct {
+    std::vector<std::string_view> arguments;
+    std::string_view why;
+  } cases[] = {
+      {{"local", "91", "0", "2000", "2001"}, "a latitude runs from -90 to 90"},
+      {{"local", "nan", "0", "2000", "2001"}, "a latitude runs from -90 to 90"},
+      {{"sun_moon", "0", "-180.5", "2000", "2001"}, "a longitude runs from -180 to 180"},
+      {{"crescents", "32N", "0", "2000", "2001"}, "a latitude or longitude is a number of degrees"},
+      {{"local", "2000", "2001"}, "a latitude, a longitude and two years are needed"},
+      {{"path", "3"}, "no umbra meets the Earth at that new moon"},
+      {{"path", "2000000000"}, "that lunation is out of range"},
+      {{"path"}, "path needs a lunation, a whole number"},
+  };
+  for (const auto& [arguments, why] : cases) {
+    std::ostringstream out;
+    std::ostringstream err;
+    EXPECT_EQ(RunTables(arguments, out, err, false), kBadArguments) << why;
+    EXPECT_EQ(out.str(), "");
+    EXPECT_TRUE(err.str().starts_with("tarnwick_tables: " + std::string(why) + "\n")) << err.str();
+  }
+}
+
+}  // namespace
+}  // namespace tarnwick

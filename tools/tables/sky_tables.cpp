@@ -1,0 +1,275 @@
+#include "tools/tables/sky_tables.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <numbers>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "calendars/date_processing.h"
+#include "engines/ephemeris/delta_t.h"
+#include "engines/phases.h"
+#include "engines/time_units.h"
+#include "moon/phase_cache.h"
+#include "moon/syzyg.h"
+#include "sky/crescent.h"
+#include "sky/lunar_at_place.h"
+#include "sky/rise_set.h"
+#include "sky/solar_at_place.h"
+#include "tools/tables/phase_visits.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr double kDegree = std::numbers::pi / 180;
+
+Observer ObserverAt(const TablePlace& place) {
+  return {place.latitude * kDegree, place.longitude * kDegree};
+}
+
+// Days.
+template <class Time>
+double DeltaTOf(Time instant) {
+  return DeltaT(instant) / kMinutesPerDay;
+}
+
+// The middle of the year at Greenwich, which delta T is that of.
+double YearOf(UniversalTime instant) { return CivilDateOf(DayOf(instant).value).year + 0.5; }
+
+std::string Degrees(double radians, int decimals) {
+  return FormatFixed(radians / kDegree, decimals, false);
+}
+
+std::string Cell(const std::optional<UniversalTime>& instant) {
+  return instant ? Cell(*instant) : "";
+}
+
+// A contact is told only if it is seen.
+std::string Contact(const std::optional<BodyAtInstant>& contact) {
+  return contact && contact->Visible() ? Cell(contact->instant) : "";
+}
+
+std::string_view NameOf(SolarKind kind) {
+  constexpr std::array<std::string_view, 4> kNames{"", "partial", "annular", "total"};
+  return kNames[static_cast<std::size_t>(kind)];
+}
+
+std::string_view NameOf(EclipseType lunar_type) {
+  if (lunar_type == kTotalLunar) return "total";
+  return lunar_type == kPartialLunar ? "partial" : "penumbral";
+}
+
+// What the rows of both kinds of eclipse have in common, in order.
+struct LocalRow {
+  std::string_view seen;
+  double magnitude = 0;
+  std::string obscuration;
+  BodyAtInstant maximum;
+  double magnitude_seen = 0;
+  UniversalTime seen_at;
+  std::array<std::string, 4> solar_contacts;
+  std::array<std::string, 6> lunar_contacts;
+};
+
+std::optional<LocalRow> SolarRow(const EclipseCourse& course, const Observer& observer) {
+  const SolarAtPlace eclipse = SolarEclipseAtPlace(course, observer);
+  if (eclipse.kind_seen == SolarKind::kNone) return std::nullopt;
+  return LocalRow{
+      NameOf(eclipse.kind_seen),
+      eclipse.magnitude,
+      FormatFixed(eclipse.obscuration, 5, false),
+      eclipse.maximum,
+      eclipse.magnitude_seen,
+      eclipse.seen_at,
+      {Contact(eclipse.c1), Contact(eclipse.c2), Contact(eclipse.c3), Contact(eclipse.c4)},
+      {}};
+}
+
+std::optional<LocalRow> LunarRow(const EclipseRecord& record, const EclipseCourse& course,
+                                 const Observer& observer) {
+  const LunarAtPlace eclipse = LunarEclipseAtPlace(record, course, observer);
+  if (eclipse.type_seen == kNotEclipsed) return std::nullopt;
+  return LocalRow{NameOf(eclipse.type_seen),
+                  record.magnitude,
+                  "",
+                  eclipse.greatest,
+                  eclipse.magnitude_seen.umbral,
+                  eclipse.seen_at,
+                  {},
+                  {Contact(eclipse.p1), Contact(eclipse.u1), Contact(eclipse.u2),
+                   Contact(eclipse.u3), Contact(eclipse.u4), Contact(eclipse.p4)}};
+}
+
+std::string LocalCells(const LocalRow& row, const EclipseRecord& record, std::int16_t phase) {
+  const TerrestrialTime greatest(record.greatest);
+  std::vector<std::string> cells{std::to_string(record.lunation),
+                                 std::to_string(phase),
+                                 std::to_string(record.type),
+                                 std::to_string(record.saros),
+                                 std::string(row.seen),
+                                 FormatFixed(row.magnitude, 5, false),
+                                 row.obscuration,
+                                 Cell(row.maximum.instant),
+                                 Degrees(row.maximum.direction.altitude, 3),
+                                 Degrees(row.maximum.direction.azimuth, 3),
+                                 FormatFixed(row.magnitude_seen, 5, false),
+                                 Cell(row.seen_at)};
+  cells.insert(cells.end(), row.solar_contacts.begin(), row.solar_contacts.end());
+  cells.insert(cells.end(), row.lunar_contacts.begin(), row.lunar_contacts.end());
+  cells.push_back(Optional(record.penumbral_magnitude, 5));
+  cells.push_back(FormatFixed(DeltaT(greatest) * kSecondsPerMinute, 1, false));
+  cells.push_back(FormatFixed(DeltaTError(YearOf(GreatestEclipse(record))), 2, false));
+  return Join(cells);
+}
+
+// The instants of a day in a column each.
+constexpr std::array<std::pair<Body, SkyEvent>, 6> kDayColumns{{{Body::kSun, SkyEvent::kRising},
+                                                                {Body::kSun, SkyEvent::kTransit},
+                                                                {Body::kSun, SkyEvent::kSetting},
+                                                                {Body::kMoon, SkyEvent::kRising},
+                                                                {Body::kMoon, SkyEvent::kTransit},
+                                                                {Body::kMoon, SkyEvent::kSetting}}};
+
+std::string CrescentRow(std::int32_t lunation, int evening, const Crescent& crescent) {
+  std::vector<std::string> cells{std::to_string(lunation), std::to_string(evening),
+                                 Cell(crescent.sun), Cell(crescent.moon)};
+  if (const auto& found = crescent.quantities) {
+    cells.insert(cells.end(), {Cell(found->best), Degrees(found->arcl, 4), Degrees(found->arcv, 4),
+                               Degrees(found->daz, 4), FormatFixed(found->width, 4, false),
+                               FormatFixed(found->q, 4, false)});
+  } else {
+    cells.resize(cells.size() + 6);
+  }
+  const std::optional<char> visibility = crescent.Class();
+  cells.push_back(visibility ? std::string(1, *visibility) : "");
+  return Join(cells);
+}
+
+std::string PlaceCells(const std::optional<GeodeticPlace>& place) {
+  return place ? Degrees(place->latitude, 5) + "," + Degrees(place->longitude, 5) : ",";
+}
+
+std::string PathRow(UniversalTime instant, double delta_t, std::string_view kind,
+                    const EclipsePath& path) {
+  const std::optional<CentralPlace> centre = path.CentreAt(instant);
+  const PathLimits limits = path.LimitsAt(instant);
+  if (centre) kind = centre->total ? "total" : "annular";
+  const std::array cells{std::string(kind),
+                         Cell(TerrestrialTime(instant.days + delta_t)),
+                         Cell(instant),
+                         PlaceCells(centre ? std::optional(centre->place) : std::nullopt),
+                         PlaceCells(limits.north),
+                         PlaceCells(limits.south),
+                         centre ? Degrees(centre->sun_altitude, 3) : "",
+                         centre ? FormatFixed(centre->duration_seconds, 2, false) : "",
+                         centre ? FormatFixed(centre->width_km, 2, false) : ""};
+  return Join(cells);
+}
+
+// The whole minutes within a span, its ends, and greatest eclipse.
+std::vector<UniversalTime> InstantsOf(const TimeSpan& span, UniversalTime greatest) {
+  std::vector<UniversalTime> instants{span.begin, span.end};
+  if (greatest > span.begin && greatest < span.end) instants.push_back(greatest);
+  const auto last = static_cast<std::int64_t>(std::floor(span.end.days * kMinutesPerDay));
+  for (auto minute = static_cast<std::int64_t>(std::ceil(span.begin.days * kMinutesPerDay));
+       minute <= last; ++minute) {
+    instants.emplace_back(static_cast<double>(minute) / kMinutesPerDay);
+  }
+  std::ranges::sort(instants);
+  return instants;
+}
+
+}  // namespace
+
+bool PrintLocalEclipses(const TablePlace& place, const Period& period, Printer& printer) {
+  const std::string header =
+      "lunation,phase,type,saros,seen,magnitude,obscuration,maximum,altitude,azimuth,"
+      "magnitude_seen,seen_at,c1,c2,c3,c4,p1,u1,u2,u3,u4,p4,penumbral_magnitude,delta_t,sigma";
+  if (!printer.Print(period.begin, header)) return false;
+  const Observer observer = ObserverAt(place);
+  return VisitPhases(period, 2, [&](std::int32_t, std::int16_t phase, const PhaseEvent& event) {
+    const EclipseRecord& record = event.eclipse;
+    if (record.type == kNotEclipsed) return true;
+    const UniversalTime ut = GreatestEclipse(record);
+    if (!Contains(period, ut)) return true;
+    const TerrestrialTime greatest(record.greatest);
+    const EclipseCourse course(greatest, DeltaTOf(greatest));
+    const auto row =
+        phase == kNewMoon ? SolarRow(course, observer) : LunarRow(record, course, observer);
+    return !row || printer.Print(ut, LocalCells(*row, record, phase));
+  });
+}
+
+bool PrintSunAndMoon(const TablePlace& place, const Period& period, Printer& printer) {
+  const std::string header = "day_number,sunrise,sun_transit,sunset,moonrise,moon_transit,moonset";
+  if (!printer.Print(period.begin, header)) return false;
+  const Observer observer = ObserverAt(place);
+  const double midnight_after_greenwich = -place.longitude / 360;
+  for (double day = period.begin.days; day < period.end.days; ++day) {
+    const UniversalTime start(day + midnight_after_greenwich);
+    const SkyDay sky(start, DeltaTOf(start));
+    std::array<std::vector<UniversalTime>, kDayColumns.size()> found;
+    std::size_t rows = 1;
+    for (std::size_t i = 0; i < found.size(); ++i) {
+      found[i] = sky.Find(kDayColumns[i].first, kDayColumns[i].second, observer);
+      rows = std::max(rows, found[i].size());
+    }
+    const std::int32_t day_number = DayOf(UniversalTime(day)).value;
+    for (std::size_t row = 0; row < rows; ++row) {
+      std::vector<std::string> cells{std::to_string(day_number)};
+      for (const auto& events : found)
+        cells.push_back(row < events.size() ? Cell(events[row]) : "");
+      if (!printer.Print(start, Join(cells))) return false;
+    }
+  }
+  return true;
+}
+
+bool PrintCrescents(const TablePlace& place, const Period& period, Printer& printer) {
+  const std::string header = "lunation,evening,sunset,moonset,best,arcl,arcv,daz,w,q,class";
+  if (!printer.Print(period.begin, header)) return false;
+  const Observer observer = ObserverAt(place);
+  constexpr std::int16_t kOnlyNewMoons = kPhaseCount;
+  return VisitPhases(
+      period, kOnlyNewMoons, [&](std::int32_t lunation, std::int16_t, const auto& event) {
+        if (!Contains(period, event.ut)) return true;
+        const Crescents mornings = MorningsBefore(lunation, observer, DeltaTOf(event.ut));
+        const Crescents evenings = EveningsAfter(lunation, observer, DeltaTOf(event.ut));
+        for (int i = 3; i > 0; --i) {
+          const Crescent& morning = mornings[static_cast<std::size_t>(i - 1)];
+          if (!printer.Print(event.ut, CrescentRow(lunation, -i, morning))) return false;
+        }
+        for (int i = 1; i <= 3; ++i) {
+          const Crescent& evening = evenings[static_cast<std::size_t>(i - 1)];
+          if (!printer.Print(event.ut, CrescentRow(lunation, i, evening))) return false;
+        }
+        return true;
+      });
+}
+
+std::optional<EclipsePath> FindPath(std::int32_t lunation) {
+  const PhaseEvent event = FindPhaseEvent(lunation, kNewMoon);
+  if (event.eclipse.type == kNotEclipsed) return std::nullopt;
+  EclipsePath path(event.tt, DeltaTOf(TerrestrialTime(event.eclipse.greatest)));
+  return path.UmbralPhase() ? std::optional(path) : std::nullopt;
+}
+
+bool PrintPath(std::int32_t lunation, const EclipsePath& path, Printer& printer) {
+  const EclipseRecord eclipse = FindPhaseEvent(lunation, kNewMoon).eclipse;
+  const double delta_t = DeltaTOf(TerrestrialTime(eclipse.greatest));
+  const std::string_view kind = eclipse.type == kNonCentralTotalSolar ? "total" : "annular";
+  const TimeSpan span = path.CentralPhase() ? *path.CentralPhase() : *path.UmbralPhase();
+  const std::string header =
+      "kind,tt,ut,latitude,longitude,north_latitude,north_longitude,south_latitude,"
+      "south_longitude,altitude,duration_s,width_km";
+  if (!printer.Print(span.begin, header)) return false;
+  return std::ranges::all_of(InstantsOf(span, path.Greatest()), [&](UniversalTime instant) {
+    return printer.Print(instant, PathRow(instant, delta_t, kind, path));
+  });
+}
+
+}  // namespace tarnwick
