@@ -40,7 +40,7 @@ std::vector<ReferenceRow> Table(const std::vector<std::string>& words) {
 // The table of the year before, of and after an instant at the place of a row.
 std::vector<ReferenceRow> TableOfYears(const std::string& command, const ReferenceRow& row,
                                        const std::string& ut) {
-  const auto day = static_cast<std::int32_t>(NumberIn(row, ut) + 0.5);
+  const auto day = static_cast<std::int32_t>(std::lround(NumberIn(row, ut)));
   const std::int32_t year = CivilDateOf(day).year;
   return Table(
       {command, row.at("lat"), row.at("lon"), std::to_string(year - 1), std::to_string(year + 2)});

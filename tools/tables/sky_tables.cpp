@@ -209,8 +209,9 @@ bool PrintSunAndMoon(const TablePlace& place, const Period& period, Printer& pri
   if (!printer.Print(period.begin, header)) return false;
   const Observer observer = ObserverAt(place);
   const double midnight_after_greenwich = -place.longitude / 360;
-  for (double day = period.begin.days; day < period.end.days; ++day) {
-    const UniversalTime start(day + midnight_after_greenwich);
+  const DayNumber end = DayOf(period.end);
+  for (DayNumber day = DayOf(period.begin); day < end; day = day + 1) {
+    const UniversalTime start(NoonOf(day, 0).days - 0.5 + midnight_after_greenwich);
     const SkyDay sky(start, DeltaTOf(start));
     std::array<std::vector<UniversalTime>, kDayColumns.size()> found;
     std::size_t rows = 1;
@@ -218,9 +219,8 @@ bool PrintSunAndMoon(const TablePlace& place, const Period& period, Printer& pri
       found[i] = sky.Find(kDayColumns[i].first, kDayColumns[i].second, observer);
       rows = std::max(rows, found[i].size());
     }
-    const std::int32_t day_number = DayOf(UniversalTime(day)).value;
     for (std::size_t row = 0; row < rows; ++row) {
-      std::vector<std::string> cells{std::to_string(day_number)};
+      std::vector<std::string> cells{std::to_string(day.value)};
       for (const auto& events : found)
         cells.push_back(row < events.size() ? Cell(events[row]) : "");
       if (!printer.Print(start, Join(cells))) return false;
