@@ -9,15 +9,12 @@
 #include <string_view>
 
 #include "engines/instant.h"
+#include "moon/lunation_range.h"
 
 namespace tarnwick {
 
 inline constexpr int kGridColumns = 8;
 inline constexpr int kGridCells = 32;
-
-// The lunations of the accepted range of moments.
-inline constexpr std::int32_t kFirstLunation = -64316;
-inline constexpr std::int32_t kLastLunation = 49472;
 
 // How the days of a page are read.
 struct GridReading {

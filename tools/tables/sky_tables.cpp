@@ -11,14 +11,15 @@
 #include <vector>
 
 #include "calendars/date_processing.h"
-#include "engines/ephemeris/delta_t.h"
 #include "engines/phases.h"
 #include "engines/time_units.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
+#include "sky/certainty.h"
 #include "sky/crescent.h"
 #include "sky/lunar_at_place.h"
 #include "sky/rise_set.h"
+#include "sky/seen_eclipses.h"
 #include "sky/solar_at_place.h"
 #include "tools/tables/phase_visits.h"
 
@@ -36,9 +37,6 @@ template <class Time>
 double DeltaTOf(Time instant) {
   return DeltaT(instant) / kMinutesPerDay;
 }
-
-// The middle of the year at Greenwich, which delta T is that of.
-double YearOf(UniversalTime instant) { return CivilDateOf(DayOf(instant).value).year + 0.5; }
 
 std::string Degrees(double radians, int decimals) {
   return FormatFixed(radians / kDegree, decimals, false);
@@ -122,7 +120,7 @@ std::string LocalCells(const LocalRow& row, const EclipseRecord& record, std::in
   cells.insert(cells.end(), row.lunar_contacts.begin(), row.lunar_contacts.end());
   cells.push_back(Optional(record.penumbral_magnitude, 5));
   cells.push_back(FormatFixed(DeltaT(greatest) * kSecondsPerMinute, 1, false));
-  cells.push_back(FormatFixed(DeltaTError(YearOf(GreatestEclipse(record))), 2, false));
+  cells.push_back(FormatFixed(ClockError(GreatestEclipse(record)), 2, false));
   return Join(cells);
 }
 
@@ -196,8 +194,7 @@ bool PrintLocalEclipses(const TablePlace& place, const Period& period, Printer& 
     if (record.type == kNotEclipsed) return true;
     const UniversalTime ut = GreatestEclipse(record);
     if (!Contains(period, ut)) return true;
-    const TerrestrialTime greatest(record.greatest);
-    const EclipseCourse course(greatest, DeltaTOf(greatest));
+    const EclipseCourse course = CourseOfEclipse(record);
     const auto row =
         phase == kNewMoon ? SolarRow(course, observer) : LunarRow(record, course, observer);
     return !row || printer.Print(ut, LocalCells(*row, record, phase));

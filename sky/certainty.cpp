@@ -1,0 +1,58 @@
+#include "sky/certainty.h"
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <string_view>
+
+#include "calendars/date_processing.h"
+#include "engines/date_engine.h"
+#include "engines/ephemeris/delta_t.h"
+#include "engines/time_units.h"
+#include "moon/moon_data.h"
+#include "moon/syzyg.h"
+#include "sky/seen_eclipses.h"
+
+namespace tarnwick {
+namespace {
+
+std::string NameOf(SolarKind kind) {
+  constexpr std::array<std::string_view, 4> kNames{"not seen", "partial", "annular", "total"};
+  return std::string(kNames[static_cast<std::size_t>(kind)]);
+}
+
+SolarKind KindSeen(const EclipseRecord& record, const Observer& observer, double larger_by) {
+  return SolarEclipseAtPlace(CourseOfEclipse(record, larger_by), observer).kind_seen;
+}
+
+}  // namespace
+
+double ClockError(UniversalTime instant) {
+  const DayNumber day = SplitCJD(AJDToCJD(instant, 0)).day_number;
+  return DeltaTError(CivilDateOf(day.value).year + 0.5);
+}
+
+std::string ClockErrorSuffix(double seconds) {
+  if (seconds < kSecondsPerMinute) return {};
+  return " +- " + std::to_string(std::lround(seconds / kSecondsPerMinute)) + " min";
+}
+
+SolarCertainty CertaintyOf(const EclipseRecord& record, const Observer& observer) {
+  const double error = ClockError(GreatestEclipse(record));
+  return {KindSeen(record, observer, 0), KindSeen(record, observer, -error),
+          KindSeen(record, observer, error), error};
+}
+
+std::string CertaintyText(const SolarCertainty& certainty) {
+  const auto [kind, if_less, if_more, error] = certainty;
+  const std::string less = ErrorText(error) + " less";
+  const std::string more = ErrorText(error) + " more";
+  std::string text = NameOf(kind);
+  if (if_less != kind) text += "; " + NameOf(if_less) + " if delta T is " + less;
+  if (if_more == kind) return text;
+  if (if_less == kind) return text + "; " + NameOf(if_more) + " if delta T is " + more;
+  if (if_less == if_more) return text + " or more";
+  return text + "; " + NameOf(if_more) + " if it is " + more;
+}
+
+}  // namespace tarnwick
