@@ -8,11 +8,11 @@
 #include "engines/ephemeris/observer.h"
 #include "engines/phase_engine.h"
 #include "engines/phases.h"
-#include "engines/time_units.h"
-#include "moon/syzyg.h"
+#include "moon/phase_cache.h"
 #include "sky/crescent.h"
 #include "sky/lunar_at_place.h"
 #include "sky/rise_set.h"
+#include "sky/seen_eclipses.h"
 #include "sky/solar_at_place.h"
 
 namespace tarnwick {
@@ -76,18 +76,13 @@ std::vector<EclipseRecord> AllEclipses(std::int32_t phase) {
   return eclipses;
 }
 
-EclipseCourse CourseOf(const EclipseRecord& record) {
-  const TerrestrialTime greatest(record.greatest);
-  return {greatest, DeltaT(greatest) / kMinutesPerDay};
-}
-
 void SolarEclipsesAtPlace(benchmark::State& state) {
   const std::vector<EclipseRecord> eclipses = AllEclipses(kNewMoon);
   const Observer babylon = Babylon();
   std::int64_t seen = 0;
   for ([[maybe_unused]] auto _ : state) {
     for (const EclipseRecord& record : eclipses) {
-      const SolarAtPlace eclipse = SolarEclipseAtPlace(CourseOf(record), babylon);
+      const SolarAtPlace eclipse = SolarEclipseAtPlace(CourseOfEclipse(record), babylon);
       if (eclipse.kind_seen != SolarKind::kNone) ++seen;
     }
   }
@@ -103,7 +98,7 @@ void LunarEclipsesAtPlace(benchmark::State& state) {
   std::int64_t seen = 0;
   for ([[maybe_unused]] auto _ : state) {
     for (const EclipseRecord& record : eclipses) {
-      const LunarAtPlace eclipse = LunarEclipseAtPlace(record, CourseOf(record), babylon);
+      const LunarAtPlace eclipse = LunarEclipseAtPlace(record, CourseOfEclipse(record), babylon);
       if (eclipse.type_seen != kNotEclipsed) ++seen;
     }
   }
@@ -117,7 +112,7 @@ BENCHMARK(LunarEclipsesAtPlace)->Unit(benchmark::kMillisecond);
 void SolarEclipseAtManyPlaces(benchmark::State& state) {
   EclipseRecord record;
   syzyg(300, kNewMoon, record);
-  const EclipseCourse course = CourseOf(record);
+  const EclipseCourse course = CourseOfEclipse(record);
   double longitude = -std::numbers::pi;
   for ([[maybe_unused]] auto _ : state) {
     benchmark::DoNotOptimize(SolarEclipseAtPlace(course, Observer(0.6, longitude)));
@@ -125,6 +120,24 @@ void SolarEclipseAtManyPlaces(benchmark::State& state) {
   }
 }
 BENCHMARK(SolarEclipseAtManyPlaces);
+
+// From eclipse to eclipse through all 9200 years.
+void SeekAllSeenEclipses(benchmark::State& state) {
+  const auto sought = static_cast<SoughtEclipse>(state.range(0));
+  const Observer babylon = Babylon();
+  std::int64_t found = 0;
+  for ([[maybe_unused]] auto _ : state) {
+    ClearPhaseCache();
+    UniversalTime moment(552283);
+    while (const auto seen = FindSeenEclipse(sought, babylon, moment, true, [] { return true; })) {
+      moment = seen->instant;
+      ++found;
+    }
+  }
+  state.counters["found"] =
+      benchmark::Counter(static_cast<double>(found), benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(SeekAllSeenEclipses)->DenseRange(0, 3)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 }  // namespace
 }  // namespace tarnwick

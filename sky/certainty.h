@@ -30,9 +30,10 @@ struct SolarCertainty {
 // The solar eclipse of that record for an observer.
 SolarCertainty CertaintyOf(const EclipseRecord& record, const Observer& observer);
 
-// "total"; "total; partial if delta T is 11 min less"; "not seen; partial if delta T is 140 s
-// more", "total; partial if delta T is 11 min less or more", "partial; not seen if delta T is 11
-// min less; total if it is 11 min more".
+// "total", or with what may be as well:
+//   "total; partial if delta T is 11 min less"
+//   "not seen; partial if delta T is 140 s less or more"
+//   "partial; not seen if delta T is 11 min less; total if it is 11 min more"
 std::string CertaintyText(const SolarCertainty& certainty);
 
 }  // namespace tarnwick
