@@ -67,6 +67,9 @@ std::vector<PhaseNumber> Chain(SoughtEclipse sought, const Observer& observer, U
     if (forward ? found->instant > end : found->instant < end) break;
     chain.push_back(found->at);
     moment = found->instant;
+    // From shortly before it is the first, on whichever side of new moon it is seen.
+    const UniversalTime shortly = moment + (forward ? -0.001 : 0.001);
+    EXPECT_EQ(FindSeenEclipse(sought, observer, shortly, forward, Always)->at, found->at);
   }
   return chain;
 }
