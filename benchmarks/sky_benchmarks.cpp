@@ -11,6 +11,7 @@
 #include "engines/time_units.h"
 #include "moon/syzyg.h"
 #include "sky/crescent.h"
+#include "sky/eclipse_map.h"
 #include "sky/lunar_at_place.h"
 #include "sky/rise_set.h"
 #include "sky/solar_at_place.h"
@@ -125,6 +126,30 @@ void SolarEclipseAtManyPlaces(benchmark::State& state) {
   }
 }
 BENCHMARK(SolarEclipseAtManyPlaces);
+
+// Goal: 60 ms.
+void MapsOfSolarEclipses(benchmark::State& state) {
+  EclipseRecord record;
+  std::int32_t lunation = 300;
+  for ([[maybe_unused]] auto _ : state) {
+    do syzyg(lunation++, kNewMoon, record);
+    while (record.type == kNotEclipsed);
+    const TerrestrialTime greatest(record.greatest);
+    benchmark::DoNotOptimize(SolarEclipseMapOf(greatest, DeltaT(greatest) / kMinutesPerDay));
+  }
+}
+BENCHMARK(MapsOfSolarEclipses)->Unit(benchmark::kMillisecond);
+
+void MapsOfLunarEclipses(benchmark::State& state) {
+  EclipseRecord record;
+  std::int32_t lunation = 300;
+  for ([[maybe_unused]] auto _ : state) {
+    do syzyg(lunation++, kFullMoon, record);
+    while (record.type == kNotEclipsed);
+    benchmark::DoNotOptimize(LunarEclipseMapOf(record, CourseOf(record)));
+  }
+}
+BENCHMARK(MapsOfLunarEclipses)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tarnwick

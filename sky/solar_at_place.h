@@ -40,4 +40,10 @@ struct SolarAtPlace {
 // The solar eclipse of that course for an observer.
 SolarAtPlace SolarEclipseAtPlace(const EclipseCourse& course, const Observer& observer);
 
+// For contours: magnitude_seen of partial phases, which goes on rising where they turn total or
+// annular, and falls below 0 the farther the discs stay apart while the Sun is seen. Where nothing
+// is seen of it within hours of the eclipse: kSunNotSeen.
+inline constexpr double kSunNotSeen = -1;
+double ContinuedMagnitudeSeen(const EclipseCourse& course, const Observer& observer);
+
 }  // namespace tarnwick
