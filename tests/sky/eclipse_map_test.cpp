@@ -152,7 +152,7 @@ TEST(EclipseMap, DrawsEveryKindOfEclipse) {
   }
 }
 
-// 2000-01-21: total, and seen from the west of Europe to its end.
+// 2000-01-21, a total one.
 TEST(EclipseMap, BoundsWhereALunarEclipseIsSeen) {
   const EclipseRecord record = EclipseOf(0, kFullMoon);
   const EclipseCourse course(TerrestrialTime(record.greatest), DeltaTDays(record));
