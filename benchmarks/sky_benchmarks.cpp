@@ -10,6 +10,7 @@
 #include "engines/phases.h"
 #include "moon/phase_cache.h"
 #include "sky/crescent.h"
+#include "sky/eclipse_map.h"
 #include "sky/lunar_at_place.h"
 #include "sky/rise_set.h"
 #include "sky/seen_eclipses.h"
@@ -138,6 +139,30 @@ void SeekAllSeenEclipses(benchmark::State& state) {
       benchmark::Counter(static_cast<double>(found), benchmark::Counter::kAvgIterations);
 }
 BENCHMARK(SeekAllSeenEclipses)->DenseRange(0, 3)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// Goal: 60 ms.
+void MapsOfSolarEclipses(benchmark::State& state) {
+  EclipseRecord record;
+  std::int32_t lunation = 300;
+  for ([[maybe_unused]] auto _ : state) {
+    do syzyg(lunation++, kNewMoon, record);
+    while (record.type == kNotEclipsed);
+    const TerrestrialTime greatest(record.greatest);
+    benchmark::DoNotOptimize(SolarEclipseMapOf(greatest, DeltaT(greatest) / kMinutesPerDay));
+  }
+}
+BENCHMARK(MapsOfSolarEclipses)->Unit(benchmark::kMillisecond);
+
+void MapsOfLunarEclipses(benchmark::State& state) {
+  EclipseRecord record;
+  std::int32_t lunation = 300;
+  for ([[maybe_unused]] auto _ : state) {
+    do syzyg(lunation++, kFullMoon, record);
+    while (record.type == kNotEclipsed);
+    benchmark::DoNotOptimize(LunarEclipseMapOf(record, CourseOfEclipse(record)));
+  }
+}
+BENCHMARK(MapsOfLunarEclipses)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tarnwick

@@ -4,20 +4,15 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
-#include <vector>
+
+#include "sky/geo_point.h"
 
 namespace tarnwick {
-
-// A place in degrees: latitude north, in [-90, 90]; longitude east of Greenwich, in [-180, 180].
-struct GeoPoint {
-  double latitude = 0;
-  double longitude = 0;
-};
 
 // Polylines of at least two points each. Either there are lines, or the error says in words what
 // is wrong with the table; never both.
 struct Coastlines {
-  std::vector<std::vector<GeoPoint>> lines;
+  GeoLines lines;
   std::string error;
 };
 

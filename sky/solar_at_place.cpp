@@ -109,10 +109,15 @@ SolarKind KindOf(const Discs& discs) {
   return inner < 0 ? SolarKind::kTotal : SolarKind::kAnnular;
 }
 
+// Of the Sun's diameter; negative while the discs stay apart.
+double CoveredDiameter(const Discs& discs) {
+  return (discs.Outer().value - discs.Separation()) / (2 * discs.sun.value);
+}
+
 double Magnitude(SolarKind kind, const Discs& discs) {
   if (kind == SolarKind::kNone) return 0;
   if (kind != SolarKind::kPartial) return discs.moon_valleys.value / discs.sun.value;
-  return (discs.Outer().value - discs.Separation()) / (2 * discs.sun.value);
+  return CoveredDiameter(discs);
 }
 
 // The part of the disc of radius a that lies beyond the chord which it has in common with one of
@@ -173,6 +178,23 @@ SolarAtPlace SolarEclipseAtPlace(const EclipseCourse& course, const Observer& ob
   }
   FindSeen(view, maximum, begin, end, eclipse);
   return eclipse;
+}
+
+double ContinuedMagnitudeSeen(const EclipseCourse& course, const Observer& observer) {
+  // No contour is drawn so low that it would matter whether the Sun is up.
+  constexpr double kFarBelow = -0.5;
+  const EclipseView view(course, observer);
+  const double maximum = Maximum(view);
+  const double greatest = CoveredDiameter(DiscsAt(view, maximum));
+  if (greatest < kFarBelow) return std::max(greatest, kSunNotSeen);
+  const auto height = [&](double offset) { return view.SunAt(offset).upper_limb; };
+  if (height(maximum) > 0) return greatest;
+  double seen = kSunNotSeen;
+  for (const double end : {-kReach, kReach}) {
+    const std::optional<double> visible = FirstVisible(height, maximum, end);
+    if (visible) seen = std::max(seen, CoveredDiameter(DiscsAt(view, *visible)));
+  }
+  return seen;
 }
 
 }  // namespace tarnwick

@@ -40,4 +40,10 @@ struct SolarAtPlace {
 // The solar eclipse of that course for an observer.
 SolarAtPlace SolarEclipseAtPlace(const EclipseCourse& course, const Observer& observer);
 
+// For contours: magnitude_seen, which as the covered part of the diameter goes on where the eclipse
+// turns total or annular, and falls below 0 the farther the discs stay apart while the Sun is up;
+// at least kSunNotSeen, which it is where the Sun stays down for hours about the eclipse.
+inline constexpr double kSunNotSeen = -1;
+double ContinuedMagnitudeSeen(const EclipseCourse& course, const Observer& observer);
+
 }  // namespace tarnwick

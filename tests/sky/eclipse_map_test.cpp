@@ -1,0 +1,179 @@
+#include "sky/eclipse_map.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <gtest/gtest.h>
+#include <utility>
+#include <vector>
+
+#include "engines/phases.h"
+#include "moon/syzyg.h"
+#include "sky/contours.h"
+#include "sky/lunar_at_place.h"
+#include "sky/solar_at_place.h"
+#include "tests/sky/eclipse_rows.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr GeoPoint kStuttgart{48.78, 9.18};
+
+Observer ObserverOn(const GeoPoint& point) { return ObserverAt(point.latitude, point.longitude); }
+
+double DeltaTDays(const EclipseRecord& record) {
+  return DeltaT(TerrestrialTime(record.greatest)) / kMinutesPerDay;
+}
+
+SolarEclipseMap SolarMapOf(std::int32_t lunation) {
+  const EclipseRecord record = EclipseOf(lunation, kNewMoon);
+  return SolarEclipseMapOf(TerrestrialTime(record.greatest), DeltaTDays(record));
+}
+
+// By the parity of the crossings of a meridian to the south of the point, counted from the south
+// pole, which must lie outside.
+bool Encloses(const GeoLines& lines, const GeoPoint& point) {
+  bool inside = false;
+  for (const std::vector<GeoPoint>& line : lines) {
+    for (std::size_t i = 1; i < line.size(); ++i) {
+      const GeoPoint& a = line[i - 1];
+      const GeoPoint& b = line[i];
+      if ((a.longitude > point.longitude) == (b.longitude > point.longitude)) continue;
+      const double part = (point.longitude - a.longitude) / (b.longitude - a.longitude);
+      if (std::lerp(a.latitude, b.latitude, part) < point.latitude) inside = !inside;
+    }
+  }
+  return inside;
+}
+
+double DegreesFrom(const GeoPoint& point, const GeoLines& lines) {
+  double least = 360;
+  for (const std::vector<GeoPoint>& line : lines) {
+    for (const GeoPoint& a : line) {
+      const double cosine = std::cos(point.latitude * kDegree);
+      least = std::min(
+          least, std::hypot(a.latitude - point.latitude, (a.longitude - point.longitude) * cosine));
+    }
+  }
+  return least;
+}
+
+void ExpectWithinTheMap(const GeoLines& lines, double longest) {
+  for (const std::vector<GeoPoint>& line : lines) {
+    ASSERT_GE(line.size(), 2U);
+    for (std::size_t i = 0; i < line.size(); ++i) {
+      ASSERT_LE(std::abs(line[i].latitude), 90);
+      ASSERT_LE(std::abs(line[i].longitude), 180);
+      if (i == 0) continue;
+      EXPECT_LE(std::abs(line[i].latitude - line[i - 1].latitude), longest);
+      EXPECT_LE(std::abs(line[i].longitude - line[i - 1].longitude), longest);
+    }
+  }
+}
+
+// A line comes back to its first point, or both its ends lie at the date line.
+void ExpectWithoutLooseEnds(const GeoLines& lines) {
+  for (const std::vector<GeoPoint>& line : lines) {
+    const bool at_date_line =
+        std::abs(line.front().longitude) == 180 && std::abs(line.back().longitude) == 180;
+    EXPECT_TRUE(at_date_line || (line.front().latitude == line.back().latitude &&
+                                 line.front().longitude == line.back().longitude));
+  }
+}
+
+TEST(Contours, SettleAmbiguousSquaresByTheMeanAndStopAtTheDateLine) {
+  // Two peaks at opposite corners of a square, and a level that their mean is above or below.
+  const auto peaks = [](const GeoPoint& p) {
+    const auto peak = [&](double latitude, double longitude) {
+      return std::max(0.0, 1 - std::hypot(p.latitude - latitude, p.longitude - longitude) / 10);
+    };
+    return std::max(peak(0, 0), peak(10, 10));
+  };
+  const GeoGrid two_peaks(10, peaks);
+  EXPECT_EQ(two_peaks.Contours(0.4).size(), 1U);
+  EXPECT_EQ(two_peaks.Contours(0.6).size(), 2U);
+  const auto around_date_line = [](const GeoPoint& p) {
+    return 30 - std::hypot(p.latitude, 180 - std::abs(p.longitude));
+  };
+  const GeoLines halves = GeoGrid(10, around_date_line).Contours(0);
+  EXPECT_EQ(halves.size(), 2U);
+  ExpectWithinTheMap(halves, 20);
+  ExpectWithoutLooseEnds(halves);
+}
+
+// 1999-08-11.
+TEST(EclipseMap, MeetsWhatThePlacesSee) {
+  const EclipseRecord record = EclipseOf(-5, kNewMoon);
+  const EclipseCourse course(TerrestrialTime(record.greatest), DeltaTDays(record));
+  const SolarEclipseMap map = SolarMapOf(-5);
+  EXPECT_LT(DegreesFrom(kStuttgart, map.central_line), 0.3);
+  EXPECT_TRUE(Encloses(map.magnitudes.back(), kStuttgart));
+  EXPECT_FALSE(Encloses(map.magnitudes.front(), {-33.9, 18.4}));
+  ErrorStatistics errors;
+  for (std::size_t i = 1; i < kMappedMagnitudes.size(); ++i) {
+    for (const std::vector<GeoPoint>& line : map.magnitudes[i]) {
+      for (const GeoPoint& point : line) {
+        const SolarAtPlace seen = SolarEclipseAtPlace(course, ObserverOn(point));
+        errors.Add(seen.magnitude_seen - kMappedMagnitudes[i]);
+      }
+    }
+  }
+  errors.Print("magnitude on its curve", "diameters");
+  EXPECT_LT(errors.Largest(), 0.01);
+}
+
+TEST(EclipseMap, DrawsEveryKindOfEclipse) {
+  const struct {
+    std::int32_t lunation;
+    std::size_t curves;  // of magnitude that there must be
+    bool central;
+    bool limited;
+  } kEclipses[] = {
+      {153, 5, true, true},     // annular, over the date line
+      {265, 5, true, true},     // annular, over the north pole
+      {188, 5, true, true},     // total, ends at the north pole
+      {-804, 1, false, false},  // partial, only touches the Earth
+      {177, 5, false, true},    // annular, not central
+  };
+  for (const auto& [lunation, curves, central, limited] : kEclipses) {
+    SCOPED_TRACE(lunation);
+    const SolarEclipseMap map = SolarMapOf(lunation);
+    for (std::size_t i = 0; i < map.magnitudes.size(); ++i) {
+      EXPECT_EQ(!map.magnitudes[i].empty(), i < curves) << i;
+      ExpectWithinTheMap(map.magnitudes[i], 4);
+      ExpectWithoutLooseEnds(map.magnitudes[i]);
+    }
+    EXPECT_EQ(!map.central_line.empty(), central);
+    EXPECT_EQ(map.greatest_place.has_value(), central);
+    EXPECT_EQ(!map.northern_limit.empty() || !map.southern_limit.empty(), limited);
+    for (const GeoLines* lines : {&map.central_line, &map.northern_limit, &map.southern_limit}) {
+      ExpectWithinTheMap(*lines, 180);
+    }
+  }
+}
+
+// 2000-01-21, a total one.
+TEST(EclipseMap, BoundsWhereALunarEclipseIsSeen) {
+  const EclipseRecord record = EclipseOf(0, kFullMoon);
+  const EclipseCourse course(TerrestrialTime(record.greatest), DeltaTDays(record));
+  const LunarEclipseMap map = LunarEclipseMapOf(record, course);
+  ASSERT_TRUE(map.umbral && map.total);
+  for (const LunarPhaseMap& phase : {map.penumbral, *map.umbral, *map.total}) {
+    for (const GeoLines& lines : {phase.whole, phase.any}) {
+      EXPECT_FALSE(lines.empty());
+      ExpectWithinTheMap(lines, 6);
+      ExpectWithoutLooseEnds(lines);
+    }
+  }
+  // On the edge of where all of the penumbral phase is seen, the Moon then rises or sets.
+  for (const std::vector<GeoPoint>& line : map.penumbral.whole) {
+    for (const GeoPoint& point : line) {
+      const LunarAtPlace seen = LunarEclipseAtPlace(record, course, ObserverOn(point));
+      EXPECT_NEAR(std::min({seen.p1->upper_limb, seen.greatest.upper_limb, seen.p4->upper_limb}), 0,
+                  1e-6);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace tarnwick
