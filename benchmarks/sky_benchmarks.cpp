@@ -8,6 +8,7 @@
 #include "engines/ephemeris/observer.h"
 #include "engines/phase_engine.h"
 #include "engines/phases.h"
+#include "engines/time_units.h"
 #include "moon/phase_cache.h"
 #include "sky/crescent.h"
 #include "sky/eclipse_map.h"
