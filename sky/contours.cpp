@@ -16,7 +16,8 @@ constexpr int kNone = -1;
 
 GeoGrid::GeoGrid(int step, GeoQuantity quantity)
     : step_(step), columns_(360 / step), rows_(180 / step), quantity_(std::move(quantity)) {
-  values_.reserve(static_cast<std::size_t>((rows_ + 1) * columns_));
+  const int corners = (rows_ + 1) * columns_;
+  values_.reserve(static_cast<std::size_t>(corners));
   for (int row = 0; row <= rows_; ++row) {
     for (int column = 0; column < columns_; ++column) {
       const bool pole = row == 0 || row == rows_;
@@ -30,7 +31,8 @@ GeoPoint GeoGrid::Corner(int row, int column) const {
 }
 
 double GeoGrid::ValueAt(int row, int column) const {
-  return values_[static_cast<std::size_t>(row * columns_ + column % columns_)];
+  const int corner = row * columns_ + column % columns_;
+  return values_[static_cast<std::size_t>(corner)];
 }
 
 int GeoGrid::NumberOf(const Side& side) const {
