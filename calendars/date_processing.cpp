@@ -234,4 +234,8 @@ DayAndTime SplitCJD(LocalCJD cjd) {
   return {DayNumber(day_number), static_cast<double>(seconds) / kSecondsPerDay};
 }
 
+DayNumber DayOf(UniversalTime moment, std::int32_t offset_minutes) {
+  return SplitCJD(AJDToCJD(moment, offset_minutes)).day_number;
+}
+
 }  // namespace tarnwick

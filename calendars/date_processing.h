@@ -87,6 +87,9 @@ UniversalTime CJDToAJD(LocalCJD cjd, std::int32_t offset_minutes);
 // The moment at which it is noon of a day there.
 UniversalTime NoonOf(DayNumber day_number, std::int32_t offset_minutes);
 
+// The day there that contains a moment.
+DayNumber DayOf(UniversalTime moment, std::int32_t offset_minutes);
+
 struct DayAndTime {
   DayNumber day_number;
   double fraction = 0;  // of the day, [0:1), a whole number of seconds / 86400

@@ -4,6 +4,8 @@
 #include <system_error>
 #include <utility>
 
+#include "controls/save_path.h"
+
 namespace tarnwick {
 
 std::filesystem::path PictureFiles::Find(const std::filesystem::path& name) {
@@ -11,9 +13,8 @@ std::filesystem::path PictureFiles::Find(const std::filesystem::path& name) {
   std::error_code error;
   if (std::filesystem::is_regular_file(file, error)) return file;
   if (!std::exchange(reported_, true)) {
-    const std::u8string text = file.u8string();
-    desktop_.ShowMessage({"Picture not found: " + std::string(text.begin(), text.end()), "Error",
-                          MessageIcon::kExclamation});
+    desktop_.ShowMessage(
+        {"Picture not found: " + PathText(file), "Error", MessageIcon::kExclamation});
   }
   return {};
 }

@@ -84,8 +84,7 @@ void MoonSection::ShowPicture(double fraction, bool waxing) {
 
 void MoonSection::DisplayDeltaT() {
   lblDeltaT[1].SetCaption(DeltaTText(DeltaT(session_.Moment())));
-  const std::int32_t year =
-      CivilDateOf(SplitCJD(AJDToCJD(session_.Moment(), 0)).day_number.value).year;
+  const std::int32_t year = CivilDateOf(DayOf(session_.Moment(), 0).value).year;
   Explain(lblDeltaT,
           "Terrestrial less Universal Time, kept by the turning Earth; its standard error in " +
               YearText(year) + " is " + ErrorText(DeltaTError(year)));

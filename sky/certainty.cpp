@@ -1,9 +1,6 @@
 #include "sky/certainty.h"
 
-#include <array>
 #include <cmath>
-#include <cstddef>
-#include <string_view>
 
 #include "calendars/date_processing.h"
 #include "engines/date_engine.h"
@@ -11,14 +8,13 @@
 #include "engines/time_units.h"
 #include "moon/moon_data.h"
 #include "moon/syzyg.h"
-#include "sky/seen_eclipses.h"
+#include "sky/eclipse_view.h"
 
 namespace tarnwick {
 namespace {
 
-std::string NameOf(SolarKind kind) {
-  constexpr std::array<std::string_view, 4> kNames{"not seen", "partial", "annular", "total"};
-  return std::string(kNames[static_cast<std::size_t>(kind)]);
+std::string Seen(SolarKind kind) {
+  return kind == SolarKind::kNone ? "not seen" : std::string(NameOf(kind));
 }
 
 SolarKind KindSeen(const EclipseRecord& record, const Observer& observer, double larger_by) {
@@ -28,8 +24,7 @@ SolarKind KindSeen(const EclipseRecord& record, const Observer& observer, double
 }  // namespace
 
 double ClockError(UniversalTime instant) {
-  const DayNumber day = SplitCJD(AJDToCJD(instant, 0)).day_number;
-  return DeltaTError(CivilDateOf(day.value).year + 0.5);
+  return DeltaTError(CivilDateOf(DayOf(instant, 0).value).year + 0.5);
 }
 
 std::string ClockErrorSuffix(double seconds) {
@@ -47,12 +42,12 @@ std::string CertaintyText(const SolarCertainty& certainty) {
   const auto [kind, if_less, if_more, error] = certainty;
   const std::string less = ErrorText(error) + " less";
   const std::string more = ErrorText(error) + " more";
-  std::string text = NameOf(kind);
-  if (if_less != kind) text += "; " + NameOf(if_less) + " if delta T is " + less;
+  std::string text = Seen(kind);
+  if (if_less != kind) text += "; " + Seen(if_less) + " if delta T is " + less;
   if (if_more == kind) return text;
-  if (if_less == kind) return text + "; " + NameOf(if_more) + " if delta T is " + more;
+  if (if_less == kind) return text + "; " + Seen(if_more) + " if delta T is " + more;
   if (if_less == if_more) return text + " or more";
-  return text + "; " + NameOf(if_more) + " if it is " + more;
+  return text + "; " + Seen(if_more) + " if it is " + more;
 }
 
 }  // namespace tarnwick

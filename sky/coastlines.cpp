@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "calendars/text.h"
+#include "controls/save_path.h"
 #include "controls/text_file.h"
 
 namespace tarnwick {
@@ -91,8 +92,7 @@ Coastlines ParseCoastlines(std::string_view text) {
 }
 
 Coastlines ReadCoastlines(const std::filesystem::path& file) {
-  const std::u8string name = file.u8string();
-  const std::string told = "Coastlines not read: " + std::string(name.begin(), name.end());
+  const std::string told = "Coastlines not read: " + PathText(file);
   const std::optional<std::string> text = ReadTextFile(file, kLargestFile);
   if (!text) return {{}, told + " is missing or cannot be read."};
   Coastlines coastlines = ParseCoastlines(*text);

@@ -7,7 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include "engines/ephemeris/observer.h"
 #include "engines/time_units.h"
 #include "sky/contours.h"
 #include "sky/solar_at_place.h"
@@ -15,13 +14,8 @@
 namespace tarnwick {
 namespace {
 
-constexpr double kDegree = std::numbers::pi / 180;
 constexpr int kSolarStep = 2;  // degrees
 constexpr int kLunarStep = 3;
-
-Observer ObserverAt(const GeoPoint& point) {
-  return {point.latitude * kDegree, point.longitude * kDegree};
-}
 
 // Puts lines together from points in their order, and breaks them at the date line.
 class LineMaker {

@@ -5,6 +5,8 @@
 
 #include "engines/ephemeris/positions.h"
 #include "engines/ephemeris/shadow_axis.h"
+#include "engines/time_units.h"
+#include "moon/syzyg.h"
 #include "sky/visibility.h"
 
 namespace tarnwick {
@@ -23,6 +25,11 @@ EclipseCourse::EclipseCourse(TerrestrialTime greatest, double delta_t)
       delta_t_(delta_t),
       track_(greatest.days, VectorsOf(PositionsAt(greatest.days))),
       frame_(greatest.days, delta_t) {}
+
+EclipseCourse CourseOfEclipse(const EclipseRecord& record, double larger_by) {
+  const TerrestrialTime greatest(record.greatest);
+  return {greatest, DeltaT(greatest) / kMinutesPerDay + larger_by / kSecondsPerDay};
+}
 
 EclipseView::EclipseView(const EclipseCourse& course, const Observer& observer)
     : course_(course), observer_(observer) {

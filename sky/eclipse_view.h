@@ -9,6 +9,7 @@
 #include "engines/ephemeris/moon_sun_track.h"
 #include "engines/ephemeris/observer.h"
 #include "engines/instant.h"
+#include "engines/phase_engine.h"
 
 namespace tarnwick {
 
@@ -34,6 +35,10 @@ class EclipseCourse {
   MoonSunTrack track_;
   EarthFrame frame_;
 };
+
+// The course of the eclipse of that record by the delta T of its year, or one that is so many
+// seconds larger.
+EclipseCourse CourseOfEclipse(const EclipseRecord& record, double larger_by = 0);
 
 // Sun or Moon from a place at an instant.
 struct BodyAtInstant {

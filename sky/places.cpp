@@ -6,6 +6,7 @@
 #include <sstream>
 #include <utility>
 
+#include "controls/save_path.h"
 #include "controls/text_file.h"
 #include "sky/coordinates.h"
 
@@ -71,8 +72,7 @@ PlaceList ParsePlaces(std::string_view text) {
 }
 
 PlaceList ReadPlaces(const std::filesystem::path& file) {
-  const std::u8string path = file.u8string();
-  const std::string name(path.begin(), path.end());
+  const std::string name = PathText(file);
   const auto text = ReadTextFile(file, kMostBytes);
   if (!text) return {{}, "The places cannot be read: " + name};
   PlaceList list = ParsePlaces(*text);

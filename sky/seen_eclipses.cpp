@@ -62,11 +62,6 @@ std::int64_t FirstToLookAt(UniversalTime moment, bool forward) {
 
 }  // namespace
 
-EclipseCourse CourseOfEclipse(const EclipseRecord& record, double larger_by) {
-  const TerrestrialTime greatest(record.greatest);
-  return {greatest, DeltaT(greatest) / kMinutesPerDay + larger_by / kSecondsPerDay};
-}
-
 std::optional<SeenEclipse> FindSeenEclipse(SoughtEclipse sought, const Observer& observer,
                                            UniversalTime moment, bool forward,
                                            const std::function<bool()>& keep_searching) {

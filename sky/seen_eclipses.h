@@ -6,9 +6,7 @@
 
 #include "engines/ephemeris/observer.h"
 #include "engines/instant.h"
-#include "engines/phase_engine.h"
 #include "moon/syzyg.h"
-#include "sky/eclipse_view.h"
 
 namespace tarnwick {
 
@@ -22,10 +20,6 @@ struct SeenEclipse {
   // rises or sets.
   UniversalTime instant;
 };
-
-// The course of the eclipse of that record by the delta T of its year, or one that is so many
-// seconds larger.
-EclipseCourse CourseOfEclipse(const EclipseRecord& record, double larger_by = 0);
 
 // The eclipse of which most is seen next after a moment or last before it, by more than a second,
 // so that a step from the instant of one found before leads on to another. Nothing if there is none

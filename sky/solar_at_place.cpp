@@ -1,7 +1,9 @@
 #include "sky/solar_at_place.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
 #include <numbers>
 #include <tuple>
 
@@ -157,6 +159,11 @@ void FindSeen(const EclipseView& view, double maximum, double begin, double end,
 }
 
 }  // namespace
+
+std::string_view NameOf(SolarKind kind) {
+  constexpr std::array<std::string_view, 4> kNames{"none", "partial", "annular", "total"};
+  return kNames[static_cast<std::size_t>(kind)];
+}
 
 SolarAtPlace SolarEclipseAtPlace(const EclipseCourse& course, const Observer& observer) {
   const EclipseView view(course, observer);

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 
 #include "engines/ephemeris/observer.h"
 #include "engines/instant.h"
@@ -19,6 +20,9 @@ namespace tarnwick {
 
 // From the least to the greatest.
 enum class SolarKind { kNone, kPartial, kAnnular, kTotal };
+
+// "none", "partial", "annular" or "total".
+std::string_view NameOf(SolarKind kind);
 
 struct SolarAtPlace {
   // Kind, magnitude and obscuration as they would be if the Earth were transparent.

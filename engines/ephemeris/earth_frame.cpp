@@ -40,7 +40,13 @@ double EarthRotationAngle(double ajd_ut) {
   return (turns - std::floor(turns)) * kTurn;
 }
 
-double TrueObliquity(double ajd_tt) { return MeanObliquity(ajd_tt) + NutationAt(ajd_tt).obliquity; }
+double SiderealTime(double ajd_ut, double ajd_tt, double nutation, double true_obliquity) {
+  const double precession =
+      PolynomialOfArcseconds(kPrecession, HeldCenturies(ajd_tt) / kCenturiesOfPrecession);
+  const double angle =
+      EarthRotationAngle(ajd_ut) + precession + nutation * std::cos(true_obliquity);
+  return angle - kTurn * std::floor(angle / kTurn);
+}
 
 }  // namespace
 
@@ -61,19 +67,16 @@ Nutation NutationAt(double ajd_tt) {
 }
 
 double ApparentSiderealTime(double ajd_ut, double ajd_tt) {
-  const double precession =
-      PolynomialOfArcseconds(kPrecession, HeldCenturies(ajd_tt) / kCenturiesOfPrecession);
-  const double equation = NutationAt(ajd_tt).longitude * std::cos(TrueObliquity(ajd_tt));
-  const double angle = EarthRotationAngle(ajd_ut) + precession + equation;
-  return angle - kTurn * std::floor(angle / kTurn);
+  const auto [nutation, in_obliquity] = NutationAt(ajd_tt);
+  return SiderealTime(ajd_ut, ajd_tt, nutation, MeanObliquity(ajd_tt) + in_obliquity);
 }
 
 // The rows of the matrix: nutation in longitude about the pole of the ecliptic, the obliquity about
 // the equinox, sidereal time about the pole of the equator.
 EarthFrame::EarthFrame(double ajd_tt, double delta_t) {
-  const double nutation = NutationAt(ajd_tt).longitude;
-  const double obliquity = TrueObliquity(ajd_tt);
-  const double sidereal_time = ApparentSiderealTime(ajd_tt - delta_t, ajd_tt);
+  const auto [nutation, in_obliquity] = NutationAt(ajd_tt);
+  const double obliquity = MeanObliquity(ajd_tt) + in_obliquity;
+  const double sidereal_time = SiderealTime(ajd_tt - delta_t, ajd_tt, nutation, obliquity);
   // Seen from the mean equinox, the true one is at -nutation.
   const Vector3 equinox{std::cos(nutation), -std::sin(nutation), 0};
   const Vector3 along{std::sin(nutation), std::cos(nutation), 0};

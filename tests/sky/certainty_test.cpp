@@ -30,7 +30,7 @@ TEST(Certainty, TellsWhatAnotherDeltaTWouldShow) {
   };
   for (CertaintyCase c : cases) {
     const UniversalTime midnight(euro_date_to_jdn(c.date) - 0.5);
-    const Observer observer = ObserverAt(c.latitude, c.longitude);
+    const Observer observer = ObserverAt({c.latitude, c.longitude});
     const auto found =
         FindSeenEclipse(SoughtEclipse::kSolar, observer, midnight, true, [] { return true; });
     ASSERT_TRUE(found && found->instant - midnight < 1) << c.text;

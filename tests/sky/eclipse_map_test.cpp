@@ -19,8 +19,6 @@ namespace {
 
 constexpr GeoPoint kStuttgart{48.78, 9.18};
 
-Observer ObserverOn(const GeoPoint& point) { return ObserverAt(point.latitude, point.longitude); }
-
 double DeltaTDays(const EclipseRecord& record) {
   return DeltaT(TerrestrialTime(record.greatest)) / kMinutesPerDay;
 }
@@ -113,7 +111,7 @@ TEST(EclipseMap, MeetsWhatThePlacesSee) {
   for (std::size_t i = 1; i < kMappedMagnitudes.size(); ++i) {
     for (const std::vector<GeoPoint>& line : map.magnitudes[i]) {
       for (const GeoPoint& point : line) {
-        const SolarAtPlace seen = SolarEclipseAtPlace(course, ObserverOn(point));
+        const SolarAtPlace seen = SolarEclipseAtPlace(course, ObserverAt(point));
         errors.Add(seen.magnitude_seen - kMappedMagnitudes[i]);
       }
     }
@@ -168,7 +166,7 @@ TEST(EclipseMap, BoundsWhereALunarEclipseIsSeen) {
   // On the edge of where all of the penumbral phase is seen, the Moon then rises or sets.
   for (const std::vector<GeoPoint>& line : map.penumbral.whole) {
     for (const GeoPoint& point : line) {
-      const LunarAtPlace seen = LunarEclipseAtPlace(record, course, ObserverOn(point));
+      const LunarAtPlace seen = LunarEclipseAtPlace(record, course, ObserverAt(point));
       EXPECT_NEAR(std::min({seen.p1->upper_limb, seen.greatest.upper_limb, seen.p4->upper_limb}), 0,
                   1e-6);
     }

@@ -15,10 +15,6 @@
 
 namespace tarnwick {
 
-inline Observer ObserverAt(double latitude, double longitude) {
-  return {latitude * kDegree, longitude * kDegree};
-}
-
 inline EclipseRecord EclipseOf(std::int32_t lunation, std::int32_t phase) {
   EclipseRecord record;
   syzyg(lunation, phase, record);

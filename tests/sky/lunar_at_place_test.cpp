@@ -72,7 +72,7 @@ TEST(LunarAtPlace, TellsTheGreatestThatIsSeen) {
     for (double latitude = -60; latitude <= 60; latitude += 7.5) {
       for (double longitude = -180; longitude < 180; longitude += 5) {
         SCOPED_TRACE(testing::Message() << lunation << " " << latitude << " " << longitude);
-        const Observer observer = ObserverAt(latitude, longitude);
+        const Observer observer = ObserverAt({latitude, longitude});
         const LunarAtPlace eclipse = LunarEclipseAtPlace(record, course, observer);
         EXPECT_EQ(eclipse.type_seen, TypeOfVisibleContacts(record, eclipse));
         ++counts[eclipse.type_seen];

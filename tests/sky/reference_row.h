@@ -2,26 +2,23 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <numbers>
 #include <optional>
 #include <string>
 
-#include "engines/ephemeris/observer.h"
 #include "engines/instant.h"
 #include "engines/time_units.h"
+#include "sky/geo_point.h"
 #include "tests/error_statistics.h"
 #include "tests/reference_data.h"
 
 namespace tarnwick {
-
-inline constexpr double kDegree = std::numbers::pi / 180;
 
 inline double NumberIn(const ReferenceRow& row, const std::string& column) {
   return std::stod(row.at(column));
 }
 
 inline Observer ObserverOf(const ReferenceRow& row) {
-  return {NumberIn(row, "lat") * kDegree, NumberIn(row, "lon") * kDegree};
+  return ObserverAt({NumberIn(row, "lat"), NumberIn(row, "lon")});
 }
 
 // Days.

@@ -50,7 +50,7 @@ TEST(SeenEclipses, FindsTheNeighboursOfADay) {
       {51.51, -0.13, kTotalSolar, {1715, 5, 4, 'G'}, true, {2151, 6, 14, 'G'}},
   };
   for (const NeighbourCase& c : cases) {
-    const Observer observer = ObserverAt(c.latitude, c.longitude);
+    const Observer observer = ObserverAt({c.latitude, c.longitude});
     const auto found = FindSeenEclipse(c.sought, observer, MidnightOf(c.from), c.forward, Always);
     ASSERT_TRUE(found) << c.expected.year;
     const double day = found->instant - MidnightOf(c.expected);
@@ -108,7 +108,7 @@ TEST(SeenEclipses, MissesNoneEitherWay) {
   const UniversalTime begin = PhaseTime(kBegin, kNewMoon) - 2;
   const UniversalTime end = PhaseTime(kEnd, kNewMoon) - 2;
   std::size_t total = 0;
-  for (const Observer& observer : {ObserverAt(69.65, 18.96), ObserverAt(32.54, 44.42)}) {
+  for (const Observer& observer : {ObserverAt({69.65, 18.96}), ObserverAt({32.54, 44.42})}) {
     for (const SoughtEclipse sought : kAllSought) {
       std::vector<PhaseNumber> expected = AllSeen(sought, observer, kBegin, kEnd);
       total += expected.size();
@@ -121,7 +121,7 @@ TEST(SeenEclipses, MissesNoneEitherWay) {
 }
 
 TEST(SeenEclipses, AreFoundWithinTheRangeAlone) {
-  const Observer babylon = ObserverAt(32.54, 44.42);
+  const Observer babylon = ObserverAt({32.54, 44.42});
   for (const bool forward : {true, false}) {
     const UniversalTime inner = PhaseTime(forward ? kLastLunation : kFirstLunation, kNewMoon);
     const UniversalTime outer = inner + (forward ? 1e5 : -1e5);
@@ -138,7 +138,7 @@ TEST(SeenEclipses, AreFoundWithinTheRangeAlone) {
 TEST(SeenEclipses, CanBeGivenUp) {
   int asked = 0;
   const auto give_up = [&] { return ++asked < 100; };
-  EXPECT_FALSE(FindSeenEclipse(SoughtEclipse::kTotalSolar, ObserverAt(48.78, 9.18),
+  EXPECT_FALSE(FindSeenEclipse(SoughtEclipse::kTotalSolar, ObserverAt({48.78, 9.18}),
                                MidnightOf({1900, 1, 1, 'G'}), true, give_up));
   EXPECT_EQ(asked, 100);
 }

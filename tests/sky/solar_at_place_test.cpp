@@ -21,11 +21,6 @@ SolarAtPlace SolarOf(const ReferenceRow& row) {
   return SolarEclipseAtPlace(CourseOf(record, NumberIn(row, "delta_t")), ObserverOf(row));
 }
 
-std::string NameOf(SolarKind kind) {
-  const char* const names[] = {"none", "partial", "annular", "total"};
-  return names[static_cast<int>(kind)];
-}
-
 const struct {
   std::string name;
   std::optional<BodyAtInstant> SolarAtPlace::*contact;
@@ -123,7 +118,7 @@ TEST(SolarAtPlace, TellsTheGreatestThatIsSeen) {
     for (double latitude = -87.5; latitude < 90; latitude += 12.5) {
       for (double longitude = -180; longitude < 180; longitude += 7.5) {
         SCOPED_TRACE(testing::Message() << lunation << " " << latitude << " " << longitude);
-        const Observer observer = ObserverAt(latitude, longitude);
+        const Observer observer = ObserverAt({latitude, longitude});
         const SolarAtPlace eclipse = SolarEclipseAtPlace(course, observer);
         const Seen expected = GreatestSeen({course, observer});
         EXPECT_EQ(NameOf(eclipse.kind_seen), NameOf(expected.kind));

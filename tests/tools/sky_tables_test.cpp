@@ -11,39 +11,19 @@
 
 #include "engines/date_engine.h"
 #include "tests/sky/reference_row.h"
-#include "tools/tables/tables.h"
+#include "tests/tools/printed_table.h"
 
 namespace tarnwick {
 namespace {
-
-std::vector<ReferenceRow> Table(const std::vector<std::string>& words) {
-  const std::vector<std::string_view> arguments(words.begin(), words.end());
-  std::ostringstream out;
-  std::ostringstream err;
-  EXPECT_EQ(RunTables(arguments, out, err, false), kTablesDone) << err.str();
-  std::istringstream lines(out.str());
-  std::string line;
-  std::getline(lines, line);
-  const std::vector<std::string> names = SplitCells(line);
-  std::vector<ReferenceRow> rows;
-  while (std::getline(lines, line)) {
-    const std::vector<std::string> cells = SplitCells(line);
-    EXPECT_EQ(cells.size(), names.size()) << line;
-    for (std::size_t i = 0; i < names.size(); ++i) {
-      if (i == 0) rows.emplace_back();
-      rows.back()[names[i]] = cells.at(i);
-    }
-  }
-  return rows;
-}
 
 // The table of the year before, of and after an instant at the place of a row.
 std::vector<ReferenceRow> TableOfYears(const std::string& command, const ReferenceRow& row,
                                        const std::string& ut) {
   const auto day = static_cast<std::int32_t>(std::lround(NumberIn(row, ut)));
   const std::int32_t year = CivilDateOf(day).year;
-  return Table(
-      {command, row.at("lat"), row.at("lon"), std::to_string(year - 1), std::to_string(year + 2)});
+  const std::string from = std::to_string(year - 1);
+  const std::string to = std::to_string(year + 2);
+  return Table({command, row.at("lat"), row.at("lon"), from, to});
 }
 
 bool IsInRange(const ReferenceRow& row, const std::string& ut) {

@@ -13,36 +13,10 @@
 #include <utility>
 #include <vector>
 
-#include "tests/reference_data.h"
+#include "tests/tools/printed_table.h"
 
 namespace tarnwick {
 namespace {
-
-using Arguments = std::vector<std::string_view>;
-
-std::string Print(const Arguments& arguments) {
-  std::ostringstream out;
-  std::ostringstream err;
-  EXPECT_EQ(RunTables(arguments, out, err, false), kTablesDone);
-  EXPECT_EQ(err.str(), "");
-  return out.str();
-}
-
-// The rows of the table, their cells by the names in its header line.
-std::vector<ReferenceRow> Table(const Arguments& arguments) {
-  std::istringstream lines(Print(arguments));
-  std::string line;
-  std::getline(lines, line);
-  const std::vector<std::string> names = SplitCells(line);
-  std::vector<ReferenceRow> rows;
-  while (std::getline(lines, line)) {
-    const std::vector<std::string> cells = SplitCells(line);
-    EXPECT_EQ(cells.size(), names.size()) << line;
-    ReferenceRow& row = rows.emplace_back();
-    for (std::size_t i = 0; i < std::min(cells.size(), names.size()); ++i) row[names[i]] = cells[i];
-  }
-  return rows;
-}
 
 TEST(Tables, AreWrittenAsReadersExpect) {
   EXPECT_TRUE(Print({"phases", "2024", "2025"}).starts_with("lunation,phase,tt,ut\n296,3,"));
@@ -153,7 +127,7 @@ TEST(Tables, LoseAndDoubleNothingAtTheTurnOfAYear) {
 }
 
 TEST(Tables, RefuseWhatTheyCannotPrint) {
-  const std::vector<Arguments> bad = {
+  const std::vector<TableArguments> bad = {
       {},
       {"phases", "2000"},
       {"moons", "2000", "2001"},
@@ -163,7 +137,7 @@ TEST(Tables, RefuseWhatTheyCannotPrint) {
       {"phases", "2001x", "2002"},
       {"phases", "99999999999", "2002"},
   };
-  for (const Arguments& arguments : bad) {
+  for (const TableArguments& arguments : bad) {
     std::ostringstream out;
     std::ostringstream err;
     EXPECT_EQ(RunTables(arguments, out, err, false), kBadArguments);
@@ -177,7 +151,7 @@ TEST(Tables, RefuseWhatTheyCannotPrint) {
 TEST(Tables, ShowTheirProgress) {
   std::ostringstream out;
   std::ostringstream err;
-  EXPECT_EQ(RunTables(Arguments{"phases", "2000", "2010"}, out, err, true), kTablesDone);
+  EXPECT_EQ(RunTables(TableArguments{"phases", "2000", "2010"}, out, err, true), kTablesDone);
   EXPECT_TRUE(err.str().starts_with("\r0 %\r1 %")) << err.str();
   EXPECT_TRUE(err.str().ends_with("\r99 %\r     \r")) << err.str();
 }
@@ -210,7 +184,7 @@ TEST(Tables, StopAtOnceWhenTheOutputTakesNoMore) {
       SmallFile file(room, pipe_closed ? EPIPE : ENOSPC);
       std::ostream out(&file);
       std::ostringstream err;
-      EXPECT_EQ(RunTables(Arguments{"dates", "2000", "2001"}, out, err, false), kCannotWrite);
+      EXPECT_EQ(RunTables(TableArguments{"dates", "2000", "2001"}, out, err, false), kCannotWrite);
       const std::string told = "tarnwick_tables: cannot write the table: No space left on device\n";
       EXPECT_EQ(err.str(), pipe_closed ? "" : told) << room;
     }
@@ -218,7 +192,7 @@ TEST(Tables, StopAtOnceWhenTheOutputTakesNoMore) {
   SmallFile file(1000, EPIPE);
   std::ostream out(&file);
   std::ostringstream err;
-  EXPECT_EQ(RunTables(Arguments{"phases", "2000", "2100"}, out, err, true), kCannotWrite);
+  EXPECT_EQ(RunTables(TableArguments{"phases", "2000", "2100"}, out, err, true), kCannotWrite);
   EXPECT_EQ(err.str(), "\r0 %\r     \r");
 }
 

@@ -1,9 +1,8 @@
-// What several tables go through: the phases of a period, and its days.
+// What several tables go through: the phases of a period.
 #pragma once
 
 #include <cstdint>
 
-#include "calendars/date_processing.h"
 #include "engines/phases.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
@@ -24,8 +23,5 @@ bool VisitPhases(const Period& period, std::int16_t step, const Visit& visit) {
   }
   return true;
 }
-
-// The civil day at Greenwich that contains a moment.
-inline DayNumber DayOf(UniversalTime moment) { return SplitCJD(AJDToCJD(moment, 0)).day_number; }
 
 }  // namespace tarnwick

@@ -4,7 +4,6 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <numbers>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -26,12 +25,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr double kDegree = std::numbers::pi / 180;
-
-Observer ObserverAt(const TablePlace& place) {
-  return {place.latitude * kDegree, place.longitude * kDegree};
-}
-
 // Days.
 template <class Time>
 double DeltaTOf(Time instant) {
@@ -49,11 +42,6 @@ std::string Cell(const std::optional<UniversalTime>& instant) {
 // A contact is told only if it is seen.
 std::string Contact(const std::optional<BodyAtInstant>& contact) {
   return contact && contact->Visible() ? Cell(contact->instant) : "";
-}
-
-std::string_view NameOf(SolarKind kind) {
-  constexpr std::array<std::string_view, 4> kNames{"", "partial", "annular", "total"};
-  return kNames[static_cast<std::size_t>(kind)];
 }
 
 std::string_view NameOf(EclipseType lunar_type) {
@@ -183,7 +171,7 @@ std::vector<UniversalTime> InstantsOf(const TimeSpan& span, UniversalTime greate
 
 }  // namespace
 
-bool PrintLocalEclipses(const TablePlace& place, const Period& period, Printer& printer) {
+bool PrintLocalEclipses(const GeoPoint& place, const Period& period, Printer& printer) {
   const std::string header =
       "lunation,phase,type,saros,seen,magnitude,obscuration,maximum,altitude,azimuth,"
       "magnitude_seen,seen_at,c1,c2,c3,c4,p1,u1,u2,u3,u4,p4,penumbral_magnitude,delta_t,sigma";
@@ -201,13 +189,13 @@ bool PrintLocalEclipses(const TablePlace& place, const Period& period, Printer& 
   });
 }
 
-bool PrintSunAndMoon(const TablePlace& place, const Period& period, Printer& printer) {
+bool PrintSunAndMoon(const GeoPoint& place, const Period& period, Printer& printer) {
   const std::string header = "day_number,sunrise,sun_transit,sunset,moonrise,moon_transit,moonset";
   if (!printer.Print(period.begin, header)) return false;
   const Observer observer = ObserverAt(place);
   const double midnight_after_greenwich = -place.longitude / 360;
-  const DayNumber end = DayOf(period.end);
-  for (DayNumber day = DayOf(period.begin); day < end; day = day + 1) {
+  const DayNumber end = DayOf(period.end, 0);
+  for (DayNumber day = DayOf(period.begin, 0); day < end; day = day + 1) {
     const UniversalTime start(NoonOf(day, 0).days - 0.5 + midnight_after_greenwich);
     const SkyDay sky(start, DeltaTOf(start));
     std::array<std::vector<UniversalTime>, kDayColumns.size()> found;
@@ -226,7 +214,7 @@ bool PrintSunAndMoon(const TablePlace& place, const Period& period, Printer& pri
   return true;
 }
 
-bool PrintCrescents(const TablePlace& place, const Period& period, Printer& printer) {
+bool PrintCrescents(const GeoPoint& place, const Period& period, Printer& printer) {
   const std::string header = "lunation,evening,sunset,moonset,best,arcl,arcv,daz,w,q,class";
   if (!printer.Print(period.begin, header)) return false;
   const Observer observer = ObserverAt(place);

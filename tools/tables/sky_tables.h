@@ -5,25 +5,20 @@
 #include <optional>
 
 #include "sky/eclipse_path.h"
+#include "sky/geo_point.h"
 #include "tools/tables/printer.h"
 
 namespace tarnwick {
 
-// Degrees, north and east positive.
-struct TablePlace {
-  double latitude = 0;
-  double longitude = 0;
-};
-
 // Each prints its header and rows, until the output takes no more; false then.
 
 // Every eclipse of which anything is seen there, by its greatest phase.
-bool PrintLocalEclipses(const TablePlace& place, const Period& period, Printer& printer);
+bool PrintLocalEclipses(const GeoPoint& place, const Period& period, Printer& printer);
 // Risings, transits and settings of the days of local mean time. Where one comes twice a day has
 // two rows.
-bool PrintSunAndMoon(const TablePlace& place, const Period& period, Printer& printer);
+bool PrintSunAndMoon(const GeoPoint& place, const Period& period, Printer& printer);
 // Three mornings before and three evenings after every new moon of the period.
-bool PrintCrescents(const TablePlace& place, const Period& period, Printer& printer);
+bool PrintCrescents(const GeoPoint& place, const Period& period, Printer& printer);
 
 // The solar eclipse of a lunation, if its umbra or antumbra meets the Earth.
 std::optional<EclipsePath> FindPath(std::int32_t lunation);

@@ -97,9 +97,9 @@ bool PrintDates(const Period& period, Printer& printer) {
   for (const Calendar calendar : kDateColumns)
     header += "," + std::string(AbbreviationOf(calendar));
   if (!printer.Print(period.begin, header)) return false;
-  const DayNumber end = DayOf(period.end);
+  const DayNumber end = DayOf(period.end, 0);
   std::string row;
-  for (DayNumber day = DayOf(period.begin); day < end; day = day + 1) {
+  for (DayNumber day = DayOf(period.begin, 0); day < end; day = day + 1) {
     const UniversalTime noon = NoonOf(day, 0);
     row = std::to_string(day.value) + ',' + std::to_string(euro_day_of_week(day.value));
     for (const Calendar calendar : kDateColumns) {
@@ -118,11 +118,11 @@ enum class Takes { kPeriod, kPlaceAndPeriod };
 struct Command {
   std::string_view name;
   Takes takes;
-  bool (*print)(const TablePlace& place, const Period& period, Printer& printer);
+  bool (*print)(const GeoPoint& place, const Period& period, Printer& printer);
 };
 
 template <bool (*kPrint)(const Period&, Printer&)>
-bool Everywhere(const TablePlace& /*place*/, const Period& period, Printer& printer) {
+bool Everywhere(const GeoPoint& /*place*/, const Period& period, Printer& printer) {
   return kPrint(period, printer);
 }
 
@@ -177,8 +177,7 @@ std::string_view ReadPeriod(std::string_view from_text, std::string_view to_text
   return {};
 }
 
-std::string_view ReadPlace(std::string_view latitude, std::string_view longitude,
-                           TablePlace& place) {
+std::string_view ReadPlace(std::string_view latitude, std::string_view longitude, GeoPoint& place) {
   if (!Parse(latitude, place.latitude) || !Parse(longitude, place.longitude)) {
     return "a latitude or longitude is a number of degrees";
   }
@@ -220,7 +219,7 @@ int RunTables(std::span<const std::string_view> arguments, std::ostream& out, st
   const Command* command = FindCommand(arguments[0]);
   if (command == nullptr) return Refuse(err, "unknown command " + std::string(arguments[0]));
 
-  TablePlace place;
+  GeoPoint place;
   Period period{};
   const bool with_place = command->takes == Takes::kPlaceAndPeriod;
   if (rest.size() != (with_place ? 4U : 2U)) {
