@@ -24,7 +24,8 @@ frmMain::frmMain(Desktop& desktop, Screen& screen)
       search(*this, session_, desktop, entry, notice),
       history(*this, session_, desktop, entry, time),
       log(*this, screen, session_, desktop, dates, moon, notice),
-      calendar(*this, screen, session_, desktop, entry, pictures_, notice) {
+      calendar(*this, screen, session_, desktop, entry, pictures_, notice),
+      sky(*this, screen, session_, desktop, notice) {
   picCheck.SetVisible(false);
   picCheck.SetToolTipText("The clock is running: the moment follows it");
   cmdNow.SetToolTipText("Shows the present moment and lets it follow the clock");
@@ -65,6 +66,7 @@ void frmMain::ConnectHandlers() {
 void frmMain::AddShortcuts(const Screen& screen) {
   AddShortcut("Alt+Left", history.cmdBack);
   AddShortcut("Alt+Right", history.cmdForward);
+  AddShortcut("Ctrl+K", sky.cmdSky);
   AddShortcut("Ctrl+L", calendar.cmdDisplayCalendar);
   AddShortcut("Ctrl+P", log.cmdLogPreferences);
   AddShortcut("Ctrl+S", cmdSaveState);

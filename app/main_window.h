@@ -24,6 +24,7 @@
 #include "navigation/history_section.h"
 #include "navigation/move_section.h"
 #include "navigation/search_section.h"
+#include "sky/sky_section.h"
 #include "state/state_record.h"
 
 namespace tarnwick {
@@ -51,6 +52,7 @@ class frmMain final : public Form {
   HistorySection history;
   LogSection log;
   CalendarSection calendar;
+  SkySection sky;
 
   Button cmdNow{entry.fraConvert, "cmdNow", "Now"};
   Picture picCheck{entry.fraConvert, "picCheck"};  // the moment shown is the present one

@@ -12,6 +12,7 @@ enum class Property {
   kBounds,
   kCaption,
   kDescription,
+  kDrawing,
   kEnabled,
   kFocus,  // the control has been given the focus, or the form has become the active one
   kForeColor,

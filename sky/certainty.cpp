@@ -8,7 +8,7 @@
 #include "engines/time_units.h"
 #include "moon/moon_data.h"
 #include "moon/syzyg.h"
-#include "sky/eclipse_view.h"
+#include "sky/eclipse_course.h"
 
 namespace tarnwick {
 namespace {

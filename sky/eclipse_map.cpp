@@ -87,7 +87,7 @@ LunarPhaseMap PhaseMap(const EclipseCourse& course, double semi_duration_minutes
   const double end = semi_duration_minutes / kMinutesPerDay;
   const auto heights = [&course, end](const GeoPoint& point) {
     const Observer observer = ObserverAt(point);
-    const EclipseView view(course, observer);
+    const EclipseFromPlace view(course, observer);
     return std::minmax(
         {view.MoonAt(-end).upper_limb, view.MoonAt(0).upper_limb, view.MoonAt(end).upper_limb});
   };

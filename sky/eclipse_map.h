@@ -6,8 +6,8 @@
 
 #include "engines/instant.h"
 #include "engines/phase_engine.h"
+#include "sky/eclipse_course.h"
 #include "sky/eclipse_path.h"
-#include "sky/eclipse_view.h"
 #include "sky/geo_point.h"
 
 namespace tarnwick {

@@ -11,7 +11,7 @@ namespace {
 using Contact = std::optional<BodyAtInstant>;
 
 // The two contacts of a phase with that semi-duration, where there is such a phase.
-void FindContacts(const EclipseView& view, double semi_duration_minutes, Contact& begin,
+void FindContacts(const EclipseFromPlace& view, double semi_duration_minutes, Contact& begin,
                   Contact& end) {
   if (semi_duration_minutes <= 0) return;
   const double offset = semi_duration_minutes / kMinutesPerDay;
@@ -27,7 +27,7 @@ EclipseType TypeAt(const EclipseRecord& record, double offset) {
 }
 
 // The visible instant of the eclipse next to greatest eclipse.
-std::optional<double> NearestVisible(const EclipseRecord& record, const EclipseView& view) {
+std::optional<double> NearestVisible(const EclipseRecord& record, const EclipseFromPlace& view) {
   const auto height = [&](double offset) { return view.MoonAt(offset).upper_limb; };
   const double end = record.penumbral_minutes / kMinutesPerDay;
   const std::optional<double> before = FirstVisible(height, 0, -end);
@@ -40,7 +40,7 @@ std::optional<double> NearestVisible(const EclipseRecord& record, const EclipseV
 
 LunarAtPlace LunarEclipseAtPlace(const EclipseRecord& record, const EclipseCourse& course,
                                  const Observer& observer) {
-  const EclipseView view(course, observer);
+  const EclipseFromPlace view(course, observer);
   LunarAtPlace eclipse;
   eclipse.greatest = view.MoonAt(0);
   FindContacts(view, record.penumbral_minutes, eclipse.p1, eclipse.p4);

@@ -11,7 +11,7 @@
 #include "engines/ephemeris/observer.h"
 #include "engines/instant.h"
 #include "engines/phase_engine.h"
-#include "sky/eclipse_view.h"
+#include "sky/eclipse_course.h"
 
 namespace tarnwick {
 

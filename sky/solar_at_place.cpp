@@ -41,7 +41,7 @@ MovingAngle SemiDiameter(double radius, const MovingVector& from_place) {
   return {angle, -angle * Dot(from_place.value, from_place.rate) / squared};
 }
 
-Discs DiscsAt(const EclipseView& view, double offset) {
+Discs DiscsAt(const EclipseFromPlace& view, double offset) {
   const MoonAndSunVectors places = view.At(offset);
   return {Unit(places.moon) - Unit(places.sun), SemiDiameter(SunRadius(), places.sun),
           SemiDiameter(kPenumbralMoonRadius, places.moon),
@@ -50,7 +50,7 @@ Discs DiscsAt(const EclipseView& view, double offset) {
 
 // The offset at which the centres are nearest. The place turns with the Earth, so that their
 // relative path is bent; the secant rule takes that in.
-double Maximum(const EclipseView& view) {
+double Maximum(const EclipseFromPlace& view) {
   const auto half_slope = [&](double offset) {
     const MovingVector chord = DiscsAt(view, offset).chord;
     return Dot(chord.value, chord.rate);
@@ -87,7 +87,7 @@ using Limit = MovingAngle (Discs::*)() const;
 // than the limit. It begins where a straight and even motion would lead; the square of the distance
 // is so nearly a parabola that Newton's method comes from there within a few steps, even where
 // contact is grazing.
-double Contact(const EclipseView& view, Limit limit, double maximum, const Discs& at_maximum,
+double Contact(const EclipseFromPlace& view, Limit limit, double maximum, const Discs& at_maximum,
                double side) {
   const Excess depth = ExcessOver((at_maximum.*limit)(), at_maximum.chord);
   const double speed = Length(at_maximum.chord.rate);
@@ -142,7 +142,7 @@ double Obscuration(SolarKind kind, const Discs& discs) {
 
 // The visible instant nearest to the maximum is the greatest on its side, since the centres draw
 // apart from there on; the greater side counts.
-void FindSeen(const EclipseView& view, double maximum, double begin, double end,
+void FindSeen(const EclipseFromPlace& view, double maximum, double begin, double end,
               SolarAtPlace& eclipse) {
   const auto height = [&](double offset) { return view.SunAt(offset).upper_limb; };
   for (const double contact : {begin, end}) {
@@ -166,7 +166,7 @@ std::string_view NameOf(SolarKind kind) {
 }
 
 SolarAtPlace SolarEclipseAtPlace(const EclipseCourse& course, const Observer& observer) {
-  const EclipseView view(course, observer);
+  const EclipseFromPlace view(course, observer);
   const double maximum = Maximum(view);
   const Discs discs = DiscsAt(view, maximum);
   SolarAtPlace eclipse;
@@ -190,7 +190,7 @@ SolarAtPlace SolarEclipseAtPlace(const EclipseCourse& course, const Observer& ob
 double ContinuedMagnitudeSeen(const EclipseCourse& course, const Observer& observer) {
   // No contour is drawn so low that it would matter whether the Sun is up.
   constexpr double kFarBelow = -0.5;
-  const EclipseView view(course, observer);
+  const EclipseFromPlace view(course, observer);
   const double maximum = Maximum(view);
   const double greatest = CoveredDiameter(DiscsAt(view, maximum));
   if (greatest < kFarBelow) return std::max(greatest, kSunNotSeen);

@@ -14,7 +14,7 @@
 
 #include "engines/ephemeris/observer.h"
 #include "engines/instant.h"
-#include "sky/eclipse_view.h"
+#include "sky/eclipse_course.h"
 
 namespace tarnwick {
 

@@ -8,7 +8,7 @@
 #include "engines/instant.h"
 #include "engines/phase_engine.h"
 #include "engines/time_units.h"
-#include "sky/eclipse_view.h"
+#include "sky/eclipse_course.h"
 #include "tests/error_statistics.h"
 #include "tests/reference_data.h"
 #include "tests/sky/reference_row.h"

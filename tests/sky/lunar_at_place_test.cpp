@@ -86,7 +86,7 @@ TEST(LunarAtPlace, TellsTheGreatestThatIsSeen) {
           continue;
         }
         ++cut;
-        EXPECT_NEAR(EclipseView(course, observer).MoonAt(offset).upper_limb, 0, 1e-7);
+        EXPECT_NEAR(EclipseFromPlace(course, observer).MoonAt(offset).upper_limb, 0, 1e-7);
         // Contacts are where the magnitude is 0 or 1; they are not quite symmetric.
         EXPECT_GT(magnitude, eclipse.type_seen == kTotalLunar     ? 1 - 0.01
                              : eclipse.type_seen == kPartialLunar ? -0.01

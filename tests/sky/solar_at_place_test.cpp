@@ -84,7 +84,7 @@ struct Seen {
   double magnitude = 0;
 };
 
-Seen SeenAt(const EclipseView& view, double offset) {
+Seen SeenAt(const EclipseFromPlace& view, double offset) {
   const MoonAndSunVectors places = view.At(offset);
   const double s = std::asin(SunRadius() / Length(places.sun.value));
   const double m1 = std::asin(kPenumbralMoonRadius / Length(places.moon.value));
@@ -95,7 +95,7 @@ Seen SeenAt(const EclipseView& view, double offset) {
   return {m2 > s ? SolarKind::kTotal : SolarKind::kAnnular, m2 / s};
 }
 
-Seen GreatestSeen(const EclipseView& view) {
+Seen GreatestSeen(const EclipseFromPlace& view) {
   Seen greatest;
   for (double offset = -0.14; offset < 0.14; offset += 20.0 / kSecondsPerDay) {
     const Seen seen = SeenAt(view, offset);
@@ -130,7 +130,7 @@ TEST(SolarAtPlace, TellsTheGreatestThatIsSeen) {
         if (at_maximum || eclipse.kind_seen == SolarKind::kNone) continue;
         ++cut;
         const double seen_at = eclipse.seen_at - course.InstantAt(0);
-        EXPECT_NEAR(EclipseView(course, observer).SunAt(seen_at).upper_limb, 0, 1e-7);
+        EXPECT_NEAR(EclipseFromPlace(course, observer).SunAt(seen_at).upper_limb, 0, 1e-7);
       }
     }
   }

@@ -1,4 +1,4 @@
-#include "sky/eclipse_view.h"
+#include "sky/eclipse_course.h"
 
 #include <cmath>
 #include <numbers>
@@ -31,7 +31,7 @@ EclipseCourse CourseOfEclipse(const EclipseRecord& record, double larger_by) {
   return {greatest, DeltaT(greatest) / kMinutesPerDay + larger_by / kSecondsPerDay};
 }
 
-EclipseView::EclipseView(const EclipseCourse& course, const Observer& observer)
+EclipseFromPlace::EclipseFromPlace(const EclipseCourse& course, const Observer& observer)
     : course_(course), observer_(observer) {
   const Vector3& place = observer.Position();
   along_ = course.Frame().ToEcliptic({0, 0, place.z});
@@ -39,7 +39,7 @@ EclipseView::EclipseView(const EclipseCourse& course, const Observer& observer)
   quarter_later_ = course.Frame().ToEcliptic({-place.y, place.x, 0});
 }
 
-MoonAndSunVectors EclipseView::At(double offset) const {
+MoonAndSunVectors EclipseFromPlace::At(double offset) const {
   const double turn = kSiderealRate * offset;
   const double sin_turn = std::sin(turn);
   const double cos_turn = std::cos(turn);
@@ -49,22 +49,23 @@ MoonAndSunVectors EclipseView::At(double offset) const {
   return {geocentric.moon - place, geocentric.sun - place};
 }
 
-BodyAtInstant EclipseView::SunAt(double offset) const {
+BodyAtInstant EclipseFromPlace::SunAt(double offset) const {
   return BodyAt(At(offset).sun.value, SunRadius(), offset);
 }
 
-BodyAtInstant EclipseView::MoonAt(double offset) const {
+BodyAtInstant EclipseFromPlace::MoonAt(double offset) const {
   return BodyAt(At(offset).moon.value, kPenumbralMoonRadius, offset);
 }
 
-BodyAtInstant EclipseView::BodyAt(const Vector3& from_place, double radius, double offset) const {
+BodyAtInstant EclipseFromPlace::BodyAt(const Vector3& from_place, double radius,
+                                       double offset) const {
   const Horizontal direction = DirectionOf(from_place, offset);
   const double semi_diameter = std::asin(radius / Length(from_place));
   return {course_.InstantAt(offset), direction,
           HeightOfUpperLimb(direction.altitude, semi_diameter)};
 }
 
-Horizontal EclipseView::DirectionOf(const Vector3& vector, double offset) const {
+Horizontal EclipseFromPlace::DirectionOf(const Vector3& vector, double offset) const {
   const double turn = kSiderealRate * offset;
   const double sin_turn = std::sin(turn);
   const double cos_turn = std::cos(turn);

@@ -50,9 +50,9 @@ struct BodyAtInstant {
 };
 
 // An eclipse from a place, which turns with the Earth. Refers to the course and the observer.
-class EclipseView {
+class EclipseFromPlace {
  public:
-  EclipseView(const EclipseCourse& course, const Observer& observer);
+  EclipseFromPlace(const EclipseCourse& course, const Observer& observer);
 
   // From the place to Moon and Sun.
   MoonAndSunVectors At(double offset) const;
