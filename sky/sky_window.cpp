@@ -99,15 +99,18 @@ PlaceReading frmSky::Reading() const {
   return {place.Point(), session_.CurrentCalendar(), session_.ReadingOffset()};
 }
 
-// The one that is described, else that of the lunation: the nearer one if it has two.
+// The one that is described, else the nearest of the lunation, from the new moon that begins it to
+// the one that ends it.
 std::optional<EclipseRecord> frmSky::EclipseOnDisplay() const {
   if (const auto& described = session_.DescribedEclipse()) {
     return FindPhaseEvent(described->lunation, described->phase).eclipse;
   }
   const UniversalTime moment = session_.Moment();
   std::optional<EclipseRecord> nearest;
-  for (const std::int16_t phase : {kNewMoon, kFullMoon}) {
-    const EclipseRecord record = FindPhaseEvent(LunationOf(moment), phase).eclipse;
+  const std::int32_t lunation = LunationOf(moment);
+  for (const PhaseNumber& at : {PhaseNumber{lunation, kNewMoon}, PhaseNumber{lunation, kFullMoon},
+                                PhaseNumber{lunation + 1, kNewMoon}}) {
+    const EclipseRecord record = FindPhaseEvent(at.lunation, at.phase).eclipse;
     const auto distance = [moment](const EclipseRecord& eclipse) {
       return std::abs(GreatestEclipse(eclipse) - moment);
     };
