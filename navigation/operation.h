@@ -29,4 +29,7 @@ bool RangeExceeded(const Session& session, Desktop& desktop);
 // is no eclipse.
 std::vector<std::string> DescribedEclipseLines(const Session& session);
 
+// How sure its times are; empty where they are sure to less than a minute.
+std::string DescribedEclipseCertainty(const Session& session);
+
 }  // namespace tarnwick

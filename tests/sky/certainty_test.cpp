@@ -51,11 +51,5 @@ TEST(Certainty, WordsEverySide) {
   for (const auto& [certainty, text] : cases) EXPECT_EQ(CertaintyText(certainty), text);
 }
 
-TEST(Certainty, AddsMinutesToInstantsFromOneMinuteUp) {
-  EXPECT_EQ(ClockErrorSuffix(59.9), "");
-  EXPECT_EQ(ClockErrorSuffix(60), " +- 1 min");
-  EXPECT_EQ(ClockErrorSuffix(660), " +- 11 min");
-}
-
 }  // namespace
 }  // namespace tarnwick
