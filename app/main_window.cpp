@@ -25,7 +25,7 @@ frmMain::frmMain(Desktop& desktop, Screen& screen)
       history(*this, session_, desktop, entry, time),
       log(*this, screen, session_, desktop, dates, moon, notice),
       calendar(*this, screen, session_, desktop, entry, pictures_, notice),
-      sky(*this, screen, session_, desktop, notice) {
+      sky(*this, screen, session_, desktop, entry, notice) {
   picCheck.SetVisible(false);
   picCheck.SetToolTipText("The clock is running: the moment follows it");
   cmdNow.SetToolTipText("Shows the present moment and lets it follow the clock");
@@ -49,8 +49,12 @@ void frmMain::WireSession() {
   hooks.calendar_changed = [this] {
     dates.ShowCalendar();
     entry.ShowHint();
+    sky.sky_window.Refresh();
   };
-  hooks.eclipse_changed = [this] { search.ShowEclipse(); };
+  hooks.eclipse_changed = [this] {
+    search.ShowEclipse();
+    sky.sky_window.Refresh();
+  };
   hooks.clock_changed = [this] { ShowClock(); };
 }
 
@@ -116,6 +120,7 @@ void frmMain::UpdateAvailability() {
   search.UpdateAvailability();
   history.UpdateAvailability();
   log.UpdateAvailability();
+  sky.sky_window.UpdateAvailability();
   SetEnabled({&cmdReset, &cmdHelp, &cmdQuit}, idle);
   cmdSaveState.SetEnabled(idle && !blnSaved);
 }
@@ -129,6 +134,7 @@ std::string frmMain::ShowMoment() {
   std::string summary = dates.Show();
   moon.Show();
   calendar.calendar_window.Refresh();
+  sky.sky_window.Refresh();
   return summary;
 }
 
@@ -191,6 +197,7 @@ void frmMain::cmdReset_Click() {
 void frmMain::Form_KeyPress(int& key) {
   if (key != kEscapeKey) return;
   search.GiveUp();
+  sky.sky_window.GiveUp();
   move.Stop();
 }
 

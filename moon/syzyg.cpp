@@ -65,8 +65,12 @@ double DeltaTForYear(std::int32_t year) { return deltat(year, kDeltaTModel); }
 double DeltaT(TerrestrialTime instant) { return DeltaTForYear(GregorianYear(instant.days)); }
 double DeltaT(UniversalTime instant) { return DeltaTForYear(GregorianYear(instant.days)); }
 
+double DeltaTDays(TerrestrialTime instant) { return DeltaT(instant) / kMinutesPerDay; }
+
+double DeltaTDays(UniversalTime instant) { return DeltaT(instant) / kMinutesPerDay; }
+
 UniversalTime ToUniversalTime(TerrestrialTime instant) {
-  return UniversalTime(instant.days - DeltaT(instant) / kMinutesPerDay);
+  return UniversalTime(instant.days - DeltaTDays(instant));
 }
 
 UniversalTime GreatestEclipse(const EclipseRecord& eclipse) {

@@ -22,6 +22,8 @@ UniversalTime LunationBase();                          // new moon of lunation 0
 double DeltaTForYear(std::int32_t year);
 double DeltaT(TerrestrialTime instant);
 double DeltaT(UniversalTime instant);
+double DeltaTDays(TerrestrialTime instant);  // in days
+double DeltaTDays(UniversalTime instant);
 
 UniversalTime ToUniversalTime(TerrestrialTime instant);
 

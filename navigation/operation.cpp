@@ -49,6 +49,22 @@ bool RangeExceeded(const Session& session, Desktop& desktop) {
   return true;
 }
 
+void TakeFound(Session& session, Desktop& desktop, EntrySection& entry, const FoundMoment& found,
+               const std::string& operation) {
+  session.SetMoment(found.moment);
+  if (found.eclipse) {
+    session.TakeEclipse(*found.eclipse);
+  } else {
+    session.ClearEclipse();
+  }
+  Outcome outcome{session.hooks.show_moment(), operation};
+  entry.CopyDateToEntryBox();
+  if (found.eclipse) outcome.description = EclipseSentence(DescribedEclipseLines(session));
+  outcome.eclipse_type = static_cast<std::int16_t>(found.eclipse_type);
+  RangeExceeded(session, desktop);
+  session.hooks.finish(outcome);
+}
+
 std::vector<std::string> DescribedEclipseLines(const Session& session) {
   const auto record = DescribedRecord(session);
   if (!record) return {};

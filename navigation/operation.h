@@ -1,12 +1,14 @@
 // What moves, searches and recalls have in common.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "controls/desktop.h"
+#include "moment/entry_section.h"
 #include "moment/session.h"
 #include "navigation/target.h"
 
@@ -24,6 +26,17 @@ std::optional<MomentPhase> PhaseOf(UniversalTime moment, Desktop& desktop,
 
 // Whether the moment has left the accepted range, after telling the user.
 bool RangeExceeded(const Session& session, Desktop& desktop);
+
+// Where a search has led.
+struct FoundMoment {
+  UniversalTime moment;
+  std::int32_t eclipse_type = 0;
+  std::optional<PhaseNumber> eclipse = {};  // to be described
+};
+
+// Makes it the current moment, shows it and makes the entries in history and log.
+void TakeFound(Session& session, Desktop& desktop, EntrySection& entry, const FoundMoment& found,
+               const std::string& operation);
 
 // The lines that describe the eclipse on display, with the times as they are read; none where there
 // is no eclipse.

@@ -23,20 +23,12 @@ std::int32_t SarosOf(const PhaseNumber& syzygy) {
   return FindPhaseEvent(syzygy.lunation, syzygy.phase).eclipse.saros;
 }
 
-}  // namespace
-
-// Where a search ends.
-struct SearchSection::Result {
-  UniversalTime moment;
-  std::int32_t eclipse_type = 0;
-  std::optional<PhaseNumber> eclipse;  // to be described
-};
-
-std::optional<SearchSection::Result> SearchSection::ResultOf(
-    const std::optional<FoundEclipse>& found) {
+std::optional<FoundMoment> MomentOf(const std::optional<FoundEclipse>& found) {
   if (!found) return std::nullopt;
-  return Result{GreatestEclipse(found->record), found->record.type, found->at};
+  return FoundMoment{GreatestEclipse(found->record), found->record.type, found->at};
 }
+
+}  // namespace
 
 SearchSection::SearchSection(Form& form, Session& session, Desktop& desktop, EntrySection& entry,
                              frmNotice& notice)
@@ -130,7 +122,7 @@ bool SearchSection::Search(int target) {
   const auto result = Find(target, *at, described);
   if (session_.IsEnding()) return false;
   if (result) {
-    TakeResult(*result, SearchOperation(target));
+    TakeFound(session_, desktop_, entry_, *result, SearchOperation(target));
     if (target == kSameSarosTarget) TellOfNewSeries(*described, *result->eclipse);
   } else {
     session_.hooks.focus_on_date();
@@ -138,28 +130,13 @@ bool SearchSection::Search(int target) {
   return result.has_value();
 }
 
-std::optional<SearchSection::Result> SearchSection::Find(
-    int target, const MomentPhase& at, const std::optional<PhaseNumber>& described) {
+std::optional<FoundMoment> SearchSection::Find(int target, const MomentPhase& at,
+                                               const std::optional<PhaseNumber>& described) {
   const ActivityScope searching(session_, Activity::kSearching);
   blnSearching = true;
   if (target == kSameSarosTarget) return FindSameSaros(*described);
   if (target == kCoincidenceTarget) return FindCoincidenceTarget();
   return target < kAnyEclipseTarget ? FindPhaseTarget(target, at) : FindEclipseTarget(target, at);
-}
-
-void SearchSection::TakeResult(const Result& result, const std::string& operation) {
-  session_.SetMoment(result.moment);
-  if (result.eclipse) {
-    session_.TakeEclipse(*result.eclipse);
-  } else {
-    session_.ClearEclipse();
-  }
-  Outcome outcome{session_.hooks.show_moment(), operation};
-  entry_.CopyDateToEntryBox();
-  if (result.eclipse) outcome.description = EclipseSentence(DescribedEclipseLines(session_));
-  outcome.eclipse_type = static_cast<std::int16_t>(result.eclipse_type);
-  RangeExceeded(session_, desktop_);
-  session_.hooks.finish(outcome);
 }
 
 // A saros later there may be no eclipse of the series any more, but one of its neighbour.
@@ -179,23 +156,21 @@ bool SearchSection::KeepSearching() {
   return blnSearching && !session_.IsEnding();
 }
 
-std::optional<SearchSection::Result> SearchSection::FindPhaseTarget(int target,
-                                                                    const MomentPhase& at) {
+std::optional<FoundMoment> SearchSection::FindPhaseTarget(int target, const MomentPhase& at) {
   const PhaseNumber found = FindPhase(target, optNext.Value(), at);
   const PhaseEvent event = FindPhaseEvent(found.lunation, found.phase);
-  return Result{event.ut, event.eclipse.type, std::nullopt};
+  return FoundMoment{event.ut, event.eclipse.type};
 }
 
-std::optional<SearchSection::Result> SearchSection::FindEclipseTarget(int target,
-                                                                      const MomentPhase& at) {
+std::optional<FoundMoment> SearchSection::FindEclipseTarget(int target, const MomentPhase& at) {
   const PhaseNumber last = session_.FoundEclipse();
-  return ResultOf(FindEclipse(
+  return MomentOf(FindEclipse(
       target, optNext.Value(), at.at, [&](const FoundEclipse& one) { return one.at != last; },
       [this] { return KeepSearching(); }));
 }
 
 // The nearest eclipse of the same kind beyond a moment that is a little less than a saros away.
-std::optional<SearchSection::Result> SearchSection::FindSameSaros(const PhaseNumber& described) {
+std::optional<FoundMoment> SearchSection::FindSameSaros(const PhaseNumber& described) {
   const bool forward = optNext.Value();
   const UniversalTime moment = session_.Moment() + (forward ? kAlmostASaros : -kAlmostASaros);
   PhaseNumber at{LunationOf(moment), 0};
@@ -208,15 +183,15 @@ std::optional<SearchSection::Result> SearchSection::FindSameSaros(const PhaseNum
     return forward ? greatest > moment : greatest < moment;
   };
   const int target = described.phase == kFullMoon ? kLunarEclipseTarget : kSolarEclipseTarget;
-  return ResultOf(FindEclipse(target, forward, at, beyond, [this] { return KeepSearching(); }));
+  return MomentOf(FindEclipse(target, forward, at, beyond, [this] { return KeepSearching(); }));
 }
 
-std::optional<SearchSection::Result> SearchSection::FindCoincidenceTarget() {
+std::optional<FoundMoment> SearchSection::FindCoincidenceTarget() {
   lblSearching.SetVisible(true);
   const DayNumber today = SplitCJD(session_.LocalMoment()).day_number;
   const auto found = FindCoincidence(today, optNext.Value(), [this] { return KeepSearching(); });
   lblSearching.SetVisible(false);
-  if (found) return Result{NoonOf(*found, session_.ReadingOffset()), 0, std::nullopt};
+  if (found) return FoundMoment{NoonOf(*found, session_.ReadingOffset())};
   // The calendar reaches so far beyond the limits that no search is known to end by itself.
   const bool given_up = !blnSearching || session_.IsEnding();
   if (!given_up) notice_.ShowOver(form_, "No coincidence was found.");

@@ -12,6 +12,7 @@
 #include "help/notice.h"
 #include "moment/entry_section.h"
 #include "moment/session.h"
+#include "navigation/operation.h"
 #include "navigation/target.h"
 
 namespace tarnwick {
@@ -42,20 +43,16 @@ class SearchSection {
   static std::optional<PhaseNumber> EclipseOf(std::string_view description);
 
  private:
-  struct Result;
-  static std::optional<Result> ResultOf(const std::optional<FoundEclipse>& found);
-
   void cmdSearch_Click();
   void optNext_Click();
   void optPrevious_Click();
   bool Search(int target);
-  std::optional<Result> Find(int target, const MomentPhase& at,
-                             const std::optional<PhaseNumber>& described);
-  std::optional<Result> FindPhaseTarget(int target, const MomentPhase& at);
-  std::optional<Result> FindEclipseTarget(int target, const MomentPhase& at);
-  std::optional<Result> FindSameSaros(const PhaseNumber& described);
-  std::optional<Result> FindCoincidenceTarget();
-  void TakeResult(const Result& result, const std::string& operation);
+  std::optional<FoundMoment> Find(int target, const MomentPhase& at,
+                                  const std::optional<PhaseNumber>& described);
+  std::optional<FoundMoment> FindPhaseTarget(int target, const MomentPhase& at);
+  std::optional<FoundMoment> FindEclipseTarget(int target, const MomentPhase& at);
+  std::optional<FoundMoment> FindSameSaros(const PhaseNumber& described);
+  std::optional<FoundMoment> FindCoincidenceTarget();
   void TellOfNewSeries(const PhaseNumber& described, const PhaseNumber& found);
   bool KeepSearching();
   std::string SearchOperation(int target) const;

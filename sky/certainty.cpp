@@ -3,27 +3,32 @@
 #include "moon/clock_error.h"
 #include "moon/syzyg.h"
 #include "sky/eclipse_course.h"
+#include "sky/lunar_at_place.h"
+#include "sky/solar_at_place.h"
 
 namespace tarnwick {
 namespace {
 
-std::string Seen(SolarKind kind) {
-  return kind == SolarKind::kNone ? "not seen" : std::string(NameOf(kind));
+std::string Seen(std::string_view kind) {
+  return kind == kNotSeen ? "not seen" : std::string(kind);
 }
 
-SolarKind KindSeen(const EclipseRecord& record, const Observer& observer, double larger_by) {
-  return SolarEclipseAtPlace(CourseOfEclipse(record, larger_by), observer).kind_seen;
+std::string_view KindSeen(const EclipseRecord& record, const Observer& observer, double larger_by) {
+  const EclipseCourse course = CourseOfEclipse(record, larger_by);
+  return IsLunarEclipse(record.type)
+             ? NameOfLunar(LunarEclipseAtPlace(record, course, observer).type_seen)
+             : NameOf(SolarEclipseAtPlace(course, observer).kind_seen);
 }
 
 }  // namespace
 
-SolarCertainty CertaintyOf(const EclipseRecord& record, const Observer& observer) {
+Certainty CertaintyOf(const EclipseRecord& record, const Observer& observer) {
   const double error = ClockError(GreatestEclipse(record));
   return {KindSeen(record, observer, 0), KindSeen(record, observer, -error),
           KindSeen(record, observer, error), error};
 }
 
-std::string CertaintyText(const SolarCertainty& certainty) {
+std::string CertaintyText(const Certainty& certainty) {
   const auto [kind, if_less, if_more, error] = certainty;
   const std::string less = ErrorText(error) + " less";
   const std::string more = ErrorText(error) + " more";

@@ -2,29 +2,29 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "engines/ephemeris/observer.h"
 #include "engines/phase_engine.h"
-#include "sky/solar_at_place.h"
 
 namespace tarnwick {
 
-// What a place sees of a solar eclipse with delta T as it is taken, and by its standard error
-// smaller and larger.
-struct SolarCertainty {
-  SolarKind kind = SolarKind::kNone;
-  SolarKind if_less = SolarKind::kNone;
-  SolarKind if_more = SolarKind::kNone;
+// As what a place sees an eclipse, "none" if not at all, with delta T as it is taken, and by its
+// standard error smaller and larger.
+struct Certainty {
+  std::string_view kind;
+  std::string_view if_less;
+  std::string_view if_more;
   double error = 0;  // ClockError at greatest eclipse, seconds
 };
 
-// The solar eclipse of that record for an observer.
-SolarCertainty CertaintyOf(const EclipseRecord& record, const Observer& observer);
+// The eclipse of that record, of the Sun or the Moon, for an observer.
+Certainty CertaintyOf(const EclipseRecord& record, const Observer& observer);
 
 // "total", or with what may be as well:
 //   "total; partial if delta T is 11 min less"
 //   "not seen; partial if delta T is 140 s less or more"
 //   "partial; not seen if delta T is 11 min less; total if it is 11 min more"
-std::string CertaintyText(const SolarCertainty& certainty);
+std::string CertaintyText(const Certainty& certainty);
 
 }  // namespace tarnwick

@@ -28,7 +28,7 @@ EclipseCourse::EclipseCourse(TerrestrialTime greatest, double delta_t)
 
 EclipseCourse CourseOfEclipse(const EclipseRecord& record, double larger_by) {
   const TerrestrialTime greatest(record.greatest);
-  return {greatest, DeltaT(greatest) / kMinutesPerDay + larger_by / kSecondsPerDay};
+  return {greatest, DeltaTDays(greatest) + larger_by / kSecondsPerDay};
 }
 
 EclipseFromPlace::EclipseFromPlace(const EclipseCourse& course, const Observer& observer)

@@ -5,6 +5,8 @@
 // give them: turning one place among the stars is cheaper than turning Moon and Sun.
 #pragma once
 
+#include <string_view>
+
 #include "engines/ephemeris/earth_frame.h"
 #include "engines/ephemeris/moon_sun_track.h"
 #include "engines/ephemeris/observer.h"
@@ -39,6 +41,9 @@ class EclipseCourse {
 // The course of the eclipse of that record by the delta T of its year, or one that is so many
 // seconds larger.
 EclipseCourse CourseOfEclipse(const EclipseRecord& record, double larger_by = 0);
+
+// The kind of an eclipse for a place that sees nothing of it.
+inline constexpr std::string_view kNotSeen = "none";
 
 // Sun or Moon from a place at an instant.
 struct BodyAtInstant {

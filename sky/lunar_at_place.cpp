@@ -38,6 +38,19 @@ std::optional<double> NearestVisible(const EclipseRecord& record, const EclipseF
 
 }  // namespace
 
+std::string_view NameOfLunar(EclipseType type_seen) {
+  switch (type_seen) {
+    case kPenumbralLunar:
+      return "penumbral";
+    case kPartialLunar:
+      return "partial";
+    case kTotalLunar:
+      return "total";
+    default:
+      return kNotSeen;
+  }
+}
+
 LunarAtPlace LunarEclipseAtPlace(const EclipseRecord& record, const EclipseCourse& course,
                                  const Observer& observer) {
   const EclipseFromPlace view(course, observer);

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 
 #include "engines/ephemeris/eclipse.h"
 #include "engines/ephemeris/observer.h"
@@ -31,6 +32,9 @@ struct LunarAtPlace {
   LunarMagnitudes magnitude_seen;
   UniversalTime seen_at;
 };
+
+// Of a type seen: kNotSeen, "penumbral", "partial" or "total".
+std::string_view NameOfLunar(EclipseType type_seen);
 
 // The lunar eclipse of that record for an observer; the course must be about its greatest eclipse.
 LunarAtPlace LunarEclipseAtPlace(const EclipseRecord& record, const EclipseCourse& course,

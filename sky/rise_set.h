@@ -10,6 +10,7 @@
 // the whole range of the series, transits to 0.03 s.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <vector>
 
@@ -23,6 +24,18 @@ namespace tarnwick {
 
 enum class Body { kSun, kMoon };
 enum class SkyEvent { kRising, kSetting, kTransit };
+
+// The events of a day in the order in which they are told.
+struct SkyDayEvent {
+  Body body;
+  SkyEvent event;
+};
+inline constexpr std::array<SkyDayEvent, 6> kDayEvents{{{Body::kSun, SkyEvent::kRising},
+                                                        {Body::kSun, SkyEvent::kTransit},
+                                                        {Body::kSun, SkyEvent::kSetting},
+                                                        {Body::kMoon, SkyEvent::kRising},
+                                                        {Body::kMoon, SkyEvent::kTransit},
+                                                        {Body::kMoon, SkyEvent::kSetting}}};
 
 // The 24 hours after an instant. The series are evaluated three times, whatever is asked then.
 class SkyDay {

@@ -3,12 +3,16 @@
 namespace tarnwick {
 
 SkySection::SkySection(Form& form, Screen& screen, Session& session, Desktop& desktop,
-                       frmNotice& notice)
-    : cmdSky(form, "cmdSky", "Sky at a place"), sky_window(desktop, screen, session, notice) {
+                       EntrySection& entry, frmNotice& notice)
+    : cmdSky(form, "cmdSky", "Sky at a place"),
+      sky_window(desktop, screen, session, entry, notice) {
   cmdSky.SetToolTipText("Sun, Moon and eclipses as a place on the Earth sees them");
   cmdSky.on_click = [this] { cmdSky_Click(); };
 }
 
-void SkySection::cmdSky_Click() { sky_window.Show(); }
+void SkySection::cmdSky_Click() {
+  sky_window.Show();
+  sky_window.Refresh();
+}
 
 }  // namespace tarnwick

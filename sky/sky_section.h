@@ -1,11 +1,11 @@
-// The way to the sky at a place: the button that opens its window, and what the window asks of the
-// others.
+// The way to the sky at a place: the button that opens its window.
 #pragma once
 
 #include "controls/controls.h"
 #include "controls/desktop.h"
 #include "controls/form.h"
 #include "help/notice.h"
+#include "moment/entry_section.h"
 #include "moment/session.h"
 #include "sky/sky_window.h"
 
@@ -13,7 +13,8 @@ namespace tarnwick {
 
 class SkySection {
  public:
-  SkySection(Form& form, Screen& screen, Session& session, Desktop& desktop, frmNotice& notice);
+  SkySection(Form& form, Screen& screen, Session& session, Desktop& desktop, EntrySection& entry,
+             frmNotice& notice);
 
   Button cmdSky;
 

@@ -3,9 +3,7 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <optional>
-#include <string>
 #include <vector>
 
 #include "controls/closable_form.h"
@@ -13,26 +11,27 @@
 #include "controls/controls.h"
 #include "controls/desktop.h"
 #include "controls/drawing.h"
+#include "engines/phase_engine.h"
 #include "help/notice.h"
+#include "moment/entry_section.h"
 #include "moment/session.h"
-#include "sky/geo_point.h"
-#include "sky/places.h"
+#include "sky/place_section.h"
+#include "sky/place_time.h"
 #include "sky/seen_eclipses.h"
+#include "sky/sky_map.h"
+#include "sky/sky_texts.h"
 
 namespace tarnwick {
 
-inline constexpr std::size_t kDayRows = 6;      // rising, transit and setting of Sun and Moon
+inline constexpr std::size_t kDayRows = kDayEvents.size();
 inline constexpr std::size_t kContactRows = 8;  // of an eclipse; those there are not are hidden
 
 class frmSky final : public ClosableForm {
  public:
-  frmSky(Desktop& desktop, Screen& screen, Session& session, frmNotice& notice);
+  frmSky(Desktop& desktop, Screen& screen, Session& session, EntrySection& entry,
+         frmNotice& notice);
 
-  Frame fraPlace{*this, "fraPlace", "Place"};
-  ComboBox cboPlace{fraPlace, "cboPlace"};
-  TextBox txbLatitude{fraPlace, "txbLatitude"};  // read by Enter, as is the longitude
-  TextBox txbLongitude{fraPlace, "txbLongitude"};
-  Label lblPlaceNote{fraPlace, "lblPlaceNote"};  // what the place is known for
+  PlaceSection place;
 
   // A label (0) says what the other (1) tells.
   Frame fraMoment{*this, "fraMoment", "At the moment"};
@@ -73,6 +72,40 @@ class frmSky final : public ClosableForm {
   Button cmdSaveMap{*this, "cmdSaveMap", "Save map as PNG"};
 
   Timer tmrMap{*this, "tmrMap"};  // each tick makes a part of the map
+
+  // Shows everything anew, if the window is on display: a setting, the moment or the eclipse that
+  // is described has changed.
+  void Refresh();
+  void UpdateAvailability();
+  // A running search gives up.
+  void GiveUp() { blnSearching = false; }
+
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_KeyPress(int& key) override;
+
+ private:
+  PlaceReading Reading() const;
+  std::optional<EclipseRecord> EclipseOnDisplay() const;
+  void ShowMoment(const PlaceReading& reading);
+  void ShowDay(const PlaceReading& reading);
+  void ShowLunation(const PlaceReading& reading);
+  void ShowEclipse(const std::optional<EclipseRecord>& record, const PlaceReading& reading);
+  void ShowContacts(const std::vector<TimedLine>& contacts);
+  void ShowMap(const std::optional<EclipseRecord>& record, const PlaceReading& reading);
+  void FinishMap();
+  void tmrMap_Timer();
+  void Map_Click(DrawingPoint point);
+  void cmdSaveMap_Click();
+  void FindHere(bool forward);
+  std::optional<SeenEclipse> Search(bool forward);
+
+  Desktop& desktop_;
+  Session& session_;
+  EntrySection& entry_;
+  frmNotice& notice_;
+  std::optional<SkyMap> map_;  // once the window has been loaded
+  bool blnSearching = false;   // a search is to go on
 };
 
 }  // namespace tarnwick

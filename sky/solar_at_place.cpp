@@ -161,7 +161,7 @@ void FindSeen(const EclipseFromPlace& view, double maximum, double begin, double
 }  // namespace
 
 std::string_view NameOf(SolarKind kind) {
-  constexpr std::array<std::string_view, 4> kNames{"none", "partial", "annular", "total"};
+  constexpr std::array<std::string_view, 4> kNames{kNotSeen, "partial", "annular", "total"};
   return kNames[static_cast<std::size_t>(kind)];
 }
 

@@ -21,7 +21,7 @@ namespace tarnwick {
 // From the least to the greatest.
 enum class SolarKind { kNone, kPartial, kAnnular, kTotal };
 
-// "none", "partial", "annular" or "total".
+// kNotSeen, "partial", "annular" or "total".
 std::string_view NameOf(SolarKind kind);
 
 struct SolarAtPlace {

@@ -25,12 +25,6 @@
 namespace tarnwick {
 namespace {
 
-// Days.
-template <class Time>
-double DeltaTOf(Time instant) {
-  return DeltaT(instant) / kMinutesPerDay;
-}
-
 std::string Degrees(double radians, int decimals) {
   return FormatFixed(radians / kDegree, decimals, false);
 }
@@ -42,11 +36,6 @@ std::string Cell(const std::optional<UniversalTime>& instant) {
 // A contact is told only if it is seen.
 std::string Contact(const std::optional<BodyAtInstant>& contact) {
   return contact && contact->Visible() ? Cell(contact->instant) : "";
-}
-
-std::string_view NameOf(EclipseType lunar_type) {
-  if (lunar_type == kTotalLunar) return "total";
-  return lunar_type == kPartialLunar ? "partial" : "penumbral";
 }
 
 // What the rows of both kinds of eclipse have in common, in order.
@@ -79,7 +68,7 @@ std::optional<LocalRow> LunarRow(const EclipseRecord& record, const EclipseCours
                                  const Observer& observer) {
   const LunarAtPlace eclipse = LunarEclipseAtPlace(record, course, observer);
   if (eclipse.type_seen == kNotEclipsed) return std::nullopt;
-  return LocalRow{NameOf(eclipse.type_seen),
+  return LocalRow{NameOfLunar(eclipse.type_seen),
                   record.magnitude,
                   "",
                   eclipse.greatest,
@@ -111,14 +100,6 @@ std::string LocalCells(const LocalRow& row, const EclipseRecord& record, std::in
   cells.push_back(FormatFixed(ClockError(GreatestEclipse(record)), 2, false));
   return Join(cells);
 }
-
-// The instants of a day in a column each.
-constexpr std::array<std::pair<Body, SkyEvent>, 6> kDayColumns{{{Body::kSun, SkyEvent::kRising},
-                                                                {Body::kSun, SkyEvent::kTransit},
-                                                                {Body::kSun, SkyEvent::kSetting},
-                                                                {Body::kMoon, SkyEvent::kRising},
-                                                                {Body::kMoon, SkyEvent::kTransit},
-                                                                {Body::kMoon, SkyEvent::kSetting}}};
 
 std::string CrescentRow(std::int32_t lunation, int evening, const Crescent& crescent) {
   std::vector<std::string> cells{std::to_string(lunation), std::to_string(evening),
@@ -197,11 +178,11 @@ bool PrintSunAndMoon(const GeoPoint& place, const Period& period, Printer& print
   const DayNumber end = DayOf(period.end, 0);
   for (DayNumber day = DayOf(period.begin, 0); day < end; day = day + 1) {
     const UniversalTime start(NoonOf(day, 0).days - 0.5 + midnight_after_greenwich);
-    const SkyDay sky(start, DeltaTOf(start));
-    std::array<std::vector<UniversalTime>, kDayColumns.size()> found;
+    const SkyDay sky(start, DeltaTDays(start));
+    std::array<std::vector<UniversalTime>, kDayEvents.size()> found;
     std::size_t rows = 1;
     for (std::size_t i = 0; i < found.size(); ++i) {
-      found[i] = sky.Find(kDayColumns[i].first, kDayColumns[i].second, observer);
+      found[i] = sky.Find(kDayEvents[i].body, kDayEvents[i].event, observer);
       rows = std::max(rows, found[i].size());
     }
     for (std::size_t row = 0; row < rows; ++row) {
@@ -222,8 +203,8 @@ bool PrintCrescents(const GeoPoint& place, const Period& period, Printer& printe
   return VisitPhases(
       period, kOnlyNewMoons, [&](std::int32_t lunation, std::int16_t, const auto& event) {
         if (!Contains(period, event.ut)) return true;
-        const Crescents mornings = MorningsBefore(lunation, observer, DeltaTOf(event.ut));
-        const Crescents evenings = EveningsAfter(lunation, observer, DeltaTOf(event.ut));
+        const Crescents mornings = MorningsBefore(lunation, observer, DeltaTDays(event.ut));
+        const Crescents evenings = EveningsAfter(lunation, observer, DeltaTDays(event.ut));
         for (int i = 3; i > 0; --i) {
           const Crescent& morning = mornings[static_cast<std::size_t>(i - 1)];
           if (!printer.Print(event.ut, CrescentRow(lunation, -i, morning))) return false;
@@ -239,13 +220,13 @@ bool PrintCrescents(const GeoPoint& place, const Period& period, Printer& printe
 std::optional<EclipsePath> FindPath(std::int32_t lunation) {
   const PhaseEvent event = FindPhaseEvent(lunation, kNewMoon);
   if (event.eclipse.type == kNotEclipsed) return std::nullopt;
-  EclipsePath path(event.tt, DeltaTOf(TerrestrialTime(event.eclipse.greatest)));
+  EclipsePath path(event.tt, DeltaTDays(TerrestrialTime(event.eclipse.greatest)));
   return path.UmbralPhase() ? std::optional(path) : std::nullopt;
 }
 
 bool PrintPath(std::int32_t lunation, const EclipsePath& path, Printer& printer) {
   const EclipseRecord eclipse = FindPhaseEvent(lunation, kNewMoon).eclipse;
-  const double delta_t = DeltaTOf(TerrestrialTime(eclipse.greatest));
+  const double delta_t = DeltaTDays(TerrestrialTime(eclipse.greatest));
   const std::string_view kind = eclipse.type == kNonCentralTotalSolar ? "total" : "annular";
   const TimeSpan span = path.CentralPhase() ? *path.CentralPhase() : *path.UmbralPhase();
   const std::string header =
