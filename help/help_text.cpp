@@ -6,7 +6,7 @@ namespace tarnwick {
 namespace {
 
 constexpr std::string_view kFirstSteps =
-    R"(Tarnwick takes one moment and shows it at once in nine calendars and day counts, with the Moon as it stands at that moment. It finds phases of the Moon, eclipses, and days on which several calendars begin a month.
+    R"(Tarnwick takes one moment and shows it at once in nine calendars and day counts, with the Moon as it stands at that moment. It finds phases of the Moon, eclipses, and days on which several calendars begin a month, and tells what any place on the Earth sees of the sky.
 
 # The current moment
 
@@ -45,6 +45,7 @@ Whatever you save replaces an earlier file only when the new one is complete. If
 - Ctrl+P opens the log preferences.
 - Alt+Left and Alt+Right lead back to what was shown before, and forward again.
 - Ctrl+L opens the lunation calendar; Page Up and Page Down turn its page.
+- Ctrl+K opens the sky at a place; Page Up and Page Down lead to the previous and the next eclipse there.
 - Ctrl+Q quits, from any window.
 - Alt with an underlined letter does what is written there.)";
 
@@ -110,7 +111,7 @@ Choose a target, next or previous, and click Search. Dark moon is the new moon, 
 
 "Eclipse in same saros series" needs an eclipse on display: find one first. From this one, the next is that of 2017-08-21 CE. Where the series ends, or going back begins, a notice says so and names the series of the eclipse found instead.
 
-The times in the description are those of the eclipse itself, read as Greenwich or local time like the others. A typed date, a move and another zone take the description away.
+The times in the description are those of the eclipse itself, read as Greenwich or local time like the others. A typed date, a move and another zone take the description away. Rest the pointer on that of an old eclipse to read how sure its times are.
 
 "Coincidence of 1sts of month" finds a day on which SD, ARC, LLT and KSG begin a month together, such as 2000-04-04 CE. Escape gives a search up.
 
@@ -175,7 +176,7 @@ Each day shows:
 - the date in the chosen calendar, and the CE date
 - the principal phase and the eclipse that fall on it
 
-The day of the current moment stands out. Rest the pointer on a day to read its dates in full and the times of its events.
+The day of the current moment stands out. Rest the pointer on a day to read its dates in full and the times of its events, with their standard error where that is a minute or more: 18:24 +- 11 min.
 
 The title names the lunation by its number and by the month to which most of its days belong, for example Lunation 332 (Sophia 4723). Lunation 0 began on 2000-01-06 CE; those before it have negative numbers. The line below the title names every year and month on the page.
 
@@ -187,6 +188,103 @@ The title names the lunation by its number and by the month to which most of its
 - Close and Escape put the window away.
 
 A change of the time system, the time zone or the calendar in the list is shown at once.)";
+
+constexpr std::string_view kTheSkyAtAPlace =
+    R"(The button "Sky at a place", or Ctrl+K, opens a window that tells what is seen from one place on the Earth: Sun and Moon at the current moment, through its day and its lunation, and an eclipse. It goes along with the moment, the calendar, the time system and the zone of the main window.
+
+# The place
+
+Choose a place from the list, or type its latitude and longitude and press Enter. They are degrees with decimals, or degrees, minutes and seconds; a letter tells the side, or a minus that it is south or west:
+
+    32.54 N
+    32 32 24 N
+    -33.87
+
+Both may be typed together, into either box:
+
+    32.54 N 44.42 E
+    -33.87, 151.2
+
+A click into the map takes the place that lies there, to a tenth of a degree.
+
+At the first start the place is Greenwich. Yours is kept in the file tnwk-place.usr, in the folder of the saved state. The list is the file places.csv in the folder "assets" of the program, in UTF-8. It can be extended: a line below the first is a place, and a cell with a comma stands in quotation marks. No name may stand there twice.
+
+    name,latitude,longitude,note
+    Mari,34.55,40.89,"tablets from the Euphrates, with month names"
+
+A new version of the program brings its own list, so keep a copy of yours.
+
+# Times
+
+A time is told twice: by the local mean time of the place, which is Universal Time and four minutes for each degree of its longitude, more in the east and less in the west; and as the main window reads times. Rest the pointer on it to read its date in both.
+
+# At the moment
+
+The altitude is that of the middle of the disc, as seen from the place at the height of the sea, without refraction. The azimuth counts from north through east: 90 is east, 180 south.
+
+# This day
+
+The day goes from midnight to midnight of local mean time. Sun and Moon rise and set by their upper limb, lifted by a refraction of 34 minutes of arc, and are highest in the meridian, be that above the horizon or not. Some things do not happen on a day: the Moon rises some 50 minutes later each time and so misses a day in every month, and near the poles neither may rise or set for weeks.
+
+# First and last crescent
+
+The first crescent of a lunation is seen in the evening, in the days after its new moon; the last one in the morning, in the days before the next. Whether it can be seen is told by the rule of Yallop (1997), from the height of the Moon above the Sun and the width of the crescent, in six classes:
+
+- A: easily visible
+- B: visible under perfect conditions
+- C: optical aid may be needed to find the crescent
+- D: optical aid is needed
+- E: not visible with a telescope
+- F: not visible at all
+
+Of the three evenings after the new moon, and the three mornings before the next, the one nearest to it of class A or B is named; if one of class C is nearer still, that one too. Rest the pointer on it to read of all three. The rule comes from sightings in clear air over a level horizon. Clouds, haze and hills it does not know.)";
+
+constexpr std::string_view kEclipsesAtAPlace =
+    R"(The window "Sky at a place" shows the eclipse that is described in the main window; if there is none, that of the current lunation, of two the nearer one. Its date is a Julian one before 1582-10-15 CE. Before the year 1 the year that historians count, who know no year 0, stands beside it: (-584, 585 BCE).
+
+# What is seen
+
+An eclipse of the Sun is seen as partial, annular or total. The magnitude is the part of the Sun's diameter that is covered, in the annular or total phase the Moon's diameter divided by the Sun's; the percentage is the part of its disc that is covered.
+
+An eclipse of the Moon is penumbral, partial or total, and the same for all who see the Moon. The magnitude is the depth of the Moon in the umbra, or in the penumbra, in diameters of the Moon.
+
+Only what stands above the horizon is seen: with its upper limb and a refraction of 34 minutes of arc, as at rising and setting. If the maximum is hidden, the most that can be seen is told, at the rising or setting of Sun or Moon.
+
+The list has the beginnings and ends of the phases, with the altitude and azimuth of Sun or Moon. What happens below the horizon is grey and says so.
+
+# The map
+
+For an eclipse of the Sun:
+
+- the central line, between the limits of totality or annularity, and the point of greatest eclipse, for which duration and width of the path are told
+- thin, the limits as they would lie if delta T were less, or more, by its standard error
+- the curves along which the greatest magnitude seen above the horizon is 0, 0.2, 0.4, 0.6 and 0.8; beyond that of 0 nothing is seen
+
+For an eclipse of the Moon:
+
+- a line around the places that see the whole of its umbral phase, and one around those that see some of it; in a penumbral eclipse that is the penumbral phase
+- darkened, where the Moon is below the horizon as that begins, is greatest, or ends; where all three coincide, nothing of it is seen
+- where the Moon stands in the zenith at greatest eclipse
+
+The night is shaded: of a solar eclipse that at greatest eclipse and, where there is no eclipse, that of the current moment. The chosen place is marked. A new map appears when all of it has been computed, which takes a moment. "Save map as PNG" writes it to a picture file.
+
+# How sure it is
+
+How far the Earth had turned in the far past, or will have turned in the far future, is known no better than delta T. Where its standard error is a minute or more, the times of phases and contacts show it:
+
+    18:24 +- 11 min
+
+In about two cases of three the truth lies within it. What is seen may depend on it, since the path of an eclipse moves with delta T: a degree of longitude in four minutes, to the west if delta T is less. So it is computed again with delta T less and more by its standard error, and what changes is told:
+
+    total; partial if delta T is 11 min less
+
+Risings and settings hardly depend on it, so none is told of them.
+
+# Next and previous
+
+"Next eclipse here" and "Previous eclipse here" look from the current moment for an eclipse that can be seen at the place. The list beside them says which: any, one of the Sun, a total one of the Sun, or a partial or total one of the Moon. It must be seen there as such: a total one as total. Escape gives the search up.
+
+The instant at which the most of it is seen there becomes the current moment; history and log take it, as they do of any search. After that of 1999-08-11 CE, the next total eclipse of the Sun that Stuttgart sees is that of 2151-06-14 CE.)";
 
 constexpr std::string_view kTheNineCalendars =
     R"(Two of the nine follow the Sun, three the Sun and the Moon, two the Moon alone, and two count days.
@@ -243,6 +341,14 @@ Compared with samples computed from DE431 by other software, from -3200 to 6000,
 
 The types and saros numbers agree in all of these eclipses. The figures hold in Terrestrial Time. The program shows times in minutes and drops the seconds; in lunar eclipses it takes the phases to lie evenly about the greatest.
 
+For a place, in Universal Time with delta T as it is taken:
+
+- 0.9 seconds in a rising or setting of the Moon, mostly some tenths in one of the Sun, and 4 seconds at the edge of the polar day, where the Sun hardly climbs
+- 0.6 seconds in the maximum of a solar eclipse
+- 0.7 kilometres in the central line, divided by the sine of the Sun's altitude
+- 0.003 degrees in an altitude
+- 0.0001 in Yallop's q, and no difference in the class of a crescent
+
 The illuminated part of the Moon comes from the positions of Moon and Sun from 1600 to 2099, and before and after from the phases.
 
 # Delta T
@@ -265,41 +371,14 @@ Accepted moments run from Greenwich noon of -3201-12-31 CE (AJD 552,283) to that
 
 The ephemeris is by Folkner and others (2014), delta T by Stephenson, Morrison and Hohenkerk (2016) with values observed since. The credits name all the sources.)";
 
-constexpr std::string_view kCredits =
-    R"(Tarnwick 18.0
-
-# Licence
-
-MIT License
-
-Copyright (c) 2026 The Tarnwick developers
-
-Permission is hereby granted, free of charge, to any person obtaining a copy of this software and associated documentation files (the "Software"), to deal in the Software without restriction, including without limitation the rights to use, copy, modify, merge, publish, distribute, sublicense, and/or sell copies of the Software, and to permit persons to whom the Software is furnished to do so, subject to the following conditions:
-
-The above copyright notice and this permission notice shall be included in all copies or substantial portions of the Software.
-
-THE SOFTWARE IS PROVIDED "AS IS", WITHOUT WARRANTY OF ANY KIND, EXPRESS OR IMPLIED, INCLUDING BUT NOT LIMITED TO THE WARRANTIES OF MERCHANTABILITY, FITNESS FOR A PARTICULAR PURPOSE AND NONINFRINGEMENT. IN NO EVENT SHALL THE AUTHORS OR COPYRIGHT HOLDERS BE LIABLE FOR ANY CLAIM, DAMAGES OR OTHER LIABILITY, WHETHER IN AN ACTION OF CONTRACT, TORT OR OTHERWISE, ARISING FROM, OUT OF OR IN CONNECTION WITH THE SOFTWARE OR THE USE OR OTHER DEALINGS IN THE SOFTWARE.
-
-# Libraries
-
-The windows are made with Qt 6, copyright The Qt Company Ltd. and other contributors, which is used under the GNU Lesser General Public License, version 3.
-
-# Sources of the astronomy
-
-- Moon and Sun: JPL DE431. Folkner et al., The Planetary and Lunar Ephemerides DE430 and DE431, IPN Progress Report 42-196 (2014).
-- Delta T: Stephenson, Morrison, Hohenkerk, Measurement of the Earth's rotation: 720 BC to AD 2015, Proc. R. Soc. A 472 (2016). Its uncertainty: Morrison, Stephenson, Historical values of the Earth's clock error, Journal for the History of Astronomy 35 (2004).
-- Phases and eclipses: Explanatory Supplement to the Astronomical Almanac, 3rd ed., ch. 11. Meeus, Elements of Solar Eclipses 1951-2200, and Astronomical Algorithms, 2nd ed., ch. 49 and 54.
-- Lunar eclipses: Danjon, Les éclipses de Lune par la pénombre en 1951, L'Astronomie 65 (1951).
-- Obliquity of the ecliptic: Laskar, Secular terms of classical planetary theories, Astronomy and Astrophysics 157 (1986).
-- Saros numbers: van den Bergh, Periodicity and Variation of Solar (and Lunar) Eclipses (1955).
-- Reference data for the tests of phases and eclipses: samples computed from JPL DE431 by other software.)";
-
 constexpr std::array kPages{
     HelpPage{"First steps", kFirstSteps},
     HelpPage{"Entering dates", kEnteringDates},
     HelpPage{"Moving and searching", kMovingAndSearching},
     HelpPage{"The log", kTheLog},
     HelpPage{"The lunation calendar", kLunationCalendar},
+    HelpPage{"The sky at a place", kTheSkyAtAPlace},
+    HelpPage{"Eclipses at a place", kEclipsesAtAPlace},
     HelpPage{"The nine calendars", kTheNineCalendars},
     HelpPage{"Accuracy and sources", kAccuracyAndSources},
 };
@@ -307,7 +386,5 @@ constexpr std::array kPages{
 }  // namespace
 
 std::span<const HelpPage> HelpPages() { return kPages; }
-
-std::string_view CreditsText() { return kCredits; }
 
 }  // namespace tarnwick

@@ -1,4 +1,4 @@
-// The fixed texts of the help and credits windows.
+// The fixed texts of the window of help.
 //
 // A text is lines of UTF-8, each paragraph one line, with these marks at the beginning of a line:
 //   "# "    a heading within the page
@@ -20,8 +20,5 @@ struct HelpPage {
 
 // The pages of the help in the order of reading.
 std::span<const HelpPage> HelpPages();
-
-// Version, licence and sources.
-std::string_view CreditsText();
 
 }  // namespace tarnwick

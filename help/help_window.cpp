@@ -3,6 +3,7 @@
 #include <string>
 
 #include "controls/product.h"
+#include "help/credits_text.h"
 #include "help/help_text.h"
 
 namespace tarnwick {

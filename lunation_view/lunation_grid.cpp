@@ -9,6 +9,7 @@
 #include "calendars/lunar_week.h"
 #include "engines/phases.h"
 #include "lunation_view/month_calendar.h"
+#include "moon/clock_error.h"
 #include "moon/moon_data.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
@@ -38,16 +39,21 @@ DayNumber FirstDayOf(std::int32_t lunation, const GridReading& reading) {
 struct DayEvent {
   DayAndTime when;
   std::string name;
+  std::string certainty;  // follows its time
 };
+
+DayEvent EventAt(UniversalTime instant, std::string_view name, const GridReading& reading) {
+  return {DayOf(instant, reading), std::string(name), ClockErrorSuffix(ClockError(instant))};
+}
 
 void AddPhase(std::vector<DayEvent>& events, std::int32_t lunation, std::int16_t phase,
               const GridReading& reading) {
   const PhaseEvent event = FindPhaseEvent(lunation, phase);
-  events.push_back(
-      {DayOf(event.ut, reading), std::string(kPhaseNames[static_cast<std::size_t>(phase)])});
+  events.push_back(EventAt(event.ut, kPhaseNames[static_cast<std::size_t>(phase)], reading));
   if (event.eclipse.type == kNotEclipsed) return;
-  events.push_back({DayOf(GreatestEclipse(event.eclipse), reading),
-                    std::string(EclipseTypeText(static_cast<std::int16_t>(event.eclipse.type)))});
+  events.push_back(EventAt(GreatestEclipse(event.eclipse),
+                           EclipseTypeText(static_cast<std::int16_t>(event.eclipse.type)),
+                           reading));
 }
 
 // With the new moon after the last day: its eclipse can be greatest before the midnight between.
@@ -79,7 +85,8 @@ GridCell CellOf(DayNumber day_number, const GridReading& reading,
   for (const DayEvent& event : events) {
     if (event.when.day_number != day_number) continue;
     cell.event += (cell.event.empty() ? "" : "\n") + event.name;
-    cell.tool_tip += "\n" + event.name + " " + TimeOfDayText(event.when.fraction, false);
+    cell.tool_tip +=
+        "\n" + event.name + " " + TimeOfDayText(event.when.fraction, false) + event.certainty;
   }
   return cell;
 }

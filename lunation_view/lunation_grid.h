@@ -40,7 +40,7 @@ struct GridCell {
   std::string ce_date;   // "2026-11-23 CE"
   std::string event;     // principal phase and eclipse of the day, a line each
   std::string moon;      // "The Moon, gibbous, waxing, 62 % lit": at noon
-  std::string tool_tip;  // both dates at length, the events with their times
+  std::string tool_tip;  // both dates at length, the events with their times: "Full moon 14:53"
 };
 
 struct LunationGrid {

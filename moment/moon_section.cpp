@@ -6,8 +6,8 @@
 #include "calendars/date_processing.h"
 #include "calendars/text.h"
 #include "controls/choice.h"
-#include "engines/ephemeris/delta_t.h"
 #include "engines/time_units.h"
+#include "moon/clock_error.h"
 #include "moon/moon_data.h"
 #include "moon/moon_picture.h"
 #include "moon/syzyg.h"
@@ -87,7 +87,7 @@ void MoonSection::DisplayDeltaT() {
   const std::int32_t year = CivilDateOf(DayOf(session_.Moment(), 0).value).year;
   Explain(lblDeltaT,
           "Terrestrial less Universal Time, kept by the turning Earth; its standard error in " +
-              YearText(year) + " is " + ErrorText(DeltaTError(year)));
+              YearText(year) + " is " + ErrorText(ClockError(session_.Moment())));
 }
 
 void ReportPhaseError(Desktop& desktop, std::int16_t code, const std::string& routine) {

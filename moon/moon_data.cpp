@@ -78,17 +78,6 @@ std::string AgeText(double age) {
          Counted(minutes % kMinutesPerHour, "min");
 }
 
-std::string ErrorText(double seconds) {
-  if (seconds < 0.1) return "below 0.1 s";
-  if (seconds >= 10 * kSecondsPerMinute) {
-    return std::to_string(std::lround(seconds / kSecondsPerMinute)) + " min";
-  }
-  if (seconds >= 100) return std::to_string(10 * std::lround(seconds / 10)) + " s";
-  if (seconds >= 10) return std::to_string(std::lround(seconds)) + " s";
-  const long tenths = std::lround(10 * seconds);
-  return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + " s";
-}
-
 std::string PhaseOfMoonText(double fraction, bool waxing) {
   const double percent = 100 * fraction;
   const std::string text = std::string(PhaseName(percent)) + " moon";

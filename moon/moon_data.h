@@ -28,10 +28,6 @@ double FractionFromPhases(UniversalTime moment, std::int32_t lunation, std::int1
 // An age in days in words: "1 day, 2 hrs, 1 min".
 std::string AgeText(double age);
 
-// A standard error in seconds as it can be claimed, to two digits: "below 0.1 s", "5.0 s", "140 s",
-// from ten minutes on "34 min".
-std::string ErrorText(double seconds);
-
 // "Crescent moon (waxing)" and so on. Whether it waxes is left out next to new and full moon.
 std::string PhaseOfMoonText(double fraction, bool waxing);
 

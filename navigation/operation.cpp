@@ -3,11 +3,22 @@
 #include "calendars/date_processing.h"
 #include "engines/checked_arithmetic.h"
 #include "moment/moon_section.h"
+#include "moon/clock_error.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
 #include "navigation/eclipse_description.h"
 
 namespace tarnwick {
+namespace {
+
+// Of the eclipse on display.
+std::optional<EclipseRecord> DescribedRecord(const Session& session) {
+  const auto& syzygy = session.DescribedEclipse();
+  if (!syzygy) return std::nullopt;
+  return FindPhaseEvent(syzygy->lunation, syzygy->phase).eclipse;
+}
+
+}  // namespace
 
 void CarryOut(Session& session, Desktop& desktop, const std::string& title,
               const std::function<void()>& operation) {
@@ -55,10 +66,17 @@ void TakeFound(Session& session, Desktop& desktop, EntrySection& entry, const Fo
 }
 
 std::vector<std::string> DescribedEclipseLines(const Session& session) {
-  const auto& syzygy = session.DescribedEclipse();
-  if (!syzygy) return {};
-  const EclipseRecord record = FindPhaseEvent(syzygy->lunation, syzygy->phase).eclipse;
-  return EclipseLines(record, AJDToCJD(GreatestEclipse(record), session.ReadingOffset()));
+  const auto record = DescribedRecord(session);
+  if (!record) return {};
+  return EclipseLines(*record, AJDToCJD(GreatestEclipse(*record), session.ReadingOffset()));
+}
+
+std::string DescribedEclipseCertainty(const Session& session) {
+  const auto record = DescribedRecord(session);
+  if (!record) return {};
+  const std::string error = ClockErrorSuffix(ClockError(GreatestEclipse(*record)));
+  if (error.empty()) return {};
+  return "The times of this eclipse are sure to" + error + ", the standard error of delta T";
 }
 
 }  // namespace tarnwick

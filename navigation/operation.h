@@ -42,4 +42,7 @@ void TakeFound(Session& session, Desktop& desktop, EntrySection& entry, const Fo
 // is no eclipse.
 std::vector<std::string> DescribedEclipseLines(const Session& session);
 
+// How sure its times are; empty where they are sure to less than a minute.
+std::string DescribedEclipseCertainty(const Session& session);
+
 }  // namespace tarnwick

@@ -73,6 +73,7 @@ std::string SearchSection::SearchOperation(int target) const {
 
 void SearchSection::ShowEclipse() {
   lblActualEclipseData.SetCaption(EclipseCaption(DescribedEclipseLines(session_)));
+  lblActualEclipseData.SetToolTipText(DescribedEclipseCertainty(session_));
 }
 
 std::optional<PhaseNumber> SearchSection::EclipseOf(std::string_view description) {

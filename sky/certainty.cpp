@@ -1,12 +1,6 @@
 #include "sky/certainty.h"
 
-#include <cmath>
-
-#include "calendars/date_processing.h"
-#include "engines/date_engine.h"
-#include "engines/ephemeris/delta_t.h"
-#include "engines/time_units.h"
-#include "moon/moon_data.h"
+#include "moon/clock_error.h"
 #include "moon/syzyg.h"
 #include "sky/eclipse_course.h"
 #include "sky/lunar_at_place.h"
@@ -27,15 +21,6 @@ std::string_view KindSeen(const EclipseRecord& record, const Observer& observer,
 }
 
 }  // namespace
-
-double ClockError(UniversalTime instant) {
-  return DeltaTError(CivilDateOf(DayOf(instant, 0).value).year + 0.5);
-}
-
-std::string ClockErrorSuffix(double seconds) {
-  if (seconds < kSecondsPerMinute) return {};
-  return " +- " + std::to_string(std::lround(seconds / kSecondsPerMinute)) + " min";
-}
 
 Certainty CertaintyOf(const EclipseRecord& record, const Observer& observer) {
   const double error = ClockError(GreatestEclipse(record));

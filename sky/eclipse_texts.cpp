@@ -13,7 +13,7 @@
 #include "calendars/text.h"
 #include "engines/date_engine.h"
 #include "engines/time_units.h"
-#include "moon/moon_data.h"
+#include "moon/clock_error.h"
 #include "moon/syzyg.h"
 #include "sky/certainty.h"
 #include "sky/coordinates.h"

@@ -4,7 +4,7 @@
 #include "calendars/date_texts.h"
 #include "engines/time_units.h"
 #include "moment/time_zone.h"
-#include "sky/certainty.h"
+#include "moon/clock_error.h"
 
 namespace tarnwick {
 namespace {

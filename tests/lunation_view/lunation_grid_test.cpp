@@ -81,6 +81,17 @@ TEST(LunationGridTest, NamesPhasesAndEclipsesOnTheirDays) {
   }
 }
 
+TEST(LunationGridTest, TellsHowSureOldTimesAre) {
+  for (const auto& [lunation, ending] :
+       {std::pair(-64316, " +- 34 min"), std::pair(-37105, " +- 11 min"), std::pair(332, "")}) {
+    for (const auto& cell : MakeLunationGrid(lunation, {0, kOffset}).cells) {
+      if (!cell || cell->event.empty()) continue;
+      EXPECT_TRUE(cell->tool_tip.ends_with(ending)) << cell->tool_tip;
+      EXPECT_EQ(cell->tool_tip.find("+-") == std::string::npos, lunation == 332);
+    }
+  }
+}
+
 TEST(LunationGridTest, IsTitledByTheMonthOfMostOfItsDays) {
   struct Case {
     std::int32_t lunation;

@@ -3,7 +3,6 @@
 #include <cmath>
 #include <gtest/gtest.h>
 
-#include "engines/ephemeris/delta_t.h"
 #include "moon/syzyg.h"
 
 namespace tarnwick {
@@ -18,16 +17,6 @@ TEST(AgeText, SplitsWholeMinutes) {
       {12 + 869.2 / 1440, "12 days, 14 hrs, 29 mins"},
   };
   for (const auto& [age, text] : ages) EXPECT_EQ(AgeText(age), text);
-}
-
-// As the documentation tabulates it.
-TEST(ErrorText, GrowsWithTheDistanceFromTheObservations) {
-  const std::pair<double, const char*> years[] = {
-      {-3200, "34 min"},     {-1000, "11 min"}, {0, "260 s"},    {500, "140 s"},
-      {1000, "54 s"},        {1500, "21 s"},    {1700, "5.0 s"}, {1900, "0.1 s"},
-      {2000, "below 0.1 s"}, {2100, "10 s"},    {3000, "110 s"}, {6000, "23 min"},
-  };
-  for (const auto& [year, text] : years) EXPECT_EQ(ErrorText(DeltaTError(year)), text) << year;
 }
 
 TEST(PhaseOfMoonText, ChangesAtItsThresholds) {

@@ -46,7 +46,7 @@ def single(at, names):
         f"click {named['cmd']}", f"click {named['cmd']}", f"click {named['opt']}",
         f"click {named['chk']}", f"click {named['lbl']}", f"click {named['img']}",
         f"set {named['cbo']} {at.randrange(16)}", f"set cboTimeZone {at.randrange(50)}",
-        f"set frmHelp.lstPages {at.randrange(8)}", f"set {named['txb']} {at.choice(DAYS)}",
+        f"set frmHelp.lstPages {at.randrange(10)}", f"set {named['txb']} {at.choice(DAYS)}",
         f"set {named['txb']} {entry(at)}", f"set txbDate {entry(at)}", "start",
         f"press {at.choice([named['frm'], named['txb']])} {at.choice([13, 27])}",
         f"close {named['frm']}", f"minimise {named['frm']}", f"answer {answer}",
