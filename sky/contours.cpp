@@ -11,6 +11,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int kNone = -1;
+constexpr double kFineStep = 1e-4;  // degrees: ten metres, far below what a map shows
 
 }  // namespace
 
@@ -18,12 +19,15 @@ GeoGrid::GeoGrid(int step, GeoQuantity quantity)
     : step_(step), columns_(360 / step), rows_(180 / step), quantity_(std::move(quantity)) {
   const int corners = (rows_ + 1) * columns_;
   values_.reserve(static_cast<std::size_t>(corners));
-  for (int row = 0; row <= rows_; ++row) {
-    for (int column = 0; column < columns_; ++column) {
-      const bool pole = row == 0 || row == rows_;
-      values_.push_back(pole && column > 0 ? values_.back() : quantity_(Corner(row, column)));
-    }
+}
+
+bool GeoGrid::FillRow() {
+  const int row = static_cast<int>(values_.size()) / columns_;
+  const bool pole = row == 0 || row == rows_;
+  for (int column = 0; column < columns_; ++column) {
+    values_.push_back(pole && column > 0 ? values_.back() : quantity_(Corner(row, column)));
   }
+  return row < rows_;
 }
 
 GeoPoint GeoGrid::Corner(int row, int column) const {
@@ -96,7 +100,8 @@ GeoPoint GeoGrid::Crossing(int side, double level) const {
   };
   const auto outside = [&](double degrees) { return level - quantity_(point(degrees)); };
   const bool starts_inside = outside(0) <= 0;
-  return point(starts_inside ? RootBetween(outside, 0, step_) : RootBetween(outside, step_, 0));
+  return point(starts_inside ? RootBetween(outside, 0, step_, kFineStep)
+                             : RootBetween(outside, step_, 0, kFineStep));
 }
 
 }  // namespace tarnwick

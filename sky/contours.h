@@ -15,14 +15,17 @@ using GeoQuantity = std::function<double(const GeoPoint&)>;
 // from the date line. What is narrower than a square may be missed.
 class GeoGrid {
  public:
-  // `step` in whole degrees, a divisor of 180.
+  // `step` in whole degrees, a divisor of 180. The grid is empty, until its rows are filled.
   GeoGrid(int step, GeoQuantity quantity);
 
-  // The lines that bound where the quantity is at least `level`. Each point lies on a side of a
-  // square, where linear interpolation begins and the quantity itself then decides; where that
-  // leaps over the level, at the leap. In squares with two opposite corners inside, the mean of the
-  // corners tells whether these are connected. A line comes back to its first point or ends at the
-  // date line.
+  // Evaluates the quantity along the next parallel. Returns whether there are more of them.
+  bool FillRow();
+
+  // All rows must be filled. The lines that bound where the quantity is at least `level`. Each
+  // point lies on a side of a square, where linear interpolation begins and the quantity itself
+  // then decides; where that leaps over the level, at the leap. In squares with two opposite
+  // corners inside, the mean of the corners tells whether these are connected. A line comes back to
+  // its first point or ends at the date line.
   GeoLines Contours(double level) const;
 
  private:

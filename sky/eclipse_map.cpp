@@ -1,59 +1,28 @@
 #include "sky/eclipse_map.h"
 
-#include <algorithm>
 #include <cmath>
-#include <cstddef>
 #include <numbers>
-#include <utility>
 #include <vector>
 
+#include "engines/ephemeris/earth_frame.h"
 #include "engines/time_units.h"
-#include "sky/contours.h"
+#include "moon/clock_error.h"
+#include "moon/syzyg.h"
+#include "sky/eclipse_course.h"
+#include "sky/geo_lines.h"
 #include "sky/solar_at_place.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr int kSolarStep = 2;  // degrees
-constexpr int kLunarStep = 3;
+constexpr int kGridStep = 2;  // degrees
+constexpr int kRowsPerStep = 8;
+constexpr double kLeastMove = 0.1;  // of a path, degrees, for it to be told apart
 
-// Puts lines together from points in their order, and breaks them at the date line.
-class LineMaker {
- public:
-  void Add(const std::optional<GeodeticPlace>& place) {
-    if (!place) return Break();
-    const GeoPoint point{place->latitude / kDegree, place->longitude / kDegree};
-    if (!line_.empty()) CrossDateLine(point);
-    line_.push_back(point);
-  }
-
-  GeoLines Take() {
-    Break();
-    return std::move(lines_);
-  }
-
- private:
-  void Break() {
-    if (line_.size() > 1) lines_.push_back(line_);
-    line_.clear();
-  }
-
-  void CrossDateLine(const GeoPoint& point) {
-    const GeoPoint last = line_.back();
-    if (std::abs(point.longitude - last.longitude) <= 180) return;
-    const double side = std::copysign(180, last.longitude);
-    const double before = side - last.longitude;
-    const double after = point.longitude + side;
-    const double part = before + after == 0 ? 0 : before / (before + after);
-    const double latitude = std::lerp(last.latitude, point.latitude, part);
-    line_.push_back({latitude, side});
-    Break();
-    line_.push_back({latitude, -side});
-  }
-
-  GeoLines lines_;
-  std::vector<GeoPoint> line_;
-};
+void AddTo(LineMaker& line, const std::optional<GeodeticPlace>& place) {
+  if (!place) return line.Break();
+  line.Add(InDegrees(*place));
+}
 
 // Calls `visit` for instants from the beginning to the end, closer together towards either, where
 // the shadow runs over the Earth the faster the lower it falls. They are a minute apart at most.
@@ -67,61 +36,125 @@ void VisitInstants(const std::optional<TimeSpan>& span, const Visit& visit) {
   }
 }
 
-void DrawPath(const EclipsePath& path, SolarEclipseMap& map) {
-  LineMaker centre, north, south;
+GeoLines CentralLine(const EclipsePath& path) {
+  LineMaker line;
   VisitInstants(path.CentralPhase(), [&](UniversalTime instant) {
-    const std::optional<CentralPlace> place = path.CentreAt(instant);
-    if (place) centre.Add(place->place);
+    const std::optional<CentralPlace> centre = path.CentreAt(instant);
+    if (centre) AddTo(line, centre->place);
   });
+  return line.Take();
+}
+
+PathLines Limits(const EclipsePath& path) {
+  LineMaker north, south;
   VisitInstants(path.UmbralPhase(), [&](UniversalTime instant) {
     const PathLimits limits = path.LimitsAt(instant);
-    north.Add(limits.north);
-    south.Add(limits.south);
+    AddTo(north, limits.north);
+    AddTo(south, limits.south);
   });
-  map.central_line = centre.Take();
-  map.northern_limit = north.Take();
-  map.southern_limit = south.Take();
+  return {north.Take(), south.Take()};
 }
 
-LunarPhaseMap PhaseMap(const EclipseCourse& course, double semi_duration_minutes) {
-  const double end = semi_duration_minutes / kMinutesPerDay;
-  const auto heights = [&course, end](const GeoPoint& point) {
-    const Observer observer = ObserverAt(point);
-    const EclipseFromPlace view(course, observer);
-    return std::minmax(
-        {view.MoonAt(-end).upper_limb, view.MoonAt(0).upper_limb, view.MoonAt(end).upper_limb});
-  };
-  const auto least = [&](const GeoPoint& point) { return heights(point).first; };
-  const auto greatest = [&](const GeoPoint& point) { return heights(point).second; };
-  return {GeoGrid(kLunarStep, least).Contours(0), GeoGrid(kLunarStep, greatest).Contours(0)};
+PathLines MovedEast(const PathLines& lines, double degrees) {
+  return {MovedEast(lines.northern_limit, degrees), MovedEast(lines.southern_limit, degrees)};
 }
 
-std::optional<LunarPhaseMap> PhaseMapIfAny(const EclipseCourse& course, double minutes) {
-  if (minutes <= 0) return std::nullopt;
-  return PhaseMap(course, minutes);
+// How much further the Earth has turned by an instant if delta T is so much smaller, degrees.
+double TurnOfEarth(TerrestrialTime instant, double delta_t, double smaller_by) {
+  const double ut = instant.days - delta_t;
+  const double turn =
+      ApparentSiderealTime(ut + smaller_by, instant.days) - ApparentSiderealTime(ut, instant.days);
+  return std::remainder(turn / kDegree, 360);
+}
+
+void AddIf(bool belongs, const GeoPoint& point, LineMaker& line) {
+  if (!belongs) return line.Break();
+  line.Add(point);
+}
+
+// The parts of the three horizons beyond which all others have the Moon, or none has it.
+void DrawEdges(LunarEclipseMap& map) {
+  LineMaker whole, any;
+  for (std::size_t i = 0; i < map.moon_up.size(); ++i) {
+    for (const GeoPoint& point : EdgeOf(map.moon_up[i])) {
+      std::size_t others_up = 0;
+      for (std::size_t j = 0; j < map.moon_up.size(); ++j) {
+        if (j != i && IsUp(map.moon_up[j], point)) ++others_up;
+      }
+      AddIf(others_up == 0, point, any);
+      AddIf(others_up == map.moon_up.size() - 1, point, whole);
+    }
+    any.Break();
+    whole.Break();
+  }
+  map.whole = whole.Take();
+  map.any = any.Take();
+}
+
+double DeltaTInDays(const EclipseRecord& record) {
+  return DeltaT(TerrestrialTime(record.greatest)) / kMinutesPerDay;
 }
 
 }  // namespace
 
-SolarEclipseMap SolarEclipseMapOf(TerrestrialTime greatest, double delta_t) {
-  SolarEclipseMap map;
-  const EclipseCourse course(greatest, delta_t);
-  const GeoGrid grid(kSolarStep, [&](const GeoPoint& point) {
-    return ContinuedMagnitudeSeen(course, ObserverAt(point));
-  });
-  for (std::size_t i = 0; i < kMappedMagnitudes.size(); ++i) {
-    map.magnitudes[i] = grid.Contours(kMappedMagnitudes[i]);
+SolarMapMaker::SolarMapMaker(const EclipseRecord& record)
+    : greatest_(record.greatest),
+      delta_t_(DeltaTInDays(record)),
+      grid_(kGridStep, [course = EclipseCourse(greatest_, delta_t_)](const GeoPoint& point) {
+        return ContinuedMagnitudeSeen(course, ObserverAt(point));
+      }) {}
+
+bool SolarMapMaker::Step() {
+  if (!has_path_) {
+    DrawPath();
+    DrawPathsOfOtherClocks();
+    has_path_ = true;
+  } else if (!grid_is_filled_) {
+    grid_is_filled_ = !FillRows();
+  } else if (curves_ < kMappedMagnitudes.size()) {
+    map_.magnitudes[curves_] = grid_.Contours(kMappedMagnitudes[curves_]);
+    ++curves_;
   }
-  const EclipsePath path(greatest, delta_t);
-  DrawPath(path, map);
-  map.greatest = path.Greatest();
-  map.greatest_place = path.CentreAt(map.greatest);
-  return map;
+  return curves_ < kMappedMagnitudes.size();
 }
 
-LunarEclipseMap LunarEclipseMapOf(const EclipseRecord& record, const EclipseCourse& course) {
-  return {PhaseMap(course, record.penumbral_minutes), PhaseMapIfAny(course, record.umbral_minutes),
-          PhaseMapIfAny(course, record.total_minutes)};
+void SolarMapMaker::DrawPath() {
+  const EclipsePath path(greatest_, delta_t_);
+  map_.central_line = CentralLine(path);
+  map_.limits = Limits(path);
+  map_.greatest = path.Greatest();
+  map_.greatest_place = path.CentreAt(map_.greatest);
+}
+
+// With another delta T the same shadow falls upon an Earth that has turned more or less.
+void SolarMapMaker::DrawPathsOfOtherClocks() {
+  const double error = ClockError(map_.greatest) / kSecondsPerDay;
+  const double turn = TurnOfEarth(greatest_, delta_t_, error);
+  if (std::abs(turn) < kLeastMove) return;
+  map_.limits_if_less = MovedEast(map_.limits, -turn);
+  map_.limits_if_more = MovedEast(map_.limits, turn);
+}
+
+bool SolarMapMaker::FillRows() {
+  for (int i = 0; i < kRowsPerStep; ++i) {
+    if (!grid_.FillRow()) return false;
+  }
+  return true;
+}
+
+LunarEclipseMap LunarEclipseMapOf(const EclipseRecord& record) {
+  const double minutes =
+      record.umbral_minutes > 0 ? record.umbral_minutes : record.penumbral_minutes;
+  const double delta_t = DeltaTInDays(record);
+  const EclipseCourse course(TerrestrialTime(record.greatest), delta_t);
+  LunarEclipseMap map;
+  for (std::size_t i = 0; i < map.moon_up.size(); ++i) {
+    const double offset = (static_cast<double>(i) - 1) * minutes / kMinutesPerDay;
+    const EarthFrame frame(record.greatest + offset, delta_t);
+    map.moon_up[i] = MoonsVisibleHorizon(frame.FromEcliptic(course.At(offset).moon.value));
+  }
+  DrawEdges(map);
+  return map;
 }
 
 }  // namespace tarnwick

@@ -19,6 +19,7 @@
 #include "engines/ephemeris/spheroid.h"
 #include "engines/ephemeris/vector3.h"
 #include "engines/instant.h"
+#include "sky/geo_point.h"
 
 namespace tarnwick {
 
@@ -26,6 +27,10 @@ struct GeodeticPlace {
   double latitude = 0;
   double longitude = 0;
 };
+
+inline GeoPoint InDegrees(const GeodeticPlace& place) {
+  return {place.latitude / kDegree, place.longitude / kDegree};
+}
 
 struct TimeSpan {
   UniversalTime begin;

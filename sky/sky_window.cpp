@@ -228,7 +228,7 @@ void frmSky::Map_Click(DrawingPoint point) {
   const auto rounded = [](double degrees) {
     return std::round(degrees * kStepsPerDegree) / kStepsPerDegree;
   };
-  const GeoPoint at = GeoPointAt(point);
+  const GeoPoint at = PlaceOnMap(point);
   place.Choose({rounded(at.latitude), rounded(at.longitude)});
 }
 

@@ -7,11 +7,11 @@
 namespace tarnwick {
 
 // A root of f between `inside`, where f is not positive, and `outside`, where it is, found when a
-// step falls below 1e-11 in the unit of the variable. Should f not be positive at `outside`, the
-// answer is `outside`. Regula falsi; the Illinois rule (halving the value at an end that stays)
+// step falls below `fine_step` in the unit of the variable. Should f not be positive at `outside`,
+// the answer is `outside`. Regula falsi; the Illinois rule (halving the value at an end that stays)
 // keeps both ends moving.
 template <class Function>
-double RootBetween(const Function& f, double inside, double outside) {
+double RootBetween(const Function& f, double inside, double outside, double fine_step = 1e-11) {
   double f_inside = std::min(f(inside), 0.0);
   double f_outside = f(outside);
   if (f_outside <= 0) return outside;
@@ -21,7 +21,7 @@ double RootBetween(const Function& f, double inside, double outside) {
     const double last = root;
     root = outside - f_outside * (outside - inside) / (f_outside - f_inside);
     const double value = f(root);
-    if (value == 0 || std::abs(root - last) < 1e-11) break;
+    if (value == 0 || std::abs(root - last) < fine_step) break;
     const bool moves_inside = value < 0;
     const bool stays = i > 0 && moves_inside == moved_inside;
     if (moves_inside) {

@@ -8,9 +8,11 @@
 #include <vector>
 
 #include "engines/phases.h"
+#include "moon/clock_error.h"
 #include "moon/syzyg.h"
 #include "sky/contours.h"
-#include "sky/lunar_at_place.h"
+#include "sky/eclipse_course.h"
+#include "sky/eclipse_path.h"
 #include "sky/solar_at_place.h"
 #include "tests/sky/eclipse_rows.h"
 
@@ -19,13 +21,18 @@ namespace {
 
 constexpr GeoPoint kStuttgart{48.78, 9.18};
 
-double DeltaTDays(const EclipseRecord& record) {
-  return DeltaT(TerrestrialTime(record.greatest)) / kMinutesPerDay;
+SolarEclipseMap SolarMapOf(std::int32_t lunation) {
+  SolarMapMaker maker(EclipseOf(lunation, kNewMoon));
+  while (maker.Step()) {
+  }
+  return maker.Map();
 }
 
-SolarEclipseMap SolarMapOf(std::int32_t lunation) {
-  const EclipseRecord record = EclipseOf(lunation, kNewMoon);
-  return SolarEclipseMapOf(TerrestrialTime(record.greatest), DeltaTDays(record));
+GeoGrid FilledGrid(int step, const GeoQuantity& quantity) {
+  GeoGrid grid(step, quantity);
+  while (grid.FillRow()) {
+  }
+  return grid;
 }
 
 // By the parity of the crossings of a meridian to the south of the point, counted from the south
@@ -87,13 +94,13 @@ TEST(Contours, SettleAmbiguousSquaresByTheMeanAndStopAtTheDateLine) {
     };
     return std::max(peak(0, 0), peak(10, 10));
   };
-  const GeoGrid two_peaks(10, peaks);
+  const GeoGrid two_peaks = FilledGrid(10, peaks);
   EXPECT_EQ(two_peaks.Contours(0.4).size(), 1U);
   EXPECT_EQ(two_peaks.Contours(0.6).size(), 2U);
   const auto around_date_line = [](const GeoPoint& p) {
     return 30 - std::hypot(p.latitude, 180 - std::abs(p.longitude));
   };
-  const GeoLines halves = GeoGrid(10, around_date_line).Contours(0);
+  const GeoLines halves = FilledGrid(10, around_date_line).Contours(0);
   EXPECT_EQ(halves.size(), 2U);
   ExpectWithinTheMap(halves, 20);
   ExpectWithoutLooseEnds(halves);
@@ -101,8 +108,7 @@ TEST(Contours, SettleAmbiguousSquaresByTheMeanAndStopAtTheDateLine) {
 
 // 1999-08-11.
 TEST(EclipseMap, MeetsWhatThePlacesSee) {
-  const EclipseRecord record = EclipseOf(-5, kNewMoon);
-  const EclipseCourse course(TerrestrialTime(record.greatest), DeltaTDays(record));
+  const EclipseCourse course = CourseOfEclipse(EclipseOf(-5, kNewMoon));
   const SolarEclipseMap map = SolarMapOf(-5);
   EXPECT_LT(DegreesFrom(kStuttgart, map.central_line), 0.3);
   EXPECT_TRUE(Encloses(map.magnitudes.back(), kStuttgart));
@@ -143,33 +149,63 @@ TEST(EclipseMap, DrawsEveryKindOfEclipse) {
     }
     EXPECT_EQ(!map.central_line.empty(), central);
     EXPECT_EQ(map.greatest_place.has_value(), central);
-    EXPECT_EQ(!map.northern_limit.empty() || !map.southern_limit.empty(), limited);
-    for (const GeoLines* lines : {&map.central_line, &map.northern_limit, &map.southern_limit}) {
+    const auto& [north, south] = map.limits;
+    EXPECT_EQ(!north.empty() || !south.empty(), limited);
+    for (const GeoLines* lines : {&map.central_line, &north, &south}) {
       ExpectWithinTheMap(*lines, 180);
     }
   }
 }
 
-// 2000-01-21, a total one.
-TEST(EclipseMap, BoundsWhereALunarEclipseIsSeen) {
-  const EclipseRecord record = EclipseOf(0, kFullMoon);
-  const EclipseCourse course(TerrestrialTime(record.greatest), DeltaTDays(record));
-  const LunarEclipseMap map = LunarEclipseMapOf(record, course);
-  ASSERT_TRUE(map.umbral && map.total);
-  for (const LunarPhaseMap& phase : {map.penumbral, *map.umbral, *map.total}) {
-    for (const GeoLines& lines : {phase.whole, phase.any}) {
-      EXPECT_FALSE(lines.empty());
-      ExpectWithinTheMap(lines, 6);
-      ExpectWithoutLooseEnds(lines);
-    }
+// -135-04-15 JC, over Babylon, when delta T is known to 310 s.
+TEST(EclipseMap, MovesThePathOfAnOldEclipseByTheErrorOfDeltaT) {
+  const EclipseRecord record = EclipseOf(-26403, kNewMoon);
+  const TerrestrialTime greatest(record.greatest);
+  const SolarEclipseMap map = SolarMapOf(record.lunation);
+  const double error = ClockError(map.greatest);
+  const double turn = error / 3600 * 15;
+  const struct {
+    double larger_by;  // seconds
+    const PathLines& limits;
+  } kClocks[] = {{-error, map.limits_if_less}, {error, map.limits_if_more}};
+  for (const auto& [larger_by, limits] : kClocks) {
+    SCOPED_TRACE(larger_by);
+    const EclipsePath path(greatest,
+                           DeltaT(greatest) / kMinutesPerDay + larger_by / kSecondsPerDay);
+    const PathLimits found = path.LimitsAt(path.Greatest());
+    EXPECT_LT(DegreesFrom(InDegrees(*found.north), limits.northern_limit), 0.2);
+    EXPECT_LT(DegreesFrom(InDegrees(*found.south), limits.southern_limit), 0.2);
+    const double moved = limits.northern_limit.front().front().longitude -
+                         map.limits.northern_limit.front().front().longitude;
+    EXPECT_NEAR(moved, std::copysign(turn, larger_by), 0.01);
   }
-  // On the edge of where all of the penumbral phase is seen, the Moon then rises or sets.
-  for (const std::vector<GeoPoint>& line : map.penumbral.whole) {
-    for (const GeoPoint& point : line) {
-      const LunarAtPlace seen = LunarEclipseAtPlace(record, course, ObserverAt(point));
-      EXPECT_NEAR(std::min({seen.p1->upper_limb, seen.greatest.upper_limb, seen.p4->upper_limb}), 0,
-                  1e-6);
+  EXPECT_TRUE(SolarMapOf(-5).limits_if_less.northern_limit.empty());
+}
+
+// 2000-01-21, a total one, and 2009-07-07, a penumbral one.
+TEST(EclipseMap, BoundsWhereALunarEclipseIsSeen) {
+  for (const std::int32_t lunation : {0, 117}) {
+    const EclipseRecord record = EclipseOf(lunation, kFullMoon);
+    const LunarEclipseMap map = LunarEclipseMapOf(record);
+    const EclipseCourse course = CourseOfEclipse(record);
+    const double begin =
+        -(lunation == 0 ? record.umbral_minutes : record.penumbral_minutes) / kMinutesPerDay;
+    const auto heights = [&](const GeoPoint& point) {
+      const Observer observer = ObserverAt(point);
+      const EclipseFromPlace view(course, observer);
+      return std::minmax({view.MoonAt(begin).upper_limb, view.MoonAt(0).upper_limb,
+                          view.MoonAt(-begin).upper_limb});
+    };
+    const double tolerance = 0.004 * kDegree;
+    ExpectWithinTheMap(map.whole, 180);
+    ExpectWithinTheMap(map.any, 180);
+    for (const std::vector<GeoPoint>& line : map.whole) {
+      for (const GeoPoint& point : line) EXPECT_NEAR(heights(point).first, 0, tolerance);
     }
+    for (const std::vector<GeoPoint>& line : map.any) {
+      for (const GeoPoint& point : line) EXPECT_NEAR(heights(point).second, 0, tolerance);
+    }
+    EXPECT_FALSE(map.whole.empty() || map.any.empty());
   }
 }
 
