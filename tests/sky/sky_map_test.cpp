@@ -21,10 +21,6 @@ namespace {
 
 using testing::UnorderedElementsAreArray;
 
-DrawingPoint OnMap(const GeoPoint& p) {
-  return {(p.longitude + 180) / 360, (90 - p.latitude) / 180};
-}
-
 bool Contains(const std::vector<DrawingPoint>& area, const DrawingPoint& p) {
   bool inside = false;
   for (std::size_t i = 0; i < area.size(); ++i) {
