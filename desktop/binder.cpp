@@ -13,11 +13,13 @@
 #include <QTextBrowser>
 #include <QTimer>
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "desktop/accessible.h"
 #include "desktop/characters.h"
 #include "desktop/context_menu.h"
+#include "desktop/drawing_view.h"
 #include "desktop/event_hook.h"
 #include "desktop/help_html.h"
 #include "desktop/link_label.h"
@@ -301,6 +303,23 @@ void Binder::Bind(Picture& picture, PictureView& view) {
       };
     }
     view.SetPicture(picture.File(), std::move(retouch));
+  });
+}
+
+void Binder::Bind(Drawing& drawing, DrawingView& view) {
+  SetRole(view, QAccessible::Graphic);
+  BindControl(drawing, view);
+  Mirror(drawing, Property::kDescription, view,
+         [&] { view.setAccessibleDescription(ToQt(drawing.Description())); });
+  Mirror(drawing, Property::kDrawing, view, [&] { view.SetContent(drawing.Content()); });
+  new EventHook(view, [&drawing, &view, &gate = gate_](QEvent& event) {
+    if (event.type() != QEvent::MouseButtonRelease) return false;
+    const auto& release = static_cast<const QMouseEvent&>(event);
+    const std::optional<DrawingPoint> point = view.PointAt(release.position());
+    if (release.button() == Qt::LeftButton && point) {
+      gate.RunFor(drawing, [&] { drawing.ClickAt(*point); });
+    }
+    return false;
   });
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "controls/controls.h"
+#include "controls/drawing.h"
 #include "controls/form.h"
 #include "desktop/handler_gate.h"
 
@@ -26,6 +27,7 @@ class QWidget;
 
 namespace tarnwick {
 
+class DrawingView;
 class LinkLabel;
 class Panel;
 class PictureView;
@@ -69,6 +71,7 @@ class Binder {
   void Bind(ComboBox& list, QListWidget& rows);
   void Bind(Picture& picture, QWidget& area);
   void Bind(Picture& picture, PictureView& view);
+  void Bind(Drawing& drawing, DrawingView& view);
   void Bind(Timer& timer, QTimer& clock);
   void Bind(TextBox& box, QLineEdit& edit);
   void Bind(TextBox& box, QPlainTextEdit& edit);

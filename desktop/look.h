@@ -63,6 +63,21 @@ struct Look {
   static constexpr QColor kSkyGlow{0x12, 0x19, 0x31};
   static constexpr QColor kEvent{0xe8, 0xc9, 0x7a};  // of the lunation calendar
 
+  // Maps, as on paper, so that they are read in print too. The shade lies over the paper, several
+  // times where several areas overlap.
+  static constexpr QColor kPaper{0xfa, 0xf8, 0xf2};
+  static constexpr QColor kMapShade{0x28, 0x3a, 0x66, 0x18};
+  static constexpr QColor kMapNight{0x28, 0x3a, 0x66, 0x24};
+  static constexpr QColor kMapEdge{0x6c, 0x78, 0x86};
+  static constexpr QColor kGraticule{0xd8, 0xd4, 0xc8};
+  static constexpr QColor kCoast{0x5f, 0x5b, 0x4e};
+  static constexpr QColor kMagnitude{0x1c, 0x6b, 0x4c};
+  static constexpr QColor kSeen{0x1d, 0x50, 0x9c};
+  static constexpr QColor kPath{0xa8, 0x1e, 0x1e};
+  static constexpr QColor kPathIfLess{0x7a, 0x36, 0x9c};
+  static constexpr QColor kPathIfMore{0x8f, 0x4e, 0x00};
+  static constexpr QColor kPlace{0x00, 0x00, 0x80};
+
   static constexpr QColor kToolTip = kField;
   static constexpr QColor kToolTipText = kText;
 };

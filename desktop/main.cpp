@@ -21,6 +21,7 @@
 #include "desktop/qt_desktop.h"
 #include "desktop/screen_fit.h"
 #include "desktop/session_end.h"
+#include "desktop/sky_view.h"
 
 namespace {
 
@@ -94,12 +95,13 @@ int main(int argc, char** argv) {
   tarnwick::LogWindowView log_view(form.log.log_window, gate);
   tarnwick::LogPreferencesView log_preferences_view(form.log.log_preferences, gate);
   tarnwick::CalendarView calendar_view(form.calendar.calendar_window, gate);
+  tarnwick::SkyView sky_view(form.sky.sky_window, gate);
   tarnwick::HelpView help_view(form.help_window, gate);
   tarnwick::CreditsView credits_view(form.help_window.credits_window, gate);
   tarnwick::NoticeView notice_view(form.notice, gate);
   for (QWidget* window :
-       std::initializer_list<QWidget*>{&log_view, &log_preferences_view, &calendar_view, &help_view,
-                                       &credits_view, &notice_view}) {
+       std::initializer_list<QWidget*>{&log_view, &log_preferences_view, &calendar_view, &sky_view,
+                                       &help_view, &credits_view, &notice_view}) {
     tarnwick::BelongTo(*window, view);
   }
   gate.Run([&] { form.Load(); });

@@ -94,6 +94,7 @@ QWidget* MainWindowView::MakeButtons() {
   row.addWidget(MakeButton(binder_, form_.cmdSaveState, area));
   row.addStretch();
   row.addWidget(new CalendarOpener(form_.calendar, binder_, area));
+  row.addWidget(MakeButton(binder_, form_.sky.cmdSky, area));
   row.addStretch();
   row.addWidget(MakeButton(binder_, form_.cmdHelp, area));
   row.addWidget(MakeButton(binder_, form_.cmdQuit, area));

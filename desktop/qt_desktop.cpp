@@ -183,7 +183,7 @@ std::string QtDesktop::SaveImage(const Control& area, const std::filesystem::pat
   const double ratio = kImageResolution * widget->devicePixelRatioF();
   QImage image((QSizeF(widget->size()) * ratio).toSize(), QImage::Format_RGB32);
   image.setDevicePixelRatio(ratio);
-  image.fill(Look::kWindow);
+  image.fill(widget->palette().color(QPalette::Window));
   widget->render(&image, {}, {}, QWidget::DrawChildren);
   QByteArray bytes;
   QBuffer buffer(&bytes);

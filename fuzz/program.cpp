@@ -25,7 +25,9 @@ std::string Harmless(const std::string& line) {
   }
   const std::size_t tick = line.find(kTick);
   if (tick == std::string::npos) return line;
-  return line.substr(0, tick + kTick.size() + kMostDigits);
+  const std::size_t number = line.find_first_of("0123456789", tick + kTick.size());
+  if (number == std::string::npos) return line;
+  return line.substr(0, number + kMostDigits);
 }
 
 // What the next start shows again.

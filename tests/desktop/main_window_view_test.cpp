@@ -138,6 +138,7 @@ void MainWindowViewTest::tabKeyFollowsTheOrderOfUse() {
       "cmdSaveState",
       "cboMonthCalendar",
       "cmdDisplayCalendar",
+      "cmdSky",
       "cmdHelp",
       "cmdQuit",
   };

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "calendars/date_processing.h"
+#include "controls/drawing.h"
 #include "engines/time_units.h"
 #include "tools/driver/properties.h"
 
@@ -36,6 +37,17 @@ int ParseNumber(std::string_view text, int least = std::numeric_limits<int>::min
     throw CommandError("no such number: " + std::string(text));
   }
   return number;
+}
+
+// A fraction of a length.
+double ParseFraction(std::string_view text) {
+  double fraction = 0;
+  const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), fraction);
+  if (status != std::errc() || end != text.data() + text.size() || !(fraction >= 0) ||
+      !(fraction <= 1)) {
+    throw CommandError("no such fraction: " + std::string(text));
+  }
+  return fraction;
 }
 
 std::filesystem::path Utf8Path(std::string_view text) {
@@ -145,7 +157,7 @@ const Driver::Command Driver::kCommands[] = {
     {"answer", &Driver::Answer},     {"tick", &Driver::Tick},
     {"during", &Driver::During},     {"clipboard", &Driver::Clipboard},
     {"dump", &Driver::Dump},         {"key", &Driver::Key},
-    {"menu", &Driver::Menu},
+    {"menu", &Driver::Menu},         {"point", &Driver::Point},
 };
 
 Driver::Driver(std::istream& input, std::ostream& output, std::filesystem::path program_folder)
@@ -443,10 +455,22 @@ void Driver::Answer(std::string_view arguments) {
 
 void Driver::FireTimer() { Main().Clock.Tick(); }
 
+// Without a name it is the timer of the main window.
+void Driver::Tick(std::string_view arguments) {
+  const auto [name, times] = SplitWord(arguments);
+  if (name.empty() || Matches(name.substr(0, 1), "0")) {
+    TickMainClock(name.empty() ? 1 : ParseNumber(arguments, 1));
+    return;
+  }
+  const auto* timer = dynamic_cast<const Timer*>(&FindControl(name));
+  if (timer == nullptr) throw CommandError(std::string(name) + " is not a timer");
+  const int count = times.empty() ? 1 : ParseNumber(times, 1);
+  for (int i = 0; i < count; ++i) timer->Tick();
+}
+
 // Inside a waiting move each tick is followed by a pass of the move, so the rest are kept for its
 // next yields.
-void Driver::Tick(std::string_view arguments) {
-  const int count = arguments.empty() ? 1 : ParseNumber(arguments, 1);
+void Driver::TickMainClock(int count) {
   const bool inside_handler = running_handlers_ > 1;
   FireTimer();
   if (inside_handler) {
@@ -472,6 +496,15 @@ void Driver::Key(std::string_view arguments) {
   if (waits || !form.PressKeys(keys)) {
     throw CommandError("nothing in " + form.Name() + " takes " + std::string(keys));
   }
+}
+
+void Driver::Point(std::string_view arguments) {
+  const auto [name, place] = SplitWord(arguments);
+  const auto [x, y] = SplitWord(place);
+  const DrawingPoint point{ParseFraction(x), ParseFraction(y)};
+  auto& drawing = FindUsableAs<Drawing>(name, "drawing");
+  drawing.SetFocus();
+  drawing.ClickAt(point);
 }
 
 void Driver::Dump(std::string_view /*arguments*/) {

@@ -72,10 +72,12 @@ class Driver {
   void Messages(std::string_view arguments);
   void Answer(std::string_view arguments);
   void Tick(std::string_view arguments);
+  void TickMainClock(int count);
   void During(std::string_view arguments);
   void Clipboard(std::string_view arguments);
   void Dump(std::string_view arguments);
   void Key(std::string_view arguments);
+  void Point(std::string_view arguments);
 
   void Print(std::string_view text) { output_ << text << '\n'; }
   void FireTimer();

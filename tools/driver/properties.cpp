@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+#include "controls/drawing.h"
+
 namespace tarnwick {
 namespace {
 
@@ -48,6 +50,9 @@ std::optional<std::string> OwnProperty(const Control& control, std::string_view 
   if (const auto* picture = dynamic_cast<const Picture*>(&control)) {
     if (property == "Picture") return picture->File().filename().string();
     if (property == "Description") return picture->Description();
+  }
+  if (const auto* drawing = dynamic_cast<const Drawing*>(&control)) {
+    if (property == "Description") return drawing->Description();
   }
   if (const auto* timer = dynamic_cast<const Timer*>(&control)) {
     if (property == "Interval") return std::to_string(timer->Interval());
@@ -107,6 +112,7 @@ std::optional<std::string> PropertyText(const Form& form, std::string_view prope
 }
 
 std::string_view DefaultProperty(const Control& control) {
+  if (dynamic_cast<const Drawing*>(&control) != nullptr) return "Description";
   for (const std::string_view property : {"Value", "ListIndex", "Text", "Caption", "Interval"}) {
     if (OwnProperty(control, property)) return property;
   }
