@@ -144,19 +144,19 @@ SkyView::SkyView(frmSky& form, HandlerGate& gate) : form_(form), binder_(gate, k
 
 QWidget* SkyView::MakePlace() {
   auto* panel = new Panel(Panel::Ground::kDark, this);
-  binder_.Bind(form_.fraPlace, *panel);
+  binder_.Bind(form_.place.fraPlace, *panel);
   QHBoxLayout& row = panel->MakeLine();
   auto* places = new DropList(panel);
   ReserveWidth(*places, kLongestPlace);
   places->setMaxVisibleItems(kVisiblePlaces);
-  binder_.Bind(form_.cboPlace, *places);
+  binder_.Bind(form_.place.cboPlace, *places);
   row.addWidget(places);
-  AddCoordinate("La&titude", form_.txbLatitude, row);
-  AddCoordinate("Lon&gitude", form_.txbLongitude, row);
+  AddCoordinate("La&titude", form_.place.txbLatitude, row);
+  AddCoordinate("Lon&gitude", form_.place.txbLongitude, row);
   row.addSpacing(Spacing(*this));
   QLabel* note = MakeLongText(panel, 2, kNoteSize);
   note->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-  binder_.Bind(form_.lblPlaceNote, *note);
+  binder_.Bind(form_.place.lblPlaceNote, *note);
   SetTextColor(*note, Look::kCaption);
   row.addWidget(note, 1);
   return panel;

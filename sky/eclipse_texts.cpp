@@ -214,11 +214,10 @@ std::string GreatestText(const EclipseRecord& record, const PlaceReading& readin
   const EclipsePath path(greatest, DeltaTDays(greatest));
   const std::optional<CentralPlace> centre = path.CentreAt(path.Greatest());
   if (!centre) return when + ", " + Magnitude(record.magnitude);
-  const std::string text =
-      when + ", " + PlaceText(centre->place.latitude, centre->place.longitude) + ": " +
-      (centre->total ? "total for " : "annular for ") + DurationOf(centre->duration_seconds);
-  if (centre->sun_altitude < kLeastForWidth) return text;
-  return text + ", path " + FormatFixed(centre->width_km, 0, false) + " km wide";
+  const bool has_width = centre->sun_altitude >= kLeastForWidth;
+  return when + ", " + PlaceText(centre->place.latitude, centre->place.longitude) + ": " +
+         (centre->total ? "total for " : "annular for ") + DurationOf(centre->duration_seconds) +
+         (has_width ? ", path " + FormatFixed(centre->width_km, 0, false) + " km wide" : "");
 }
 
 }  // namespace tarnwick

@@ -198,7 +198,8 @@ void frmSky::ShowContacts(const std::vector<TimedLine>& contacts) {
 void frmSky::ShowMap(const std::optional<EclipseRecord>& record, const PlaceReading& reading) {
   lblGreatest.SetCaption(record ? GreatestText(*record, reading) : "");
   lblMapTitle.SetCaption(record ? EclipseTitle(*record, reading)
-                                : "Night at " + lblMomentTime[1].Caption());
+                                : "Night on " + LocalDate(session_.Moment(), reading) + ", " +
+                                      lblMomentTime[1].Caption());
   drwMap.SetDescription("Map of the Earth: " + lblMapTitle.Caption() + ". " +
                         lblGreatest.Caption());
   map_->SetPlace(place.Point(), place.Name());
@@ -248,7 +249,9 @@ void frmSky::cmdSaveMap_Click() {
 void frmSky::FindHere(bool forward) {
   CarryOut(session_, desktop_, kCaption, [this, forward] {
     session_.SetClockRunning(false);
+    Control* const focus = Focus();
     const std::optional<SeenEclipse> found = Search(forward);
+    if (focus != nullptr) focus->SetFocus();  // the search has disabled it meanwhile
     if (session_.IsEnding() || !found) return;
     const std::int32_t type = FindPhaseEvent(found->at.lunation, found->at.phase).eclipse.type;
     TakeFound(session_, desktop_, entry_, {found->instant, type, found->at},
