@@ -25,7 +25,9 @@ class ChosenPlace : public testing::Test {
   }
   std::string FileText() const { return ReadTextFile(file_, 1000).value_or("no file"); }
 
-  std::filesystem::path folder_ = std::filesystem::path(testing::TempDir()) / "tarnwick_place";
+  std::filesystem::path folder_ =
+      std::filesystem::path(testing::TempDir()) /
+      (std::string("tarnwick_") + testing::UnitTest::GetInstance()->current_test_info()->name());
   std::filesystem::path file_ = folder_ / "tnwk-place.usr";
 };
 
@@ -45,6 +47,15 @@ TEST_F(ChosenPlace, ThatCannotBeReadIsToldAndStaysAsItIs) {
       << answers;
   EXPECT_TRUE(answers.ends_with("A longitude runs from -180 to 180\n.\n")) << answers;
   EXPECT_EQ(FileText(), "32.54 N 244.42 E\r\n");
+}
+
+TEST_F(ChosenPlace, ThatCannotBeKeptIsShownAllTheSame) {
+  std::filesystem::create_directory(file_);  // no file can take its place
+  const std::string answers =
+      Answers("choose frmSky.cboPlace Babylon\nget frmSky.txbLatitude\nmessages\n");
+  EXPECT_NE(answers.find("32.54 N\n"), std::string::npos) << answers;
+  EXPECT_NE(answers.find("|Place|Error when attempting to save the place: "), std::string::npos)
+      << answers;
 }
 
 // The window is of use without its tables, and tells of each that is missing, once.
