@@ -10,6 +10,7 @@ namespace {
 constexpr double kLeastRoom = 5;
 constexpr double kLeastBetweenMarks = 75;  // of one curve
 constexpr double kFarFromEdge = 10;
+constexpr double kLeastLength = 20;  // a number would cover what is shorter
 
 double Distance(const GeoPoint& a, const GeoPoint& b) {
   return std::hypot(a.latitude - b.latitude, a.longitude - b.longitude);
@@ -28,6 +29,12 @@ bool NearEdge(const GeoPoint& point) {
          std::abs(point.longitude) > 180 - kFarFromEdge;
 }
 
+// From its first point to the farthest.
+bool IsShort(const std::vector<GeoPoint>& line) {
+  return std::ranges::all_of(
+      line, [&](const GeoPoint& point) { return Distance(line.front(), point) < kLeastLength; });
+}
+
 class Marker {
  public:
   Marker(const std::vector<GeoLines>& curves, const GeoLines& others)
@@ -38,6 +45,7 @@ class Marker {
     double most = kLeastRoom;
     CurveMark best{curve, {}};
     for (const std::vector<GeoPoint>& line : curves_[curve]) {
+      if (IsShort(line)) continue;
       for (std::size_t i = 0; i < line.size(); i += kStep) {
         const double room = RoomAt(curve, line[i], most);
         if (room <= most) continue;

@@ -14,7 +14,7 @@ struct CurveMark {
 };
 
 // Marks each curve once or twice, where it is farthest from the others, from what else is on the
-// map and from its edges; not at all where it is nowhere far enough.
+// map and from its edges; not at all where it is nowhere far enough or too short.
 std::vector<CurveMark> MarkCurves(const std::vector<GeoLines>& curves, const GeoLines& others);
 
 }  // namespace tarnwick
