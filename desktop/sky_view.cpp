@@ -58,7 +58,7 @@ constexpr Qt::Alignment kTimes = Qt::AlignRight | Qt::AlignVCenter;
 constexpr double kMapAspect = 2;
 constexpr double kTitleSize = 1.15;  // of the font
 constexpr double kNoteSize = 0.9;
-constexpr QSize kUsualSize{80, 50};  // in lines of text
+constexpr QSize kUsualSize{84, 50};  // in lines of text
 constexpr int kLeastVerdict = 22;    // its width in lines of text
 constexpr int kMostVerdict = 34;
 constexpr int kVisiblePlaces = 24;

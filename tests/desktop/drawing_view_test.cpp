@@ -10,7 +10,7 @@ namespace {
 
 constexpr QColor kLineColor(200, 0, 0);
 constexpr QColor kAreaColor(0, 0, 200);
-constexpr QColor kInk(0, 120, 0);
+constexpr QColor kInk(0, 200, 0);
 
 enum Layer { kArea, kLine, kText, kMark, kLayerCount };
 
@@ -20,6 +20,13 @@ const std::vector<LayerLook> kLooks{
     {.ink = kInk},
     {.mark = MarkShape::kRing, .ink = kInk},
 };
+
+// Or nearly so, as where the edge of something is painted smoothly.
+bool IsLike(const QColor& seen, const QColor& color) {
+  return qAbs(seen.red() - color.red()) + qAbs(seen.green() - color.green()) +
+             qAbs(seen.blue() - color.blue()) <
+         200;
+}
 
 // A drawing in a window, and how its view paints it.
 struct Drawn {
@@ -44,10 +51,7 @@ struct Drawn {
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
       for (int x = 0; x < image.width(); ++x) {
-        const QColor seen = image.pixelColor(x, y);
-        const int away = qAbs(seen.red() - color.red()) + qAbs(seen.green() - color.green()) +
-                         qAbs(seen.blue() - color.blue());
-        if (away < 200) ++count;
+        if (IsLike(image.pixelColor(x, y), color)) ++count;
       }
     }
     return count;
@@ -72,6 +76,7 @@ class DrawingViewTest : public QObject {
   void drawingKeepsItsShape();
   void textsStayInside_data();
   void textsStayInside();
+  void textsGiveWay();
   void legendTakesItsRows();
 };
 
@@ -146,6 +151,26 @@ void DrawingViewTest::textsStayInside() {
     const int ink = ink_of_text(at);
     QVERIFY2(ink > whole * 2 / 3, qPrintable(QString("%1 of %2").arg(ink).arg(whole)));
   }
+}
+
+// A mark right of another one takes the place of its text, which goes to the left.
+void DrawingViewTest::textsGiveWay() {
+  Drawn drawn;
+  const DrawnMark mark{kMark, {0.5, 0.5}, "Constantinople"};
+  const auto ink_at_the_left = [&](std::vector<DrawnMark> marks) {
+    drawn.drawing.SetContent({.lines = {}, .marks = std::move(marks), .legend = {}});
+    const QRectF place = drawn.view.PlaceOfDrawing();
+    const QImage image = drawn.Painted();
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < place.center().x() - drawn.view.fontMetrics().height(); ++x) {
+        if (IsLike(image.pixelColor(x, y), kInk)) ++count;
+      }
+    }
+    return count;
+  };
+  QCOMPARE(ink_at_the_left({mark}), 0);
+  QVERIFY(ink_at_the_left({mark, {kMark, {0.58, 0.5}, ""}}) > 50);
 }
 
 void DrawingViewTest::legendTakesItsRows() {

@@ -77,6 +77,8 @@ def scene(at, names):
          f"get frmLog.txbText.{side}", f"get frmLog.cmdClose.{side}"],
         [f"set cboHistory {at.randrange(8)}", "click cmdDisplayCalendar"],
         [f"now {clock}", "tick", "click cmdNow"],
+        ["click cmdSky", f"point frmSky.drwMap {at.random():.3f} {at.random():.3f}",
+         f"tick frmSky.tmrMap {at.randint(1, 9)}"],
         ["click cmdHelp", f"set frmHelp.lstPages {target}", "click frmHelp.cmdCredits"],
         ["click cmdLogPreferences", "click frmLogPreferences.cmdClearAll", "set chkLog 1",
          f"click {at.choice(names['chk'])}", f"click {at.choice(names['chk'])}", "click cmdReset"],
