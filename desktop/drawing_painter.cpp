@@ -65,13 +65,24 @@ void DrawingPainter::PaintEdge(const QRectF& place) {
 
 void DrawingPainter::PaintDrawing(const DrawingContent& content, const QRectF& place) {
   place_ = place;
-  taken_.clear();
+  NoteMarks(content);
   painter_.save();
   PaintGround(place);
   painter_.setClipRect(place);
   for (int layer = 0; layer < static_cast<int>(looks_.size()); ++layer) PaintLayer(content, layer);
   painter_.restore();
   PaintEdge(place);
+}
+
+// Beforehand, so that no text lies where a mark comes.
+void DrawingPainter::NoteMarks(const DrawingContent& content) {
+  taken_.clear();
+  const QPointF reach(kMarkRadius * line_, kMarkRadius * line_);
+  for (const DrawnMark& mark : content.marks) {
+    if (mark.layer < 0 || mark.layer >= static_cast<int>(looks_.size())) continue;
+    if (looks_[static_cast<std::size_t>(mark.layer)].mark == MarkShape::kNone) continue;
+    taken_.emplace_back(PlaceOf(mark.at) - reach, PlaceOf(mark.at) + reach);
+  }
 }
 
 void DrawingPainter::PaintLayer(const DrawingContent& content, int layer) {
@@ -107,7 +118,6 @@ void DrawingPainter::PaintLine(const LayerLook& look, const QPolygonF& points) {
 void DrawingPainter::PaintMark(const LayerLook& look, QPointF at) {
   if (look.mark == MarkShape::kNone) return;
   const double radius = kMarkRadius * line_;
-  taken_.push_back(QRectF(at, QSizeF()).adjusted(-radius, -radius, radius, radius));
   const bool star = look.mark == MarkShape::kStar;
   const QPainterPath shape = star ? Star(at, radius) : Disc(at, radius);
   painter_.strokePath(shape, QPen(Look::kPaper, kHalo * line_));

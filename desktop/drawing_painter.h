@@ -38,6 +38,7 @@ class DrawingPainter {
  private:
   void PaintGround(const QRectF& place);
   void PaintEdge(const QRectF& place);
+  void NoteMarks(const DrawingContent& content);
   void PaintLayer(const DrawingContent& content, int layer);
   void PaintLine(const LayerLook& look, const QPolygonF& points);
   void PaintMark(const LayerLook& look, QPointF at);

@@ -66,7 +66,7 @@ struct Look {
   // Maps, as on paper, so that they are read in print too. The shade lies over the paper, several
   // times where several areas overlap.
   static constexpr QColor kPaper{0xfa, 0xf8, 0xf2};
-  static constexpr QColor kMapShade{0x28, 0x3a, 0x66, 0x18};
+  static constexpr QColor kMapShade{0x28, 0x3a, 0x66, 0x10};
   static constexpr QColor kMapNight{0x28, 0x3a, 0x66, 0x24};
   static constexpr QColor kMapEdge{0x6c, 0x78, 0x86};
   static constexpr QColor kGraticule{0xd8, 0xd4, 0xc8};

@@ -58,18 +58,19 @@ constexpr Qt::Alignment kTimes = Qt::AlignRight | Qt::AlignVCenter;
 constexpr double kMapAspect = 2;
 constexpr double kTitleSize = 1.15;  // of the font
 constexpr double kNoteSize = 0.9;
-constexpr QSize kUsualSize{80, 50};  // in lines of text
+constexpr QSize kUsualSize{84, 50};  // in lines of text
 constexpr int kLeastVerdict = 22;    // its width in lines of text
 constexpr int kMostVerdict = 34;
 constexpr int kVisiblePlaces = 24;
 
 constexpr char kLongestPlace[] = "Chang'an (Xi'an)";
-constexpr char kLongestCoordinate[] = "32 32 24.5 N";
+constexpr char kLongestCoordinate[] = "88 88 88.8 W";
 constexpr char kLongestSought[] = "Umbral lunar eclipse";
 constexpr char kLongestEvent[] = "Moon on the meridian";
-constexpr char kLongestTime[] = "18:24 +- 11 min";
+constexpr char kLongestHeading[] = "local mean time";
+constexpr char kLongestTime[] = "08:08 +- 88 min";
 constexpr char kLongestContact[] = "Penumbral eclipse begins";
-constexpr char kLongestAltitude[] = "Moon 41.3 below, azimuth 123.4";
+constexpr char kLongestAltitude[] = "Moon 88.8 below, azimuth 888.8";
 
 // How the layers of the map look, in their order. What lies close together differs in more than its
 // colour.
@@ -95,20 +96,34 @@ std::vector<LayerLook> MapLooks() {
 }
 
 // A text that stays where it is when others are hidden.
-QLabel* MakeText(QWidget* parent, double size = 1) {
+QLabel* MakeText(QWidget* parent) {
   auto* text = new QLabel(parent);
-  text->setFont(Scaled(text->font(), size));
   KeepRoomWhenHidden(*text);
   return text;
 }
 
 // A text that may need several lines; `lines` of them have always room.
-QLabel* MakeLongText(QWidget* parent, int lines, double size = 1) {
-  QLabel* text = MakeText(parent, size);
+QLabel* MakeLongText(QWidget* parent, const QFont& font, int lines) {
+  QLabel* text = MakeText(parent);
+  text->setFont(font);
+  text->setText(QString("X\n").repeated(lines).trimmed());
+  text->setMinimumHeight(text->sizeHint().height());
+  text->clear();
   text->setWordWrap(true);
   text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  text->setMinimumHeight(lines * text->fontMetrics().lineSpacing());
   return text;
+}
+
+QFont TitleFont(const QFont& usual) {
+  QFont font = Scaled(usual, kTitleSize);
+  font.setBold(true);
+  return font;
+}
+
+// Room for a text of a label, which takes a little more than its letters.
+void Reserve(QGridLayout& grid, int column, const char* longest) {
+  const QFontMetrics font = grid.parentWidget()->fontMetrics();
+  grid.setColumnMinimumWidth(column, font.horizontalAdvance(longest) + font.height() / 4);
 }
 
 QGridLayout* MakeGrid(const QWidget& window) {
@@ -154,7 +169,7 @@ QWidget* SkyView::MakePlace() {
   AddCoordinate("La&titude", form_.place.txbLatitude, row);
   AddCoordinate("Lon&gitude", form_.place.txbLongitude, row);
   row.addSpacing(Spacing(*this));
-  QLabel* note = MakeLongText(panel, 2, kNoteSize);
+  QLabel* note = MakeLongText(panel, Scaled(font(), kNoteSize), 2);
   note->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   binder_.Bind(form_.place.lblPlaceNote, *note);
   SetTextColor(*note, Look::kCaption);
@@ -191,6 +206,9 @@ void SkyView::AddPair(ControlArray<Label, 2>& pair, QGridLayout& grid) {
   QLabel* value = AddText(pair[1], Look::kText, grid, row, 1);
   value->setWordWrap(true);
   value->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  QSizePolicy policy = value->sizePolicy();
+  policy.setHorizontalPolicy(QSizePolicy::Ignored);  // the table below says how wide they all are
+  value->setSizePolicy(policy);
   grid.setColumnStretch(1, 1);
 }
 
@@ -214,10 +232,10 @@ QWidget* SkyView::MakeDay() {
   grid->setVerticalSpacing(Spacing(*this) / 2);
   panel->Content().addLayout(grid);
   grid->setColumnStretch(0, 1);
-  grid->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(kLongestEvent));
-  for (int column = 0; column < 2; ++column) {
-    AddText(form_.lblDayHeading[static_cast<std::size_t>(column)], Look::kCaption, *grid, 0,
-            column + 1)
+  Reserve(*grid, 0, kLongestEvent);
+  for (int i = 0; i < 2; ++i) {
+    Reserve(*grid, i + 1, kLongestHeading);
+    AddText(form_.lblDayHeading[static_cast<std::size_t>(i)], Look::kCaption, *grid, 0, i + 1)
         ->setAlignment(kTimes);
   }
   for (std::size_t i = 0; i < kDayRows; ++i) {
@@ -266,7 +284,7 @@ QWidget* SkyView::MakeVerdict(QWidget* panel) {
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(Spacing(*this));
   for (Label* label : {&form_.lblEclipse, &form_.lblEclipseSeen, &form_.lblCertainty}) {
-    QLabel* text = MakeLongText(verdict, 1);
+    QLabel* text = MakeLongText(verdict, font(), 1);
     binder_.Bind(*label, *text);
     rows->addWidget(text);
   }
@@ -278,10 +296,9 @@ QWidget* SkyView::MakeContacts(QWidget* panel) {
   auto* table = new QWidget(panel);
   QGridLayout* grid = MakeGrid(*this);
   table->setLayout(grid);
-  const QFontMetrics font = fontMetrics();
   int column = 0;
   for (const char* longest : {kLongestContact, kLongestTime, kLongestTime, kLongestAltitude}) {
-    grid->setColumnMinimumWidth(column++, font.horizontalAdvance(longest));
+    Reserve(*grid, column++, longest);
   }
   for (int i = 0; i < 2; ++i) {
     AddText(form_.lblContactHeading[static_cast<std::size_t>(i)], Look::kCaption, *grid, 0, i + 1)
@@ -301,16 +318,13 @@ QWidget* SkyView::MakeContacts(QWidget* panel) {
 QWidget* SkyView::MakeMap() {
   auto* panel = new Panel(Panel::Ground::kLight, this);
   binder_.Bind(form_.fraMap, static_cast<QWidget&>(*panel));  // its title is a label of its own
-  QLabel* title = MakeLongText(panel, 1, kTitleSize);
-  QFont bold = title->font();
-  bold.setBold(true);
-  title->setFont(bold);
+  QLabel* title = MakeLongText(panel, TitleFont(font()), 1);
   binder_.Bind(form_.lblMapTitle, *title);
   panel->Content().addWidget(title);
   auto* map = new DrawingView(kMapAspect, MapLooks(), panel);
   binder_.Bind(form_.drwMap, *map);
   panel->Content().addWidget(map, 1);
-  QLabel* greatest = MakeLongText(panel, 2);
+  QLabel* greatest = MakeLongText(panel, font(), 2);
   binder_.Bind(form_.lblGreatest, *greatest);
   panel->Content().addWidget(greatest);
   return panel;

@@ -8,6 +8,8 @@
 namespace tarnwick {
 namespace {
 
+constexpr int kMostPhases = 7;  // of a lunar eclipse, from P1 to P4
+
 QColor ToQt(Color color) { return {color.red, color.green, color.blue}; }
 
 // As the Web Content Accessibility Guidelines 2.1 define them.
@@ -22,6 +24,17 @@ double Luminance(const QColor& color) {
 double Contrast(const QColor& one, const QColor& other) {
   const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
   return (light + 0.05) / (dark + 0.05);
+}
+
+// What is seen where a shade lies over a ground, so many times.
+QColor Shaded(const QColor& ground, const QColor& shade, int times) {
+  const auto mixed = [&](double under, double over) {
+    const double left = std::pow(1 - shade.alphaF(), times);
+    return under * left + over * (1 - left);
+  };
+  return QColor::fromRgbF(static_cast<float>(mixed(ground.redF(), shade.redF())),
+                          static_cast<float>(mixed(ground.greenF(), shade.greenF())),
+                          static_cast<float>(mixed(ground.blueF(), shade.blueF())));
 }
 
 struct Seen {
@@ -71,12 +84,18 @@ void ContrastTest::textsAreLegible() {
            {Look::kButton, Look::kButtonHover, Look::kButtonPressed}},
           {"accent", Look::kButtonText, {Look::kAccent, Look::kAccentHover, Look::kAccentPressed}},
           {"event", Look::kEvent, {Look::kSky}},
+          {"magnitude on a map", Look::kMagnitude, {Look::kPaper}},
+          {"greatest eclipse on a map", Look::kPath, {Look::kPaper}},
+          {"place on a map", Look::kPlace, {Look::kPaper}},
           {"tool tip", Look::kToolTipText, {Look::kToolTip}},
       },
       4.5);
 }
 
 void ContrastTest::edgesAndMarksAreSeen() {
+  const QColor night = Shaded(Look::kPaper, Look::kMapNight, 1);
+  // Where it is down at every phase of its eclipse.
+  const QColor moon_down = Shaded(Look::kPaper, Look::kMapShade, kMostPhases);
   VerifyContrast(
       {
           {"edge of a field", Look::kFieldEdge, {Look::kField, Look::kPanel, Look::kWindow}},
@@ -88,6 +107,13 @@ void ContrastTest::edgesAndMarksAreSeen() {
           {"bar of the current calendar", Look::kCurrentBar, {Look::kPanel, Look::kCurrentRow}},
           {"mark beside Now", Look::kCheckMark, {Look::kPanel}},
           {"ring", Look::kFocusRing, {Look::kWindow, Look::kPanel, Look::kCurrentRow, Look::kSky}},
+          {"coast", Look::kCoast, {Look::kPaper, night, moon_down}},
+          {"magnitude", Look::kMagnitude, {Look::kPaper, night}},
+          {"limit of what is seen", Look::kSeen, {Look::kPaper, moon_down}},
+          {"path", Look::kPath, {Look::kPaper, night}},
+          {"path if delta T is less", Look::kPathIfLess, {Look::kPaper, night}},
+          {"path if delta T is more", Look::kPathIfMore, {Look::kPaper, night}},
+          {"edge of a map", Look::kMapEdge, {Look::kPaper, Look::kLightPanel}},
           {"ring on the pale ground", Look::kLightFocusRing, {Look::kLightPanel}},
       },
       3);
