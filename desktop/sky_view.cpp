@@ -56,21 +56,22 @@ constexpr Wording kWordings[] = {
 constexpr Qt::Alignment kTimes = Qt::AlignRight | Qt::AlignVCenter;
 
 constexpr double kMapAspect = 2;
-constexpr double kTitleSize = 1.15;  // of the font
+constexpr double kTitleSize = 1.1;  // of the font
 constexpr double kNoteSize = 0.9;
 constexpr QSize kUsualSize{84, 50};  // in lines of text
 constexpr int kLeastVerdict = 22;    // its width in lines of text
 constexpr int kMostVerdict = 34;
 constexpr int kVisiblePlaces = 24;
+constexpr int kCrescentLines = 4;
 
-constexpr char kLongestPlace[] = "Chang'an (Xi'an)";
-constexpr char kLongestCoordinate[] = "88 88 88.8 W";
-constexpr char kLongestSought[] = "Umbral lunar eclipse";
-constexpr char kLongestEvent[] = "Moon on the meridian";
+constexpr char kLongestPlace[] = "Cambridge, Massachusetts";
+constexpr char kLongestCoordinate[] = "-88.88888";
+constexpr char kLongestSought[] = "umbral lunar eclipse";
+constexpr char kLongestEvent[] = "Moon highest";
 constexpr char kLongestHeading[] = "local mean time";
 constexpr char kLongestTime[] = "08:08 +- 88 min";
-constexpr char kLongestContact[] = "Penumbral eclipse begins";
-constexpr char kLongestAltitude[] = "Moon 88.8 below, azimuth 888.8";
+constexpr char kLongestContact[] = "penumbral phase begins";
+constexpr char kLongestAltitude[] = "on the horizon, azimuth 888.8\u00b0";
 
 // How the layers of the map look, in their order. What lies close together differs in more than its
 // colour.
@@ -200,12 +201,13 @@ QLabel* SkyView::AddText(Label& label, const QColor& color, QGridLayout& grid, i
   return text;
 }
 
-void SkyView::AddPair(ControlArray<Label, 2>& pair, QGridLayout& grid) {
+void SkyView::AddPair(ControlArray<Label, 2>& pair, int lines, QGridLayout& grid) {
   const int row = grid.rowCount();
   AddText(pair[0], Look::kCaption, grid, row, 0)->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  QLabel* value = AddText(pair[1], Look::kText, grid, row, 1);
-  value->setWordWrap(true);
-  value->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  QLabel* value = MakeLongText(grid.parentWidget(), font(), lines);
+  binder_.Bind(pair[1], *value);
+  SetTextColor(*value, Look::kText);
+  grid.addWidget(value, row, 1);
   QSizePolicy policy = value->sizePolicy();
   policy.setHorizontalPolicy(QSizePolicy::Ignored);  // the table below says how wide they all are
   value->setSizePolicy(policy);
@@ -219,9 +221,9 @@ QWidget* SkyView::MakeMoment() {
   QGridLayout* grid = MakeGrid(*this);
   grid->setVerticalSpacing(Spacing(*this) / 2);
   panel->Content().addLayout(grid);
-  AddPair(form_.lblMomentTime, *grid);
-  AddPair(form_.lblSun, *grid);
-  AddPair(form_.lblMoon, *grid);
+  AddPair(form_.lblMomentTime, 2, *grid);
+  AddPair(form_.lblSun, 1, *grid);
+  AddPair(form_.lblMoon, 1, *grid);
   return panel;
 }
 
@@ -252,11 +254,9 @@ QWidget* SkyView::MakeLunation() {
   binder_.Bind(form_.fraLunation, *panel);
   QGridLayout* grid = MakeGrid(*this);
   panel->Content().addLayout(grid);
-  for (auto* crescent : {&form_.lblFirstCrescent, &form_.lblLastCrescent})
-    AddPair(*crescent, *grid);
   grid->setVerticalSpacing(Spacing(*this));
-  for (int row = 1; row < grid->rowCount(); ++row) {
-    grid->setRowMinimumHeight(row, 2 * fontMetrics().lineSpacing());
+  for (auto* crescent : {&form_.lblFirstCrescent, &form_.lblLastCrescent}) {
+    AddPair(*crescent, kCrescentLines, *grid);
   }
   panel->Content().addStretch();
   return panel;

@@ -34,7 +34,8 @@ class SkyView final : public QWidget {
 
   // Texts for the next row of a grid.
   QLabel* AddText(Label& label, const QColor& color, QGridLayout& grid, int row, int column);
-  void AddPair(ControlArray<Label, 2>& pair, QGridLayout& grid);
+  // A caption and its value, which has always room for so many lines.
+  void AddPair(ControlArray<Label, 2>& pair, int lines, QGridLayout& grid);
 
   frmSky& form_;
   Binder binder_;

@@ -16,6 +16,10 @@ std::string DateOf(DayNumber day, Calendar calendar) {
   return ShortDateText(IsDayCount(calendar) ? kCE : calendar, NoonOf(day, 0), 0);
 }
 
+std::string MainText(const DayAndTime& main, const std::string& time, const PlaceReading& reading) {
+  return DateOf(main.day_number, reading.calendar) + " " + time + " " + MainTimeName(reading);
+}
+
 }  // namespace
 
 LocalCJD LocalMeanTime(UniversalTime instant, const GeoPoint& place) {
@@ -45,8 +49,12 @@ PlaceTimes PlaceTimesOf(UniversalTime instant, const PlaceReading& reading, bool
   const std::string main_time = TimeOfDayText(main.fraction, seconds);
   return {local_time + suffix, main_time + suffix,
           DateOf(local.day_number, reading.calendar) + " " + local_time + " " + kLocalMeanTime +
-              "\n" + DateOf(main.day_number, reading.calendar) + " " + main_time + " " +
-              MainTimeName(reading)};
+              "\n" + MainText(main, main_time, reading)};
+}
+
+std::string MainDateAndTime(UniversalTime instant, const PlaceReading& reading) {
+  const DayAndTime main = SplitCJD(AJDToCJD(instant, reading.offset_minutes));
+  return MainText(main, TimeOfDayText(main.fraction, false), reading);
 }
 
 }  // namespace tarnwick

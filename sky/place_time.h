@@ -36,6 +36,9 @@ UniversalTime FromLocalMeanTime(LocalCJD local, const GeoPoint& place);
 // The day of local mean time that contains the instant, as a date: "2024-03-05 CE".
 std::string LocalDate(UniversalTime instant, const PlaceReading& reading);
 
+// As the main window reads it: "2024-03-05 CE 14:30 GMT + 1:00".
+std::string MainDateAndTime(UniversalTime instant, const PlaceReading& reading);
+
 // "local mean time", and the other heading: "GMT + 1:00".
 inline constexpr char kLocalMeanTime[] = "local mean time";
 std::string MainTimeName(const PlaceReading& reading);

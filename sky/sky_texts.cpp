@@ -132,7 +132,7 @@ MomentTexts MomentTextsOf(UniversalTime moment, const PlaceReading& reading) {
   const Observer observer = ObserverAt(reading.place);
   const EclipseFromPlace sky(course, observer);
   const PlaceTimes times = PlaceTimesOf(moment, reading, true, kNoError);
-  return {times.local + " " + kLocalMeanTime + ", " + times.main + " " + MainTimeName(reading),
+  return {times.local + " " + kLocalMeanTime + "\n" + times.main + " " + MainTimeName(reading),
           DirectionText(sky.SunAt(0)), DirectionText(sky.MoonAt(0))};
 }
 

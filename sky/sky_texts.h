@@ -17,7 +17,7 @@ namespace tarnwick {
 std::string DirectionText(const BodyAtInstant& body);
 
 struct MomentTexts {
-  std::string time;  // by local mean time and as the main window reads it, to the second
+  std::string time;  // by local mean time and as the main window reads it, a line each
   std::string sun;   // where they stand
   std::string moon;
 };

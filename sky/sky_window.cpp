@@ -198,8 +198,7 @@ void frmSky::ShowContacts(const std::vector<TimedLine>& contacts) {
 void frmSky::ShowMap(const std::optional<EclipseRecord>& record, const PlaceReading& reading) {
   lblGreatest.SetCaption(record ? GreatestText(*record, reading) : "");
   lblMapTitle.SetCaption(record ? EclipseTitle(*record, reading)
-                                : "Night on " + LocalDate(session_.Moment(), reading) + ", " +
-                                      lblMomentTime[1].Caption());
+                                : "Night on " + MainDateAndTime(session_.Moment(), reading));
   drwMap.SetDescription("Map of the Earth: " + lblMapTitle.Caption() + ". " +
                         lblGreatest.Caption());
   map_->SetPlace(place.Point(), place.Name());

@@ -10,36 +10,39 @@ inline void FillWithLongestTexts(frmSky& form) {
   const auto fill = [](auto& labels, const char* text) {
     for (Label& label : labels) label.SetCaption(text);
   };
-  form.lblPlaceNote.SetCaption("rival of Rome; Agathocles' eclipse of 310 BCE on the way there");
-  form.lblMomentTime[0].SetCaption("Time");
-  form.lblMomentTime[1].SetCaption("23:59:59 local mean time");
-  form.lblSun[0].SetCaption("Sun");
-  form.lblSun[1].SetCaption("12.5 below the horizon, azimuth 165.4");
-  form.lblMoon[0].SetCaption("Moon");
-  form.lblMoon[1].SetCaption("12.5 below the horizon, azimuth 165.4");
+  form.place.lblPlaceNote.SetCaption(
+      "rival of Rome; Agathocles' eclipse of 310 BCE on the way there");
+  form.lblMomentTime[1].SetCaption("23:59:59 local mean time\n23:59:59 GMT + 12:00");
+  form.lblSun[1].SetCaption("on the horizon, azimuth 165.4\u00b0");
+  form.lblMoon[1].SetCaption("on the horizon, azimuth 165.4\u00b0");
   fill(form.lblDayHeading, "local mean time");
-  fill(form.lblDayEvent, "Moon on the meridian");
-  fill(form.lblDayLocalTime, "23:59:59");
-  fill(form.lblDayMainTime, "23:59:59");
-  form.lblFirstCrescent[0].SetCaption("First crescent");
+  fill(form.lblDayEvent, "Moon highest");
+  fill(form.lblDayLocalTime, "00:03, 23:58");
+  fill(form.lblDayMainTime, "00:03, 23:58");
   form.lblFirstCrescent[1].SetCaption(
-      "evening of -2026-11-11 CE, visible under perfect conditions (B)");
-  form.lblLastCrescent[0].SetCaption("Last crescent");
+      "evening of -2026-11-11 CE, optical aid may be needed to find it (C); "
+      "evening of -2026-11-12 CE, easily visible (A)");
   form.lblLastCrescent[1].SetCaption(
-      "morning of -2026-12-08 CE, visible under perfect conditions (B)");
-  form.lblEclipse.SetCaption("Non-central annular solar eclipse of -584-05-28 CE (585 BCE)");
+      "morning of -2026-12-08 CE, optical aid may be needed to find it (C); "
+      "morning of -2026-12-07 CE, easily visible (A)");
+  form.lblEclipse.SetCaption(
+      "Non-central annular solar eclipse of -584-05-28 JC (-584, 585 BCE), saros 57");
   form.lblEclipseSeen.SetCaption(
-      "seen here as partial, magnitude 0.934, obscuration 92.1 %, greatest as the Sun rises");
+      "Seen here as partial, magnitude 0.461 at sunrise; annular, magnitude 0.952 below the "
+      "horizon");
   form.lblCertainty.SetCaption(
-      "annular; partial if delta T is 11 min less; not seen if it is 11 min more");
+      "The clock is sure to +- 11 min. Here: annular; partial if delta T is 11 min less; not seen "
+      "if it is 11 min more");
   fill(form.lblContactHeading, "local mean time");
-  fill(form.lblContact, "Penumbral eclipse begins");
+  fill(form.lblContact, "penumbral phase begins");
   fill(form.lblContactLocalTime, "18:24 +- 11 min");
   fill(form.lblContactMainTime, "18:24 +- 11 min");
-  fill(form.lblContactAltitude, "Moon 12.5 below, azimuth 123.4");
-  form.lblMapTitle.SetCaption("Non-central annular solar eclipse of -584-05-28 CE (585 BCE)");
+  fill(form.lblContactAltitude, "on the horizon, azimuth 123.4\u00b0");
+  form.lblMapTitle.SetCaption(
+      "Non-central annular solar eclipse of -584-05-28 JC (-584, 585 BCE), saros 57");
   form.lblGreatest.SetCaption(
-      "Greatest eclipse at 45.07 N 24.29 E, 11:03:07: total for 2 min 23 s, path 112 km wide");
+      "Greatest eclipse at 11:03 +- 11 min GMT + 12:00, 45.07 N 124.29 E: total for 2 min 23 s, "
+      "path 112 km wide");
   form.lblSearching.SetVisible(true);
 }
 
