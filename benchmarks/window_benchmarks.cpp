@@ -1,6 +1,7 @@
 // How long the main window takes to show a moment, painting included, as a step of a repeated move
 // does. It is painted off the screen, at the size given, in units of the screen.
 #include <QApplication>
+#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstdlib>
 #include <string>
@@ -8,6 +9,7 @@
 #include "desktop/accessible.h"
 #include "desktop/look.h"
 #include "desktop/main_window_view.h"
+#include "desktop/sky_view.h"
 #include "tools/driver/driver_desktop.h"
 
 namespace tarnwick {
@@ -41,6 +43,36 @@ BENCHMARK_CAPTURE(PaintedStep, Crescent, "2024-03-14 CE")
     ->Args({1137, 742})
     ->Args({1900, 1000})
     ->Unit(benchmark::kMillisecond);
+
+// The same with the sky of a place beside it: a day on and back under the same eclipse, or a
+// century on and back from one total eclipse to another month's sky, whose map is made anew.
+void PaintedSky(benchmark::State& state, const std::string& step) {
+  HandlerGate gate([](const std::string&) { std::abort(); });
+  DriverDesktop desktop([](YieldMode) {}, QCoreApplication::applicationDirPath().toStdString());
+  Screen screen;
+  frmMain form(desktop, screen);
+  const MainWindowView main_view(form, gate);
+  frmSky& sky = form.sky.sky_window;
+  const SkyView view(sky, gate);
+  form.Load();
+  form.entry.txbDate.SetText("1999-08-11 CE");
+  form.entry.cmdCompute.Click();
+  form.sky.cmdSky.Click();
+  const auto& steps = form.move.cboMoveStep.Items();
+  const auto chosen = std::ranges::find(steps, step, &ComboBox::Item::text);
+  form.move.cboMoveStep.SetListIndex(static_cast<int>(chosen - steps.begin()));
+  int direction = 0;
+  for ([[maybe_unused]] auto _ : state) {
+    form.move.optMoveDirection[direction].Click();
+    form.move.cmdMove.Click();
+    do {
+      QCoreApplication::processEvents();
+    } while (sky.tmrMap.Enabled());
+    direction = 1 - direction;
+  }
+}
+BENCHMARK_CAPTURE(PaintedSky, Day, "1 day")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(PaintedSky, AnotherEclipse, "1 ARC year")->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tarnwick

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "controls/control.h"
+#include "desktop/vector_registers.h"
 
 namespace tarnwick {
 
@@ -24,6 +25,7 @@ class HandlerGate {
   template <class Action>
   void Run(const Action& action) {
     if (!open_) return;
+    ClearVectorRegisters();
     try {
       action();
     } catch (const std::exception& fault) {

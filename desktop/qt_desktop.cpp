@@ -21,6 +21,7 @@
 #include "desktop/platform.h"
 #include "desktop/program_folder.h"
 #include "desktop/screen_fit.h"
+#include "desktop/vector_registers.h"
 #include "engines/time_units.h"
 #include "state/state_file.h"
 
@@ -204,6 +205,7 @@ void QtDesktop::OpenWebPage(const std::string& address) { platform::OpenWebPage(
 void QtDesktop::Yield(YieldMode mode) {
   if (!gate_.IsOpen()) return;
   QCoreApplication::processEvents(FlagsOf(mode));
+  ClearVectorRegisters();
 }
 
 void QtDesktop::EndProgram() {
