@@ -38,9 +38,9 @@ get_source() {
 # Parts of Qt that the program does not use. Without OpenGL the raster engine paints, which runs
 # everywhere; DirectWrite needs direct2d, and only its extra platform plugin is left out.
 left_out=(pkg_config system_zlib system_png system_freetype system_harfbuzz system_pcre2 network sql
-  dbus xml concurrent printsupport opengl vulkan icu glib zstd jpeg fontconfig tabletevent tuiotouch
-  direct2d1_1 qmake windeployqt androiddeployqt sessionmanager textodfwriter textmarkdownreader
-  textmarkdownwriter pdf cpp_winrt etw)
+  dbus xml concurrent opengl vulkan icu glib zstd jpeg fontconfig tabletevent tuiotouch direct2d1_1
+  qmake windeployqt androiddeployqt sessionmanager textodfwriter textmarkdownreader
+  textmarkdownwriter cpp_winrt etw)
 
 # build_qt WORK: below WORK/qt. Qt writes prefix and source paths into programs: neither is of this
 # machine.
