@@ -25,7 +25,8 @@ frmMain::frmMain(Desktop& desktop, Screen& screen)
       history(*this, session_, desktop, entry, time),
       log(*this, screen, session_, desktop, dates, moon, notice),
       calendar(*this, screen, session_, desktop, entry, pictures_, notice),
-      sky(*this, screen, session_, desktop, entry, notice) {
+      sky(*this, screen, session_, desktop, entry, notice),
+      lists(*this, screen, session_, desktop, entry, sky.sky_window.place, notice) {
   picCheck.SetVisible(false);
   picCheck.SetToolTipText("The clock is running: the moment follows it");
   cmdNow.SetToolTipText("Shows the present moment and lets it follow the clock");
@@ -71,6 +72,7 @@ void frmMain::AddShortcuts(const Screen& screen) {
   AddShortcut("Alt+Left", history.cmdBack);
   AddShortcut("Alt+Right", history.cmdForward);
   AddShortcut("Ctrl+K", sky.cmdSky);
+  AddShortcut("Ctrl+T", lists.cmdLists);
   AddShortcut("Ctrl+L", calendar.cmdDisplayCalendar);
   AddShortcut("Ctrl+P", log.cmdLogPreferences);
   AddShortcut("Ctrl+S", cmdSaveState);

@@ -14,6 +14,7 @@
 #include "controls/picture_files.h"
 #include "help/help_window.h"
 #include "help/notice.h"
+#include "lists/lists_section.h"
 #include "log/log_section.h"
 #include "lunation_view/calendar_section.h"
 #include "moment/dates_section.h"
@@ -53,6 +54,7 @@ class frmMain final : public Form {
   LogSection log;
   CalendarSection calendar;
   SkySection sky;
+  ListsSection lists;
 
   Button cmdNow{entry.fraConvert, "cmdNow", "Now"};
   Picture picCheck{entry.fraConvert, "picCheck"};  // the moment shown is the present one

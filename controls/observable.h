@@ -10,7 +10,9 @@ namespace tarnwick {
 // What of a control or form has changed.
 enum class Property {
   kBounds,
+  kCells,
   kCaption,
+  kColumns,
   kDescription,
   kDrawing,
   kEnabled,
@@ -20,8 +22,11 @@ enum class Property {
   kItems,
   kListIndex,
   kMinimised,
+  kOrder,
   kPicture,
+  kRows,
   kSelected,
+  kSelectedRow,
   kSelection,
   kText,
   kToolTipText,

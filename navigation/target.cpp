@@ -123,17 +123,32 @@ bool AcceptsEclipse(int target, std::int32_t type) {
   return eclipse && (AcceptedTypes(target) >> type & 1) != 0;
 }
 
+bool AcceptsPhase(int target, std::int16_t phase) {
+  return (AcceptedTypes(target) & (phase == kNewMoon ? kSolarTypes : kLunarTypes)) != 0;
+}
+
 std::optional<FoundEclipse> FindEclipse(int target, bool forward, const PhaseNumber& at,
                                         const std::function<bool(const FoundEclipse&)>& wanted,
                                         const KeepSearching& keep_searching) {
-  const EclipseTypes types = AcceptedTypes(target);
   FoundEclipse found{FirstSyzygy(at, forward)};
   for (;; found.at = NeighbourSyzygy(found.at, forward)) {
-    if ((types & (found.at.phase == kNewMoon ? kSolarTypes : kLunarTypes)) == 0) continue;
+    if (!AcceptsPhase(target, found.at.phase)) continue;
     if (!keep_searching()) return std::nullopt;
     found.record = FindPhaseEvent(found.at.lunation, found.at.phase).eclipse;
     if (AcceptsEclipse(target, found.record.type) && wanted(found)) return found;
   }
+}
+
+MonthFirsts::MonthFirsts(DayNumber day_number, bool forward)
+    : date_(FirstSDMonth(day_number, forward)), forward_(forward), valid_(SDDateToJDN(date_)) {}
+
+std::optional<DayNumber> MonthFirsts::Day() const {
+  return valid_ ? std::optional(DayNumber(date_.jdn)) : std::nullopt;
+}
+
+void MonthFirsts::Step() {
+  StepSDMonth(date_, forward_);
+  valid_ = SDDateToJDN(date_);
 }
 
 bool IsCoincidenceOf1sts(DayNumber day_number) {
@@ -143,11 +158,9 @@ bool IsCoincidenceOf1sts(DayNumber day_number) {
 
 std::optional<DayNumber> FindCoincidence(DayNumber day_number, bool forward,
                                          const KeepSearching& keep_searching) {
-  SDDate date = FirstSDMonth(day_number, forward);
-  while (SDDateToJDN(date)) {
+  for (MonthFirsts first(day_number, forward); first.Day(); first.Step()) {
     if (!keep_searching()) return std::nullopt;
-    if (IsCoincidenceOf1sts(DayNumber(date.jdn))) return DayNumber(date.jdn);
-    StepSDMonth(date, forward);
+    if (IsCoincidenceOf1sts(*first.Day())) return first.Day();
   }
   return std::nullopt;
 }

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include "calendars/solilunar.h"
 #include "engines/instant.h"
 #include "engines/phase_engine.h"
 #include "moon/syzyg.h"
@@ -20,6 +21,7 @@ enum Target : int {
   kFirstBlankTarget = 5,
   kAnyEclipseTarget = 6,
   kLunarEclipseTarget = 7,
+  kUmbralLunarTarget = 9,
   kSolarEclipseTarget = 10,
   kTotalSolarTarget = 11,
   kSameSarosTarget = 13,
@@ -47,6 +49,9 @@ PhaseNumber FindPhase(int target, bool forward, const MomentPhase& from);
 // Whether a target from 6 to 12 accepts an eclipse of that type.
 bool AcceptsEclipse(int target, std::int32_t type);
 
+// Whether it accepts any eclipse at all at that phase, a new or a full moon.
+bool AcceptsPhase(int target, std::int16_t phase);
+
 struct FoundEclipse {
   PhaseNumber at;
   EclipseRecord record{};
@@ -60,6 +65,22 @@ using KeepSearching = std::function<bool()>;
 std::optional<FoundEclipse> FindEclipse(int target, bool forward, const PhaseNumber& at,
                                         const std::function<bool(const FoundEclipse&)>& wanted,
                                         const KeepSearching& keep_searching);
+
+// The first days of the SD months, one after another.
+class MonthFirsts {
+ public:
+  // From the first one before or after a day; it is never that day itself.
+  MonthFirsts(DayNumber day_number, bool forward);
+
+  // Nothing where the years do not fit 32 bits any more.
+  std::optional<DayNumber> Day() const;
+  void Step();
+
+ private:
+  SDDate date_;
+  bool forward_;
+  bool valid_;
+};
 
 // Whether a day is the first of its month in ARC, LLT and KSG.
 bool IsCoincidenceOf1sts(DayNumber day_number);

@@ -7,8 +7,7 @@
 #include "engines/time_units.h"
 #include "moon/lunation_range.h"
 #include "moon/phase_cache.h"
-#include "sky/lunar_at_place.h"
-#include "sky/solar_at_place.h"
+#include "sky/eclipse_course.h"
 
 namespace tarnwick {
 namespace {
@@ -21,27 +20,21 @@ bool IsAmong(SoughtEclipse sought, std::int16_t phase) {
   return (sought == SoughtEclipse::kUmbralLunar) == (phase == kFullMoon);
 }
 
-std::optional<UniversalTime> WhenSolarIsSeen(SoughtEclipse sought, const EclipseRecord& record,
-                                             const Observer& observer) {
+std::optional<EclipseHere> SeeSolarEclipse(SoughtEclipse sought, const EclipseRecord& record,
+                                           const Observer& observer) {
   const SolarAtPlace eclipse = SolarEclipseAtPlace(CourseOfEclipse(record), observer);
   const SolarKind least =
       sought == SoughtEclipse::kTotalSolar ? SolarKind::kTotal : SolarKind::kPartial;
-  return eclipse.kind_seen >= least ? std::optional(eclipse.seen_at) : std::nullopt;
+  if (eclipse.kind_seen < least) return std::nullopt;
+  return EclipseHere{eclipse, std::nullopt};
 }
 
-std::optional<UniversalTime> WhenLunarIsSeen(SoughtEclipse sought, const EclipseRecord& record,
-                                             const Observer& observer) {
+std::optional<EclipseHere> SeeLunarEclipse(SoughtEclipse sought, const EclipseRecord& record,
+                                           const Observer& observer) {
   const LunarAtPlace eclipse = LunarEclipseAtPlace(record, CourseOfEclipse(record), observer);
   const EclipseType least = sought == SoughtEclipse::kUmbralLunar ? kPartialLunar : kPenumbralLunar;
-  return eclipse.type_seen >= least ? std::optional(eclipse.seen_at) : std::nullopt;
-}
-
-std::optional<UniversalTime> WhenSeen(SoughtEclipse sought, const PhaseNumber& at,
-                                      const Observer& observer) {
-  const EclipseRecord record = FindPhaseEvent(at.lunation, at.phase).eclipse;
-  if (record.type == kNotEclipsed) return std::nullopt;
-  return at.phase == kNewMoon ? WhenSolarIsSeen(sought, record, observer)
-                              : WhenLunarIsSeen(sought, record, observer);
+  if (eclipse.type_seen < least) return std::nullopt;
+  return EclipseHere{std::nullopt, eclipse};
 }
 
 // New and full moons are counted in turn, the new moon of lunation 0 as 0.
@@ -62,6 +55,15 @@ std::int64_t FirstToLookAt(UniversalTime moment, bool forward) {
 
 }  // namespace
 
+std::optional<EclipseHere> SeeEclipse(SoughtEclipse sought, const EclipseRecord& record,
+                                      const Observer& observer) {
+  if (record.type == kNotEclipsed) return std::nullopt;
+  const bool lunar = IsLunarEclipse(record.type);
+  if (!IsAmong(sought, lunar ? kFullMoon : kNewMoon)) return std::nullopt;
+  return lunar ? SeeLunarEclipse(sought, record, observer)
+               : SeeSolarEclipse(sought, record, observer);
+}
+
 std::optional<SeenEclipse> FindSeenEclipse(SoughtEclipse sought, const Observer& observer,
                                            UniversalTime moment, bool forward,
                                            const std::function<bool()>& keep_searching) {
@@ -71,8 +73,11 @@ std::optional<SeenEclipse> FindSeenEclipse(SoughtEclipse sought, const Observer&
     const PhaseNumber at = SyzygyOf(number);
     if (!IsAmong(sought, at.phase)) continue;
     if (!keep_searching()) return std::nullopt;
-    const std::optional<UniversalTime> seen = WhenSeen(sought, at, observer);
-    if (seen && step * (*seen - moment) > kSameMoment) return SeenEclipse{at, *seen};
+    const EclipseRecord record = FindPhaseEvent(at.lunation, at.phase).eclipse;
+    const std::optional<EclipseHere> here = SeeEclipse(sought, record, observer);
+    if (here && step * (here->Instant() - moment) > kSameMoment) {
+      return SeenEclipse{at, here->Instant()};
+    }
   }
   return std::nullopt;
 }

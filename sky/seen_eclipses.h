@@ -6,7 +6,10 @@
 
 #include "engines/ephemeris/observer.h"
 #include "engines/instant.h"
+#include "engines/phase_engine.h"
 #include "moon/syzyg.h"
+#include "sky/lunar_at_place.h"
+#include "sky/solar_at_place.h"
 
 namespace tarnwick {
 
@@ -14,11 +17,22 @@ namespace tarnwick {
 // totality, of an umbral one the umbra, above the horizon.
 enum class SoughtEclipse { kAny, kSolar, kTotalSolar, kUmbralLunar };
 
-struct SeenEclipse {
-  PhaseNumber at;
+// What a place sees of an eclipse: of the Sun, or else of the Moon.
+struct EclipseHere {
+  std::optional<SolarAtPlace> solar;
+  std::optional<LunarAtPlace> lunar;
+
   // When the most of it is seen: at its maximum there, or where that is hidden when Sun or Moon
   // rises or sets.
-  UniversalTime instant;
+  UniversalTime Instant() const { return solar ? solar->seen_at : lunar->seen_at; }
+};
+// Nothing if the eclipse of that record is not seen there as what it is sought for.
+std::optional<EclipseHere> SeeEclipse(SoughtEclipse sought, const EclipseRecord& record,
+                                      const Observer& observer);
+
+struct SeenEclipse {
+  PhaseNumber at;
+  UniversalTime instant;  // when the most of it is seen
 };
 
 // The eclipse of which most is seen next after a moment or last before it, by more than a second,
