@@ -51,6 +51,7 @@ void frmMain::WireSession() {
     dates.ShowCalendar();
     entry.ShowHint();
     sky.sky_window.Refresh();
+    lists.lists_window.Refresh();
   };
   hooks.eclipse_changed = [this] {
     search.ShowEclipse();
@@ -123,6 +124,7 @@ void frmMain::UpdateAvailability() {
   history.UpdateAvailability();
   log.UpdateAvailability();
   sky.sky_window.UpdateAvailability();
+  lists.lists_window.UpdateAvailability();
   SetEnabled({&cmdReset, &cmdHelp, &cmdQuit}, idle);
   cmdSaveState.SetEnabled(idle && !blnSaved);
 }
@@ -137,6 +139,7 @@ std::string frmMain::ShowMoment() {
   moon.Show();
   calendar.calendar_window.Refresh();
   sky.sky_window.Refresh();
+  lists.lists_window.Refresh();
   return summary;
 }
 

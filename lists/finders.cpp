@@ -8,10 +8,6 @@
 namespace tarnwick {
 namespace {
 
-// Delta T and the course of an eclipse may take an instant into the next lunation.
-std::int32_t FirstLunationOf(const Period& period) { return LunationOf(period.begin) - 1; }
-std::int32_t LastLunationOf(const Period& period) { return LunationOf(period.end) + 1; }
-
 void StepPhase(PhaseNumber& at, int step) {
   at.phase = static_cast<std::int16_t>(at.phase + step);
   if (at.phase < kPhaseCount) return;
@@ -36,19 +32,24 @@ int TargetOf(SoughtEclipse sought) {
 
 }  // namespace
 
-double PartBefore(const Period& period, UniversalTime moment) {
-  return std::clamp((moment - period.begin) / (period.end - period.begin), 0.0, 1.0);
+// Delta T and the course of an eclipse may take an instant into the next lunation.
+LunationRange::LunationRange(const Period& period)
+    : first_(LunationOf(period.begin) - 1), last_(LunationOf(period.end) + 1) {}
+
+double LunationRange::PartBefore(std::int32_t lunation) const {
+  const double part = static_cast<double>(lunation - first_) / (last_ - first_ + 1);
+  return std::clamp(part, 0.0, 1.0);
 }
 
 PhaseFinder::PhaseFinder(const Period& period, std::optional<std::int16_t> phase)
     : period_(period),
+      range_(period),
       step_(phase ? kPhaseCount : 1),
-      next_{FirstLunationOf(period), phase.value_or(kNewMoon)},
-      last_lunation_(LastLunationOf(period)) {}
+      next_{range_.First(), phase.value_or(kNewMoon)} {}
 
 bool PhaseFinder::Next() {
   found_.reset();
-  if (next_.lunation > last_lunation_) return false;
+  if (next_.lunation > range_.Last()) return false;
   const PhaseEvent event = FindPhaseEvent(next_.lunation, next_.phase);
   if (Contains(period_, event.ut)) found_ = FoundPhase{next_, event};
   StepPhase(next_, step_);
@@ -56,15 +57,12 @@ bool PhaseFinder::Next() {
 }
 
 EclipseFinder::EclipseFinder(const Period& period, int target)
-    : period_(period),
-      target_(target),
-      next_{FirstLunationOf(period), kNewMoon},
-      last_lunation_(LastLunationOf(period)) {}
+    : period_(period), range_(period), target_(target), next_{range_.First(), kNewMoon} {}
 
 bool EclipseFinder::Next() {
   constexpr int kToNextSyzygy = kFullMoon - kNewMoon;
   found_.reset();
-  if (next_.lunation > last_lunation_) return false;
+  if (next_.lunation > range_.Last()) return false;
   if (AcceptsPhase(target_, next_.phase)) LookAt(next_);
   StepPhase(next_, kToNextSyzygy);
   return true;
@@ -111,6 +109,13 @@ CoincidenceFinder::CoincidenceFinder(const Period& period, int offset_minutes)
     : next_(DayOf(period.begin, offset_minutes) - 1, true),
       period_(period),
       offset_minutes_(offset_minutes) {}
+
+double CoincidenceFinder::Progress() const {
+  const std::optional<DayNumber> day = next_.Day();
+  if (!day) return 1;
+  const double passed = NoonOf(*day, offset_minutes_) - period_.begin;
+  return std::clamp(passed / (period_.end - period_.begin), 0.0, 1.0);
+}
 
 bool CoincidenceFinder::Next() {
   found_.reset();

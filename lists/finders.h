@@ -3,7 +3,7 @@
 // A finder goes through a period in the order of time. Next() looks at one candidate, which takes a
 // fraction of a millisecond, so that others may act between two calls; it returns whether there may
 // be more. Then Found() is what the candidate gave, null if it gave nothing; it stays until the
-// next call.
+// next call. Progress() is how much has been looked through, [0:1].
 #pragma once
 
 #include <cstdint>
@@ -31,8 +31,20 @@ inline bool Contains(const Period& period, UniversalTime moment) {
   return moment >= period.begin && moment < period.end;
 }
 
-// How much of the period lies before a moment, [0:1].
-double PartBefore(const Period& period, UniversalTime moment);
+// The lunations that a period touches, one after another.
+class LunationRange {
+ public:
+  explicit LunationRange(const Period& period);
+
+  std::int32_t First() const { return first_; }
+  std::int32_t Last() const { return last_; }
+  // How many of them lie before one, as a part of all, [0:1].
+  double PartBefore(std::int32_t lunation) const;
+
+ private:
+  std::int32_t first_;
+  std::int32_t last_;
+};
 
 struct FoundPhase {
   PhaseNumber at;
@@ -46,12 +58,13 @@ class PhaseFinder {
 
   bool Next();
   const FoundPhase* Found() const { return found_ ? &*found_ : nullptr; }
+  double Progress() const { return range_.PartBefore(next_.lunation); }
 
  private:
   Period period_;
+  LunationRange range_;
   int step_;  // from a candidate to the next, in phases
   PhaseNumber next_;
-  std::int32_t last_lunation_;
   std::optional<FoundPhase> found_;
 };
 
@@ -68,14 +81,15 @@ class EclipseFinder {
 
   bool Next();
   const ListedEclipse* Found() const { return found_ ? &*found_ : nullptr; }
+  double Progress() const { return range_.PartBefore(next_.lunation); }
 
  private:
   void LookAt(const PhaseNumber& at);
 
   Period period_;
+  LunationRange range_;
   int target_;
   PhaseNumber next_;
-  std::int32_t last_lunation_;
   std::optional<ListedEclipse> found_;
 };
 
@@ -91,6 +105,7 @@ class SeenEclipseFinder {
 
   bool Next();
   const ListedSeenEclipse* Found() const { return found_ ? &*found_ : nullptr; }
+  double Progress() const { return eclipses_.Progress(); }
 
  private:
   EclipseFinder eclipses_;
@@ -113,6 +128,7 @@ class CrescentFinder {
 
   bool Next();
   const FoundCrescents* Found() const { return found_ ? &*found_ : nullptr; }
+  double Progress() const { return new_moons_.Progress(); }
 
  private:
   PhaseFinder new_moons_;
@@ -128,6 +144,7 @@ class CoincidenceFinder {
 
   bool Next();
   const DayNumber* Found() const { return found_ ? &*found_ : nullptr; }
+  double Progress() const;
 
  private:
   MonthFirsts next_;

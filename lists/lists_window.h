@@ -3,6 +3,10 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "controls/closable_form.h"
 #include "controls/control_array.h"
@@ -10,6 +14,8 @@
 #include "controls/desktop.h"
 #include "controls/table.h"
 #include "help/notice.h"
+#include "lists/found_list.h"
+#include "lists/row_order.h"
 #include "moment/entry_section.h"
 #include "moment/session.h"
 #include "sky/place_section.h"
@@ -47,6 +53,57 @@ class frmLists final : public ClosableForm {
   Button cmdPrintList{*this, "cmdPrintList", "Print"};
 
   Timer tmrList{*this, "tmrList"};  // each tick finds some more
+
+  // Tells the rows anew, if the window is on display: how moments are read has changed.
+  void Refresh();
+  void UpdateAvailability();
+
+  void Form_Load() override;
+  void Form_Activate() override;
+
+ protected:
+  void cmdClose_Click() override;
+
+ private:
+  ListReading Reading() const;
+  ListKind Kind() const;
+  void cboKind_Click();
+  void Period_KeyPress(int& key);
+  void cmdList_Click();
+  void cmdStopList_Click();
+  std::string TitleOf(const ListRequest& request) const;
+  void ShowColumns();
+  void ShowTable();
+  void chkColumn_Click(std::size_t column);
+  std::vector<std::size_t> ChosenColumns() const;
+  void tmrList_Timer();
+  void EndFinding();
+  void ShowProgress();
+  std::size_t RowAt(std::size_t index) const;
+  std::string CellText(std::size_t index, std::size_t column) const;
+  void SortBy(std::size_t column);
+  void Sort();
+  void TakeRow(std::size_t index);
+  void cmdTakeRow_Click();
+  void cmdSaveCSV_Click();
+  std::optional<std::string> MakeCSV();
+  bool KeepSaving(std::size_t done);
+  bool IsTooLong();
+  void TellOfSaving(const std::string& title, const std::string& error);
+
+  Desktop& desktop_;
+  Session& session_;
+  EntrySection& entry_;
+  PlaceSection& place_;
+  frmNotice& notice_;
+  std::unique_ptr<FoundList> list_;  // none before the first one is made
+  ListReading reading_;              // in which its cells are shown
+  std::string list_name_;            // for the files that it is saved in
+  std::vector<std::size_t> shown_;   // the columns of the list that the table shows
+  RowOrder order_;
+  bool blnFinding = false;  // more rows are being found
+  bool blnSaving = false;   // rows are being put in words for a file
+  bool blnStopped = false;
 };
 
 }  // namespace tarnwick

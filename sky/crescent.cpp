@@ -144,4 +144,16 @@ NamedCrescents NameCrescents(const Crescents& crescents) {
   return named;
 }
 
+std::string_view CrescentClassText(char visibility) {
+  constexpr std::array<std::string_view, 6> kMeanings{
+      "easily visible",
+      "visible under perfect conditions",
+      "optical aid may be needed to find it",
+      "optical aid is needed",
+      "not visible with a telescope",
+      "not visible",
+  };
+  return kMeanings[static_cast<std::size_t>(visibility - 'A')];
+}
+
 }  // namespace tarnwick

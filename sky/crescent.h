@@ -20,6 +20,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 #include "engines/ephemeris/observer.h"
 #include "engines/instant.h"
@@ -45,6 +46,9 @@ struct Crescent {
   // 'A' to 'F'; none where Sun or Moon does not set, or rise.
   std::optional<char> Class() const;
 };
+
+// What a class means: "easily visible".
+std::string_view CrescentClassText(char visibility);
 
 // By their distance from the conjunction, the nearest first. What does not happen within 4.3 days
 // of the conjunction is empty.

@@ -1,8 +1,10 @@
 // The eclipses that can be seen at a place, one after another.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <optional>
+#include <string_view>
 
 #include "engines/ephemeris/observer.h"
 #include "engines/instant.h"
@@ -16,6 +18,8 @@ namespace tarnwick {
 // Which eclipses to look for. Each must be seen there as what it is sought for: of a total eclipse
 // totality, of an umbral one the umbra, above the horizon.
 enum class SoughtEclipse { kAny, kSolar, kTotalSolar, kUmbralLunar };
+inline constexpr std::array<std::string_view, 4> kSoughtTexts{
+    "any eclipse", "solar eclipse", "total solar eclipse", "umbral lunar eclipse"};
 
 // What a place sees of an eclipse: of the Sun, or else of the Moon.
 struct EclipseHere {

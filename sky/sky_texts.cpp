@@ -46,22 +46,10 @@ TimedLine LineOf(const SkyDayEvent& event, const std::vector<UniversalTime>& ins
   return result;
 }
 
-std::string_view MeaningOf(char visibility) {
-  constexpr std::array<std::string_view, 6> kMeanings{
-      "easily visible",
-      "visible under perfect conditions",
-      "optical aid may be needed to find it",
-      "optical aid is needed",
-      "not visible with a telescope",
-      "not visible",
-  };
-  return kMeanings[static_cast<std::size_t>(visibility - 'A')];
-}
-
 std::string ClassText(const Crescent& crescent) {
   const std::optional<char> visibility = crescent.Class();
   if (!visibility) return "none";
-  return std::string(MeaningOf(*visibility)) + " (" + *visibility + ")";
+  return std::string(CrescentClassText(*visibility)) + " (" + *visibility + ")";
 }
 
 // Evenings after a conjunction and mornings before it: what differs between them.

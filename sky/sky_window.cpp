@@ -1,7 +1,6 @@
 #include "sky/sky_window.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdint>
 #include <string>
@@ -21,10 +20,6 @@ namespace tarnwick {
 namespace {
 
 constexpr char kCaption[] = "Sky at a place";
-
-// In the order of SoughtEclipse.
-constexpr std::array<std::string_view, 4> kSoughtEclipses{
-    "any eclipse", "solar eclipse", "total solar eclipse", "umbral lunar eclipse"};
 
 std::string EclipseCaptionOf(const std::optional<EclipseRecord>& record,
                              const PlaceReading& reading) {
@@ -55,7 +50,7 @@ frmSky::frmSky(Desktop& desktop, Screen& screen, Session& session, EntrySection&
   lblContactHeading[0].SetCaption(kLocalMeanTime);
   lblFirstCrescent[0].SetCaption("First crescent");
   lblLastCrescent[0].SetCaption("Last crescent");
-  for (const std::string_view sought : kSoughtEclipses) {
+  for (const std::string_view sought : kSoughtTexts) {
     cboSeenEclipse.AddItem(std::string(sought));
   }
   cboSeenEclipse.SetListIndex(0);
