@@ -58,9 +58,10 @@ constexpr Qt::Alignment kTimes = Qt::AlignRight | Qt::AlignVCenter;
 constexpr double kMapAspect = 2;
 constexpr double kTitleSize = 1.1;  // of the font
 constexpr double kNoteSize = 0.9;
-constexpr QSize kUsualSize{84, 50};  // in lines of text
+constexpr QSize kUsualSize{84, 54};  // in lines of text
 constexpr int kLeastVerdict = 22;    // its width in lines of text
 constexpr int kMostVerdict = 34;
+constexpr int kVerdictLines = 10;
 constexpr int kVisiblePlaces = 24;
 constexpr int kCrescentLines = 4;
 
@@ -275,11 +276,12 @@ QWidget* SkyView::MakeEclipse() {
   return panel;
 }
 
-// Wide enough that it needs no more height than the contacts.
+// Wide enough that it needs little more height than the contacts, and with room for that.
 QWidget* SkyView::MakeVerdict(QWidget* panel) {
   auto* verdict = new QWidget(panel);
   verdict->setMinimumWidth(kLeastVerdict * fontMetrics().height());
   verdict->setMaximumWidth(kMostVerdict * fontMetrics().height());
+  verdict->setMinimumHeight(kVerdictLines * fontMetrics().lineSpacing() + 2 * Spacing(*this));
   auto* rows = new QVBoxLayout(verdict);
   rows->setContentsMargins(0, 0, 0, 0);
   rows->setSpacing(Spacing(*this));

@@ -232,8 +232,8 @@ The first crescent of a lunation is seen in the evening, in the days after its n
 
 - A: easily visible
 - B: visible under perfect conditions
-- C: optical aid may be needed to find the crescent
-- D: optical aid is needed
+- C: perhaps with optical aid, once it is found
+- D: only with optical aid
 - E: not visible with a telescope
 - F: not visible at all
 

@@ -148,8 +148,8 @@ std::string_view CrescentClassText(char visibility) {
   constexpr std::array<std::string_view, 6> kMeanings{
       "easily visible",
       "visible under perfect conditions",
-      "optical aid may be needed to find it",
-      "optical aid is needed",
+      "perhaps with optical aid",
+      "only with optical aid",
       "not visible with a telescope",
       "not visible",
   };

@@ -20,10 +20,10 @@ inline void FillWithLongestTexts(frmSky& form) {
   fill(form.lblDayLocalTime, "00:03, 23:58");
   fill(form.lblDayMainTime, "00:03, 23:58");
   form.lblFirstCrescent[1].SetCaption(
-      "evening of -2026-11-11 CE, optical aid may be needed to find it (C); "
+      "evening of -2026-11-11 CE, perhaps with optical aid (C); "
       "evening of -2026-11-12 CE, easily visible (A)");
   form.lblLastCrescent[1].SetCaption(
-      "morning of -2026-12-08 CE, optical aid may be needed to find it (C); "
+      "morning of -2026-12-08 CE, perhaps with optical aid (C); "
       "morning of -2026-12-07 CE, easily visible (A)");
   form.lblEclipse.SetCaption(
       "Non-central annular solar eclipse of -584-05-28 JC (-584, 585 BCE), saros 57");
