@@ -7,14 +7,9 @@
 
 #include "calendars/text.h"
 #include "engines/instant.h"
+#include "lists/finders.h"
 
 namespace tarnwick {
-
-// What is to be printed: from `begin` (inclusive) to `end`.
-struct Period {
-  UniversalTime begin;
-  UniversalTime end;
-};
 
 // Where a table goes, and how far it has come.
 class Printer {
@@ -32,8 +27,7 @@ class Printer {
  private:
   void ShowProgress(UniversalTime moment) {
     if (progress_ == nullptr) return;
-    const int percent =
-        static_cast<int>(100 * (moment - period_.begin) / (period_.end - period_.begin));
+    const int percent = static_cast<int>(100 * PartBefore(period_, moment));
     if (percent == percent_) return;
     percent_ = percent;
     *progress_ << '\r' << percent << " %" << std::flush;
@@ -44,10 +38,6 @@ class Printer {
   std::ostream* progress_;
   int percent_ = -1;
 };
-
-inline bool Contains(const Period& period, UniversalTime moment) {
-  return moment >= period.begin && moment < period.end;
-}
 
 // A row of CSV.
 inline std::string Join(std::span<const std::string> cells) {

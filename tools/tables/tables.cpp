@@ -17,9 +17,9 @@
 #include "engines/phases.h"
 #include "moon/phase_cache.h"
 #include "moon/syzyg.h"
-#include "tools/tables/phase_visits.h"
 #include "tools/tables/printer.h"
 #include "tools/tables/sky_tables.h"
+#include "tools/tables/visit.h"
 
 namespace tarnwick {
 namespace {
@@ -52,22 +52,21 @@ UniversalTime NewYear(std::int32_t year) {
 bool PrintPhases(const Period& period, Printer& printer) {
   const std::string header = "lunation,phase,tt,ut";
   if (!printer.Print(period.begin, header)) return false;
-  return VisitPhases(period, 1, [&](std::int32_t lunation, std::int16_t phase, const auto& event) {
-    if (!Contains(period, event.ut)) return true;
-    const std::array cells{std::to_string(lunation), std::to_string(phase), Cell(event.tt),
-                           Cell(event.ut)};
-    return printer.Print(event.ut, Join(cells));
+  return VisitFound(PhaseFinder(period), [&](const FoundPhase& found) {
+    const std::array cells{std::to_string(found.at.lunation), std::to_string(found.at.phase),
+                           Cell(found.event.tt), Cell(found.event.ut)};
+    return printer.Print(found.event.ut, Join(cells));
   });
 }
 
-std::string EclipseRow(std::int32_t lunation, std::int16_t phase, const EclipseRecord& eclipse,
-                       UniversalTime ut) {
-  const std::array cells{std::to_string(lunation),
-                         std::to_string(phase),
+std::string EclipseRow(const ListedEclipse& found) {
+  const EclipseRecord& eclipse = found.record;
+  const std::array cells{std::to_string(found.at.lunation),
+                         std::to_string(found.at.phase),
                          std::to_string(eclipse.type),
                          std::to_string(eclipse.saros),
                          Cell(TerrestrialTime(eclipse.greatest)),
-                         Cell(ut),
+                         Cell(found.greatest),
                          FormatFixed(eclipse.gamma, 5, false),
                          FormatFixed(eclipse.magnitude, 5, false),
                          Optional(eclipse.penumbral_magnitude, 5),
@@ -81,12 +80,8 @@ bool PrintEclipses(const Period& period, Printer& printer) {
   const std::string header =
       "lunation,phase,type,saros,tt,ut,gamma,magnitude,penumbral_magnitude,penumbral,umbral,total";
   if (!printer.Print(period.begin, header)) return false;
-  return VisitPhases(period, 2, [&](std::int32_t lunation, std::int16_t phase, const auto& event) {
-    const EclipseRecord& eclipse = event.eclipse;
-    if (eclipse.type == kNotEclipsed) return true;
-    const UniversalTime ut = GreatestEclipse(eclipse);
-    if (!Contains(period, ut)) return true;
-    return printer.Print(ut, EclipseRow(lunation, phase, eclipse, ut));
+  return VisitFound(EclipseFinder(period, kAnyEclipseTarget), [&](const ListedEclipse& found) {
+    return printer.Print(found.greatest, EclipseRow(found));
   });
 }
 
