@@ -15,6 +15,9 @@
 
 namespace tarnwick {
 
+// The first day of the Gregorian calendar, 1582 October 15: dates before it are told by the Julian.
+inline constexpr DayNumber kGregorianReform(2299161);
+
 // Languages of names; any value but kGerman means English.
 inline constexpr std::int32_t kEnglish = 0;
 inline constexpr std::int32_t kGerman = 1;

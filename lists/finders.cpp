@@ -32,6 +32,10 @@ int TargetOf(SoughtEclipse sought) {
 
 }  // namespace
 
+double PartBefore(const Period& period, UniversalTime moment) {
+  return std::clamp((moment - period.begin) / (period.end - period.begin), 0.0, 1.0);
+}
+
 // Delta T and the course of an eclipse may take an instant into the next lunation.
 LunationRange::LunationRange(const Period& period)
     : first_(LunationOf(period.begin) - 1), last_(LunationOf(period.end) + 1) {}
@@ -89,6 +93,13 @@ bool SeenEclipseFinder::Next() {
   return true;
 }
 
+FoundCrescents CrescentsAbout(std::int32_t lunation, const Observer& observer) {
+  const UniversalTime new_moon = FindPhaseEvent(lunation, kNewMoon).ut;
+  const double delta_t = DeltaTDays(new_moon);
+  return {lunation, new_moon, MorningsBefore(lunation, observer, delta_t),
+          EveningsAfter(lunation, observer, delta_t)};
+}
+
 CrescentFinder::CrescentFinder(const Period& period, const GeoPoint& place)
     : new_moons_(period, kNewMoon), observer_(ObserverAt(place)) {}
 
@@ -96,11 +107,7 @@ bool CrescentFinder::Next() {
   found_.reset();
   if (!new_moons_.Next()) return false;
   if (const FoundPhase* new_moon = new_moons_.Found()) {
-    const std::int32_t lunation = new_moon->at.lunation;
-    const double delta_t = DeltaTDays(new_moon->event.ut);
-    found_ =
-        FoundCrescents{lunation, new_moon->event.ut, MorningsBefore(lunation, observer_, delta_t),
-                       EveningsAfter(lunation, observer_, delta_t)};
+    found_ = CrescentsAbout(new_moon->at.lunation, observer_);
   }
   return true;
 }
@@ -112,9 +119,7 @@ CoincidenceFinder::CoincidenceFinder(const Period& period, int offset_minutes)
 
 double CoincidenceFinder::Progress() const {
   const std::optional<DayNumber> day = next_.Day();
-  if (!day) return 1;
-  const double passed = NoonOf(*day, offset_minutes_) - period_.begin;
-  return std::clamp(passed / (period_.end - period_.begin), 0.0, 1.0);
+  return day ? PartBefore(period_, NoonOf(*day, offset_minutes_)) : 1;
 }
 
 bool CoincidenceFinder::Next() {

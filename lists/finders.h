@@ -31,6 +31,9 @@ inline bool Contains(const Period& period, UniversalTime moment) {
   return moment >= period.begin && moment < period.end;
 }
 
+// How much of the period lies before a moment, [0:1].
+double PartBefore(const Period& period, UniversalTime moment);
+
 // The lunations that a period touches, one after another.
 class LunationRange {
  public:
@@ -121,6 +124,8 @@ struct FoundCrescents {
   Crescents mornings;
   Crescents evenings;
 };
+
+FoundCrescents CrescentsAbout(std::int32_t lunation, const Observer& observer);
 
 class CrescentFinder {
  public:

@@ -63,7 +63,10 @@ class KeptList final : public FoundList {
   }
   double Progress() const override { return kind_.finder.Progress(); }
   std::size_t Size() const override { return rows_.size(); }
-  ListedEvent EventOf(std::size_t row) const override { return Kind::EventOf(rows_.at(row)); }
+  ListedMoment MomentOf(std::size_t row) const override { return Kind::MomentOf(rows_.at(row)); }
+  std::optional<CalendarEvent> EventOf(std::size_t row) const override {
+    return kind_.EventOfRow(rows_.at(row));
+  }
   std::string Cell(std::size_t row, std::size_t column, const ListReading& reading) const override {
     return Kind::kColumns.at(column).text(rows_.at(row), reading);
   }
@@ -138,8 +141,9 @@ struct PhaseKind {
       {kJulianDate, JulianDateCell<Row>, InstantKey<Row>},
   }};
 
-  static ListedEvent EventOf(const Row& row) { return {row.event.ut}; }
+  static ListedMoment MomentOf(const Row& row) { return {row.event.ut}; }
   static std::optional<Row> RowOf(const FoundPhase& found) { return found; }
+  static CalendarEvent EventOfRow(const Row& row) { return EventOf(row); }
   PhaseFinder finder;
 };
 
@@ -191,8 +195,9 @@ struct EclipseKind {
       {kJulianDate, JulianDateCell<Row>, InstantKey<Row>},
   }};
 
-  static ListedEvent EventOf(const Row& row) { return {row.greatest, row.at}; }
+  static ListedMoment MomentOf(const Row& row) { return {row.greatest, row.at}; }
   static std::optional<Row> RowOf(const ListedEclipse& found) { return found; }
+  static CalendarEvent EventOfRow(const Row& row) { return EventOf(row); }
   EclipseFinder finder;
 };
 
@@ -250,10 +255,11 @@ struct SeenEclipseKind {
       {{"How sure", "total; partial if delta T is 310 s more"}, SureCell, SeenKey},
   }};
 
-  static ListedEvent EventOf(const Row& row) { return {InstantOf(row), row.eclipse.at}; }
-  std::optional<Row> RowOf(const ListedSeenEclipse& found) const { return Row{found, place}; }
+  static ListedMoment MomentOf(const Row& row) { return {InstantOf(row), row.eclipse.at}; }
+  std::optional<Row> RowOf(const ListedSeenEclipse& found) const { return Row{found, place.point}; }
+  CalendarEvent EventOfRow(const Row& row) const { return EventOf(row, place); }
   SeenEclipseFinder finder;
-  GeoPoint place;
+  EventPlace place;
 };
 
 // The first evening of a lunation on which the crescent may be seen.
@@ -309,16 +315,19 @@ struct CrescentKind {
       {kJulianDate, JulianDateCell<Row>, InstantKey<Row>},
   }};
 
-  static ListedEvent EventOf(const Row& row) { return {row.quantities.best}; }
+  static ListedMoment MomentOf(const Row& row) { return {row.quantities.best}; }
   std::optional<Row> RowOf(const FoundCrescents& found) const {
-    const std::optional<std::size_t> first = NameCrescents(found.evenings).seen;
+    const std::optional<std::size_t> first = TellingCrescent(found.evenings);
     if (!first) return std::nullopt;
     const Crescent& crescent = found.evenings.at(*first);
     return Row{found.lunation,       found.new_moon,    *crescent.sun,
-               *crescent.quantities, *crescent.Class(), place};
+               *crescent.quantities, *crescent.Class(), place.point};
+  }
+  std::optional<CalendarEvent> EventOfRow(const Row& row) const {
+    return EventOf(CrescentsAbout(row.lunation, ObserverAt(place.point)), place);
   }
   CrescentFinder finder;
-  GeoPoint place;
+  EventPlace place;
 };
 
 // Days, in all calendars: found by counting, so that none is kept.
@@ -358,8 +367,11 @@ class CoincidenceList final : public FoundList {
   }
   double Progress() const override { return finder_.Progress(); }
   std::size_t Size() const override { return days_.size(); }
-  ListedEvent EventOf(std::size_t row) const override {
+  ListedMoment MomentOf(std::size_t row) const override {
     return {NoonOf(days_.at(row), offset_minutes_)};
+  }
+  std::optional<CalendarEvent> EventOf(std::size_t row) const override {
+    return EventOfCoincidence(days_.at(row));
   }
   std::string Cell(std::size_t row, std::size_t column,
                    const ListReading& /*reading*/) const override {
@@ -386,9 +398,10 @@ class DayList final : public FoundList {
   bool FindMore() override { return false; }
   double Progress() const override { return 1; }
   std::size_t Size() const override { return static_cast<std::size_t>(count_); }
-  ListedEvent EventOf(std::size_t row) const override {
+  ListedMoment MomentOf(std::size_t row) const override {
     return {NoonOf(Day(row), offset_minutes_)};
   }
+  std::optional<CalendarEvent> EventOf(std::size_t /*row*/) const override { return std::nullopt; }
   std::string Cell(std::size_t row, std::size_t column,
                    const ListReading& /*reading*/) const override {
     return DayCell(Day(row), column, offset_minutes_);
@@ -437,14 +450,15 @@ std::unique_ptr<FoundList> MakeList(const ListRequest& request) {
       return std::make_unique<KeptList<EclipseKind>>(
           EclipseKind{EclipseFinder(period, kAnyEclipseTarget + static_cast<int>(request.choice))});
     case ListKind::kSeenEclipses:
-      return std::make_unique<KeptList<SeenEclipseKind>>(SeenEclipseKind{
-          SeenEclipseFinder(period, request.place, static_cast<SoughtEclipse>(request.choice)),
-          request.place});
+      return std::make_unique<KeptList<SeenEclipseKind>>(
+          SeenEclipseKind{SeenEclipseFinder(period, request.place.point,
+                                            static_cast<SoughtEclipse>(request.choice)),
+                          request.place});
     case ListKind::kCoincidences:
       return std::make_unique<CoincidenceList>(period, request.offset_minutes);
     case ListKind::kCrescents:
       return std::make_unique<KeptList<CrescentKind>>(
-          CrescentKind{CrescentFinder(period, request.place), request.place});
+          CrescentKind{CrescentFinder(period, request.place.point), request.place});
     case ListKind::kDays:
       break;
   }

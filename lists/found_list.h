@@ -10,9 +10,10 @@
 
 #include "calendars/calendar_table.h"
 #include "engines/instant.h"
+#include "lists/calendar_events.h"
 #include "lists/finders.h"
+#include "lists/icalendar.h"
 #include "moon/syzyg.h"
-#include "sky/geo_point.h"
 
 namespace tarnwick {
 
@@ -27,7 +28,7 @@ struct ListRequest {
   ListKind kind = ListKind::kPhases;
   std::size_t choice = 0;  // among ListChoices
   Period period;
-  GeoPoint place;  // of eclipses seen and of crescents
+  EventPlace place;        // of eclipses seen and of crescents
   int offset_minutes = 0;  // of coincidences and days, which are those of a zone
 };
 
@@ -46,8 +47,8 @@ struct ListColumn {
   bool in_time = false;      // sorted by it the rows are in the order of time, as they are found
 };
 
-// The event of a row, for calendars and for the main window.
-struct ListedEvent {
+// What the main window takes of a row.
+struct ListedMoment {
   UniversalTime moment;
   std::optional<PhaseNumber> eclipse = {};  // to be described
 };
@@ -68,7 +69,9 @@ class FoundList {
   virtual double Progress() const = 0;
 
   virtual std::size_t Size() const = 0;
-  virtual ListedEvent EventOf(std::size_t row) const = 0;
+  virtual ListedMoment MomentOf(std::size_t row) const = 0;
+  // The row in a calendar file; nothing of a mere day.
+  virtual std::optional<CalendarEvent> EventOf(std::size_t row) const = 0;
   virtual std::string Cell(std::size_t row, std::size_t column,
                            const ListReading& reading) const = 0;
   // By which rows are sorted; what has none comes first.

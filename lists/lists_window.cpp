@@ -134,7 +134,7 @@ void frmLists::cmdList_Click() {
   }
   request.kind = Kind();
   request.choice = static_cast<std::size_t>(std::max(cboChoice.ListIndex(), 0));
-  request.place = place_.Point();
+  request.place = {place_.Point(), place_.Name()};
   request.offset_minutes = session_.ReadingOffset();
   list_name_ = TitleOf(request);
   lblListTitle.SetCaption(list_name_);
@@ -275,14 +275,13 @@ void frmLists::Sort() {
 
 void frmLists::TakeRow(std::size_t index) {
   if (!session_.IsIdle() || blnSaving) return;
-  const ListedEvent event = list_->EventOf(RowAt(index));
+  const ListedMoment taken = list_->MomentOf(RowAt(index));
   CarryOut(session_, desktop_, kCaption, [&] {
     session_.SetClockRunning(false);
-    FoundMoment found{event.moment};
-    if (event.eclipse) {
-      found.eclipse = event.eclipse;
-      found.eclipse_type =
-          FindPhaseEvent(event.eclipse->lunation, event.eclipse->phase).eclipse.type;
+    FoundMoment found{taken.moment};
+    if (const auto& eclipse = taken.eclipse) {
+      found.eclipse = eclipse;
+      found.eclipse_type = FindPhaseEvent(eclipse->lunation, eclipse->phase).eclipse.type;
     }
     TakeFound(session_, desktop_, entry_, found, "Taken from a list");
   });

@@ -11,17 +11,13 @@
 #include "calendars/text.h"
 #include "controls/choice.h"
 #include "controls/keys.h"
+#include "moment/accepted_range.h"
 
 namespace tarnwick {
 namespace {
 
 // About a minute: what the displayed text loses of a moment's seconds is no new moment.
 constexpr double kSameMoment = 0.0007;
-
-// Half the last decimal of a day count on display, and a little for the last bits of a sum.
-constexpr double kHalfADecimal = 0.00005 + 1e-8;
-
-bool IsShownAlike(UniversalTime a, UniversalTime b) { return std::fabs(a - b) <= kHalfADecimal; }
 
 // The days of a text that passes as a signed number, without its "+" and ",".
 double DayCountValue(std::string_view text) { return LeadingNumber(RemoveChars(text, "+,")); }
@@ -191,10 +187,7 @@ Entry EntrySection::ParseDateEntry(const std::string& text) {
 // be told from a limit for that.
 UniversalTime EntrySection::MomentOfDayCount(const std::string& text, UniversalTime read) const {
   if (text == strCopiedEntry && IsShownAlike(read, dblCopiedMoment)) return dblCopiedMoment;
-  for (const UniversalTime limit : {kLowerLimit, kUpperLimit}) {
-    if (IsShownAlike(read, limit)) return limit;
-  }
-  return read;
+  return LimitOrMoment(read);
 }
 
 bool EntrySection::TakeUpTypedMoment() {
@@ -239,12 +232,9 @@ void EntrySection::ReportDateEntryError(std::int16_t code) {
 }
 
 bool EntrySection::DateOutOfRange(UniversalTime moment) {
-  const bool late = moment > kUpperLimit;
-  if (moment >= kLowerLimit && !late) return false;
-  // The spelling belongs to the text.
-  desktop_.ShowMessage({late ? "Resulting date is later than 6000-01-01 CE."
-                             : "Resultng date is earlier than -3200-01-01 CE.",
-                        "Date out of range", MessageIcon::kExclamation});
+  const std::string_view error = RangeErrorText(moment);
+  if (error.empty()) return false;
+  desktop_.ShowMessage({std::string(error), "Date out of range", MessageIcon::kExclamation});
   return true;
 }
 

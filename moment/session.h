@@ -10,13 +10,10 @@
 
 #include "calendars/calendar_table.h"
 #include "engines/instant.h"
+#include "moment/accepted_range.h"
 #include "moon/syzyg.h"
 
 namespace tarnwick {
-
-// The moments that are accepted, both limits included. The upper one is noon of 6000-01-01 CE.
-inline constexpr UniversalTime kLowerLimit(552283.0);
-inline constexpr UniversalTime kUpperLimit(3912515.0);
 
 inline constexpr std::int32_t kNoEclipse = -10000000;  // no lunation has that number
 

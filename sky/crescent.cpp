@@ -144,14 +144,15 @@ NamedCrescents NameCrescents(const Crescents& crescents) {
   return named;
 }
 
+std::optional<std::size_t> TellingCrescent(const Crescents& crescents) {
+  const NamedCrescents named = NameCrescents(crescents);
+  return named.seen ? named.seen : named.maybe_seen;
+}
+
 std::string_view CrescentClassText(char visibility) {
   constexpr std::array<std::string_view, 6> kMeanings{
-      "easily visible",
-      "visible under perfect conditions",
-      "perhaps with optical aid",
-      "only with optical aid",
-      "not visible with a telescope",
-      "not visible",
+      "easily visible",        "visible under perfect conditions", "perhaps with optical aid",
+      "only with optical aid", "not visible with a telescope",     "not visible",
   };
   return kMeanings[static_cast<std::size_t>(visibility - 'A')];
 }

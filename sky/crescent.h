@@ -66,5 +66,8 @@ struct NamedCrescents {
   std::optional<std::size_t> maybe_seen;
 };
 NamedCrescents NameCrescents(const Crescents& crescents);
+// The one that is told where there is room for one only: of class A or B or, where there is none,
+// of class C.
+std::optional<std::size_t> TellingCrescent(const Crescents& crescents);
 
 }  // namespace tarnwick

@@ -25,7 +25,6 @@ namespace tarnwick {
 namespace {
 
 constexpr double kLeastForWidth = 10 * kDegree;  // a lower Sun draws the shadow out without bound
-constexpr DayNumber kGregorianReform(2299161);   // 1582 October 15
 
 // "(-584, 585 BCE)": historians know no year 0.
 std::string HistoriansYear(std::int32_t year) {

@@ -6,4 +6,6 @@ namespace tarnwick {
 
 bool ErrorsGoToTerminal() { return isatty(STDERR_FILENO) != 0; }
 
+void KeepLineEnds() {}
+
 }  // namespace tarnwick

@@ -25,7 +25,7 @@ Period PeriodOf(const std::string& from, const std::string& to) {
 
 std::unique_ptr<FoundList> WholeList(ListKind kind, std::size_t choice, const std::string& from,
                                      const std::string& to) {
-  auto list = MakeList({kind, choice, PeriodOf(from, to), kBabylon, 0});
+  auto list = MakeList({kind, choice, PeriodOf(from, to), EventPlace{kBabylon, "Babylon"}, 0});
   while (list->FindMore()) {
   }
   return list;
@@ -41,10 +41,16 @@ std::vector<std::string> RowOf(const FoundList& list, std::size_t row,
 }
 
 TEST(FoundList, Look) {
-  for (auto kind : {ListKind::kPhases, ListKind::kEclipses, ListKind::kSeenEclipses, ListKind::kCoincidences, ListKind::kCrescents, ListKind::kDays}) {
-    auto list = WholeList(kind, 0, kind == ListKind::kCoincidences ? "1900-01-01 CE" : "2024-01-01 CE", kind == ListKind::kCoincidences ? "2100-01-01 CE":"2024-12-31 CE");
+  for (auto kind : {ListKind::kPhases, ListKind::kEclipses, ListKind::kSeenEclipses,
+                    ListKind::kCoincidences, ListKind::kCrescents, ListKind::kDays}) {
+    auto list =
+        WholeList(kind, 0, kind == ListKind::kCoincidences ? "1900-01-01 CE" : "2024-01-01 CE",
+                  kind == ListKind::kCoincidences ? "2100-01-01 CE" : "2024-12-31 CE");
     std::printf("%zu rows, %f\n", list->Size(), list->Progress());
-    for (std::size_t r = 0; r < std::min<std::size_t>(3, list->Size()); ++r) { for (auto& c : RowOf(*list, r)) std::printf("%s | ", c.c_str()); std::printf("\n"); }
+    for (std::size_t r = 0; r < std::min<std::size_t>(3, list->Size()); ++r) {
+      for (auto& c : RowOf(*list, r)) std::printf("%s | ", c.c_str());
+      std::printf("\n");
+    }
   }
 }
 

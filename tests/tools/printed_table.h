@@ -16,12 +16,28 @@ namespace tarnwick {
 
 using TableArguments = std::vector<std::string_view>;
 
-inline std::string Print(const TableArguments& arguments) {
+struct ToolRun {
+  int status = 0;
+  std::string out;
+  std::string err;
+};
+
+inline constexpr UniversalTime kStamp(2460375.0);  // noon of 2024-03-05
+
+inline ToolRun RunTool(const TableArguments& arguments, const std::string& input = "",
+                       bool shows_progress = false) {
+  std::istringstream in(input);
   std::ostringstream out;
   std::ostringstream err;
-  EXPECT_EQ(RunTables(arguments, out, err, false), kTablesDone);
-  EXPECT_EQ(err.str(), "");
-  return out.str();
+  const int status = RunTables(arguments, {in, out, err, shows_progress, kStamp});
+  return {status, out.str(), err.str()};
+}
+
+inline std::string Print(const TableArguments& arguments) {
+  const ToolRun run = RunTool(arguments);
+  EXPECT_EQ(run.status, kTablesDone);
+  EXPECT_EQ(run.err, "");
+  return run.out;
 }
 
 // The rows of the table, their cells by the names in its header line.

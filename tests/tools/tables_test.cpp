@@ -10,6 +10,7 @@
 #include <streambuf>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -136,24 +137,60 @@ TEST(Tables, RefuseWhatTheyCannotPrint) {
       {"phases", "2001", "6002"},
       {"phases", "2001x", "2002"},
       {"phases", "99999999999", "2002"},
+      {"phases", "2000", "2001", "2002"},
+      {"phases", "--isc", "2000", "2001"},
+      {"phases", "--ics=1", "2000", "2001"},
+      {"dates", "--ics", "2000", "2001"},
+      {"local", "91", "0", "2000", "2001"},
+      {"convert", "2000"},
+      {"convert", "--calendar"},
+      {"convert", "--calendar", "XX"},
+      {"convert", "--zone", "+2"},
+      {"convert", "--zone", "+02:60"},
+      {"convert", "--zone", "+14:01"},
   };
   for (const TableArguments& arguments : bad) {
-    std::ostringstream out;
-    std::ostringstream err;
-    EXPECT_EQ(RunTables(arguments, out, err, false), kBadArguments);
-    EXPECT_EQ(out.str(), "");
-    EXPECT_NE(err.str(), "");
+    const ToolRun run = RunTool(arguments);
+    EXPECT_EQ(run.status, kBadArguments);
+    EXPECT_EQ(run.out, "");
+    EXPECT_NE(run.err, "");
   }
   Print({"phases", "-3200", "-3199"});
   Print({"phases", "6000", "6001"});
 }
 
+TEST(Tables, TellWhatIsWrongWithACommandLine) {
+  const std::pair<TableArguments, std::string> cases[] = {
+      {{"moons"}, "unknown command 'moons'"},
+      {{"phases", "--isc", "1", "2"}, "phases has no option '--isc'"},
+      {{"phases", "-1", "2", "3"}, "surplus argument '3'"},
+      {{"local", "-33.9", "-.5", "-3"}, "TO is missing"},
+      {{"convert", "--zone"}, "--zone needs +HH:MM behind it"},
+  };
+  for (const auto& [arguments, told] : cases) {
+    const std::string err = RunTool(arguments).err;
+    EXPECT_TRUE(err.starts_with("tarnwick_tables: " + told + "\nusage: tarnwick_tables ")) << err;
+  }
+}
+
+TEST(Tables, HelpWithEveryCommandThatTheToolNames) {
+  std::istringstream lines(Print({"--help"}));
+  int commands = 0;
+  const std::string usage = "  tarnwick_tables ";
+  for (std::string line; std::getline(lines, line);) {
+    if (!line.starts_with(usage)) continue;
+    ++commands;
+    const std::string name = line.substr(usage.size(), line.find(' ', usage.size()) - usage.size());
+    EXPECT_TRUE(Print({name, "--help"}).starts_with("usage: " + line.substr(2) + "\n")) << line;
+  }
+  EXPECT_EQ(commands, 8);
+}
+
 TEST(Tables, ShowTheirProgress) {
-  std::ostringstream out;
-  std::ostringstream err;
-  EXPECT_EQ(RunTables(TableArguments{"phases", "2000", "2010"}, out, err, true), kTablesDone);
-  EXPECT_TRUE(err.str().starts_with("\r0 %\r1 %")) << err.str();
-  EXPECT_TRUE(err.str().ends_with("\r99 %\r     \r")) << err.str();
+  const ToolRun run = RunTool({"phases", "2000", "2010"}, "", true);
+  EXPECT_EQ(run.status, kTablesDone);
+  EXPECT_TRUE(run.err.starts_with("\r0 %\r1 %")) << run.err;
+  EXPECT_TRUE(run.err.ends_with("\r99 %\r     \r")) << run.err;
 }
 
 // Takes no more than there is room for, and fails with an error.
@@ -177,23 +214,34 @@ class SmallFile : public std::streambuf {
   int error_;
 };
 
-TEST(Tables, StopAtOnceWhenTheOutputTakesNoMore) {
-  const auto length = static_cast<int>(Print({"dates", "2000", "2001"}).size());
-  for (const int room : {1000, length}) {
-    for (const bool pipe_closed : {true, false}) {
-      SmallFile file(room, pipe_closed ? EPIPE : ENOSPC);
-      std::ostream out(&file);
-      std::ostringstream err;
-      EXPECT_EQ(RunTables(TableArguments{"dates", "2000", "2001"}, out, err, false), kCannotWrite);
-      const std::string told = "tarnwick_tables: cannot write the table: No space left on device\n";
-      EXPECT_EQ(err.str(), pipe_closed ? "" : told) << room;
-    }
-  }
-  SmallFile file(1000, EPIPE);
+// The status and what is told on standard error when the output has so much room.
+std::pair<int, std::string> RunInto(int room, int error, const TableArguments& arguments,
+                                    bool shows_progress = false) {
+  std::istringstream in("2024-01-01 CE\n2024-01-02 CE\n");
+  SmallFile file(room, error);
   std::ostream out(&file);
   std::ostringstream err;
-  EXPECT_EQ(RunTables(TableArguments{"phases", "2000", "2100"}, out, err, true), kCannotWrite);
-  EXPECT_EQ(err.str(), "\r0 %\r     \r");
+  const int status = RunTables(arguments, {in, out, err, shows_progress, kStamp});
+  return {status, err.str()};
+}
+
+TEST(Tables, StopAtOnceWhenTheOutputTakesNoMore) {
+  const std::string told = "tarnwick_tables: cannot write the table: No space left on device\n";
+  const auto length = static_cast<int>(Print({"dates", "2000", "2001"}).size());
+  const std::tuple<int, TableArguments> cases[] = {
+      {1000, {"dates", "2000", "2001"}},
+      {length, {"dates", "2000", "2001"}},
+      {1000, {"phases", "--ics", "2000", "2001"}},
+      {100, {"convert"}},
+      {100, {"--help"}},
+  };
+  for (const auto& [room, arguments] : cases) {
+    SCOPED_TRACE(arguments[0]);
+    EXPECT_EQ(RunInto(room, EPIPE, arguments), std::pair(kCannotWrite, std::string()));
+    EXPECT_EQ(RunInto(room, ENOSPC, arguments), std::pair(kCannotWrite, told));
+  }
+  EXPECT_EQ(RunInto(1000, EPIPE, {"phases", "2000", "2100"}, true),
+            std::pair(kCannotWrite, std::string("\r0 %\r     \r")));
 }
 
 }  // namespace

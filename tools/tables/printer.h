@@ -5,57 +5,37 @@
 #include <span>
 #include <string>
 
+#include "calendars/calendar_table.h"
+#include "calendars/date_processing.h"
+#include "calendars/date_texts.h"
 #include "calendars/text.h"
 #include "engines/instant.h"
+#include "tools/tables/progress.h"
 
 namespace tarnwick {
-
-// What is to be printed: from `begin` (inclusive) to `end`.
-struct Period {
-  UniversalTime begin;
-  UniversalTime end;
-};
 
 // Where a table goes, and how far it has come.
 class Printer {
  public:
-  Printer(const Period& period, std::ostream& out, std::ostream* progress)
-      : period_(period), out_(out), progress_(progress) {}
+  Printer(std::ostream& out, const Progress& progress) : out_(out), progress_(progress) {}
 
   // Prints a row that belongs to a moment; false when the output takes no more.
   bool Print(UniversalTime moment, const std::string& row) {
-    ShowProgress(moment);
+    progress_.Show(moment);
     out_ << row << '\n';
     return out_.good();
   }
 
  private:
-  void ShowProgress(UniversalTime moment) {
-    if (progress_ == nullptr) return;
-    const int percent =
-        static_cast<int>(100 * (moment - period_.begin) / (period_.end - period_.begin));
-    if (percent == percent_) return;
-    percent_ = percent;
-    *progress_ << '\r' << percent << " %" << std::flush;
-  }
-
-  Period period_;
   std::ostream& out_;
-  std::ostream* progress_;
-  int percent_ = -1;
+  Progress progress_;
 };
-
-inline bool Contains(const Period& period, UniversalTime moment) {
-  return moment >= period.begin && moment < period.end;
-}
 
 // A row of CSV.
 inline std::string Join(std::span<const std::string> cells) {
   std::string row;
-  for (const std::string& cell : cells) {
-    if (!row.empty()) row += ',';
-    row += cell;
-  }
+  for (const std::string& cell : cells) row += cell + ',';
+  row.pop_back();
   return row;
 }
 
@@ -63,6 +43,15 @@ inline std::string Join(std::span<const std::string> cells) {
 template <class Scale>
 std::string Cell(Instant<Scale> instant) {
   return FormatFixed(instant.days, 7, false);
+}
+
+// A date without its abbreviation; a day count with four decimals.
+inline std::string DateCell(Calendar calendar, UniversalTime moment, int offset_minutes) {
+  if (calendar == kAJD) return FormatFixed(moment.days, 4, false);
+  if (calendar == kCJD) return FormatFixed(AJDToCJD(moment, offset_minutes).days, 4, false);
+  std::string text = ShortDateText(calendar, moment, offset_minutes);
+  text.resize(text.find(' '));
+  return text;
 }
 
 // Empty for what a kind of eclipse does not have.

@@ -20,7 +20,7 @@
 #include "sky/rise_set.h"
 #include "sky/seen_eclipses.h"
 #include "sky/solar_at_place.h"
-#include "tools/tables/phase_visits.h"
+#include "tools/tables/visit.h"
 
 namespace tarnwick {
 namespace {
@@ -50,39 +50,36 @@ struct LocalRow {
   std::array<std::string, 6> lunar_contacts;
 };
 
-std::optional<LocalRow> SolarRow(const EclipseCourse& course, const Observer& observer) {
-  const SolarAtPlace eclipse = SolarEclipseAtPlace(course, observer);
-  if (eclipse.kind_seen == SolarKind::kNone) return std::nullopt;
-  return LocalRow{
-      NameOf(eclipse.kind_seen),
-      eclipse.magnitude,
-      FormatFixed(eclipse.obscuration, 5, false),
-      eclipse.maximum,
-      eclipse.magnitude_seen,
-      eclipse.seen_at,
-      {Contact(eclipse.c1), Contact(eclipse.c2), Contact(eclipse.c3), Contact(eclipse.c4)},
-      {}};
+LocalRow SolarRow(const SolarAtPlace& eclipse) {
+  return {NameOf(eclipse.kind_seen),
+          eclipse.magnitude,
+          FormatFixed(eclipse.obscuration, 5, false),
+          eclipse.maximum,
+          eclipse.magnitude_seen,
+          eclipse.seen_at,
+          {Contact(eclipse.c1), Contact(eclipse.c2), Contact(eclipse.c3), Contact(eclipse.c4)},
+          {}};
 }
 
-std::optional<LocalRow> LunarRow(const EclipseRecord& record, const EclipseCourse& course,
-                                 const Observer& observer) {
-  const LunarAtPlace eclipse = LunarEclipseAtPlace(record, course, observer);
-  if (eclipse.type_seen == kNotEclipsed) return std::nullopt;
-  return LocalRow{NameOfLunar(eclipse.type_seen),
-                  record.magnitude,
-                  "",
-                  eclipse.greatest,
-                  eclipse.magnitude_seen.umbral,
-                  eclipse.seen_at,
-                  {},
-                  {Contact(eclipse.p1), Contact(eclipse.u1), Contact(eclipse.u2),
-                   Contact(eclipse.u3), Contact(eclipse.u4), Contact(eclipse.p4)}};
+LocalRow LunarRow(const EclipseRecord& record, const LunarAtPlace& eclipse) {
+  return {NameOfLunar(eclipse.type_seen),
+          record.magnitude,
+          "",
+          eclipse.greatest,
+          eclipse.magnitude_seen.umbral,
+          eclipse.seen_at,
+          {},
+          {Contact(eclipse.p1), Contact(eclipse.u1), Contact(eclipse.u2), Contact(eclipse.u3),
+           Contact(eclipse.u4), Contact(eclipse.p4)}};
 }
 
-std::string LocalCells(const LocalRow& row, const EclipseRecord& record, std::int16_t phase) {
+std::string LocalCells(const ListedSeenEclipse& found) {
+  const EclipseRecord& record = found.eclipse.record;
+  const LocalRow row =
+      found.here.solar ? SolarRow(*found.here.solar) : LunarRow(record, *found.here.lunar);
   const TerrestrialTime greatest(record.greatest);
   std::vector<std::string> cells{std::to_string(record.lunation),
-                                 std::to_string(phase),
+                                 std::to_string(found.eclipse.at.phase),
                                  std::to_string(record.type),
                                  std::to_string(record.saros),
                                  std::string(row.seen),
@@ -97,7 +94,7 @@ std::string LocalCells(const LocalRow& row, const EclipseRecord& record, std::in
   cells.insert(cells.end(), row.lunar_contacts.begin(), row.lunar_contacts.end());
   cells.push_back(Optional(record.penumbral_magnitude, 5));
   cells.push_back(FormatFixed(DeltaT(greatest) * kSecondsPerMinute, 1, false));
-  cells.push_back(FormatFixed(ClockError(GreatestEclipse(record)), 2, false));
+  cells.push_back(FormatFixed(ClockError(found.eclipse.greatest), 2, false));
   return Join(cells);
 }
 
@@ -157,17 +154,10 @@ bool PrintLocalEclipses(const GeoPoint& place, const Period& period, Printer& pr
       "lunation,phase,type,saros,seen,magnitude,obscuration,maximum,altitude,azimuth,"
       "magnitude_seen,seen_at,c1,c2,c3,c4,p1,u1,u2,u3,u4,p4,penumbral_magnitude,delta_t,sigma";
   if (!printer.Print(period.begin, header)) return false;
-  const Observer observer = ObserverAt(place);
-  return VisitPhases(period, 2, [&](std::int32_t, std::int16_t phase, const PhaseEvent& event) {
-    const EclipseRecord& record = event.eclipse;
-    if (record.type == kNotEclipsed) return true;
-    const UniversalTime ut = GreatestEclipse(record);
-    if (!Contains(period, ut)) return true;
-    const EclipseCourse course = CourseOfEclipse(record);
-    const auto row =
-        phase == kNewMoon ? SolarRow(course, observer) : LunarRow(record, course, observer);
-    return !row || printer.Print(ut, LocalCells(*row, record, phase));
-  });
+  return VisitFound(SeenEclipseFinder(period, place, SoughtEclipse::kAny),
+                    [&](const ListedSeenEclipse& found) {
+                      return printer.Print(found.eclipse.greatest, LocalCells(found));
+                    });
 }
 
 bool PrintSunAndMoon(const GeoPoint& place, const Period& period, Printer& printer) {
@@ -198,23 +188,17 @@ bool PrintSunAndMoon(const GeoPoint& place, const Period& period, Printer& print
 bool PrintCrescents(const GeoPoint& place, const Period& period, Printer& printer) {
   const std::string header = "lunation,evening,sunset,moonset,best,arcl,arcv,daz,w,q,class";
   if (!printer.Print(period.begin, header)) return false;
-  const Observer observer = ObserverAt(place);
-  constexpr std::int16_t kOnlyNewMoons = kPhaseCount;
-  return VisitPhases(
-      period, kOnlyNewMoons, [&](std::int32_t lunation, std::int16_t, const auto& event) {
-        if (!Contains(period, event.ut)) return true;
-        const Crescents mornings = MorningsBefore(lunation, observer, DeltaTDays(event.ut));
-        const Crescents evenings = EveningsAfter(lunation, observer, DeltaTDays(event.ut));
-        for (int i = 3; i > 0; --i) {
-          const Crescent& morning = mornings[static_cast<std::size_t>(i - 1)];
-          if (!printer.Print(event.ut, CrescentRow(lunation, -i, morning))) return false;
-        }
-        for (int i = 1; i <= 3; ++i) {
-          const Crescent& evening = evenings[static_cast<std::size_t>(i - 1)];
-          if (!printer.Print(event.ut, CrescentRow(lunation, i, evening))) return false;
-        }
-        return true;
-      });
+  return VisitFound(CrescentFinder(period, place), [&](const FoundCrescents& found) {
+    for (int i = 3; i > 0; --i) {
+      const Crescent& morning = found.mornings[static_cast<std::size_t>(i - 1)];
+      if (!printer.Print(found.new_moon, CrescentRow(found.lunation, -i, morning))) return false;
+    }
+    for (int i = 1; i <= 3; ++i) {
+      const Crescent& evening = found.evenings[static_cast<std::size_t>(i - 1)];
+      if (!printer.Print(found.new_moon, CrescentRow(found.lunation, i, evening))) return false;
+    }
+    return true;
+  });
 }
 
 std::optional<EclipsePath> FindPath(std::int32_t lunation) {

@@ -1,5 +1,6 @@
 #include "tools/tables/tables.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <charconv>
@@ -9,15 +10,17 @@
 #include <ostream>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "calendars/calendar_table.h"
 #include "calendars/date_processing.h"
-#include "calendars/date_texts.h"
+#include "calendars/entry_parts.h"
 #include "calendars/text.h"
-#include "engines/phases.h"
-#include "moon/phase_cache.h"
-#include "moon/syzyg.h"
-#include "tools/tables/phase_visits.h"
+#include "engines/time_units.h"
+#include "tools/tables/calendar_files.h"
+#include "tools/tables/command_line.h"
+#include "tools/tables/convert.h"
+#include "tools/tables/moon_tables.h"
 #include "tools/tables/printer.h"
 #include "tools/tables/sky_tables.h"
 
@@ -29,16 +32,7 @@ constexpr std::int32_t kLastYear = 6001;
 
 constexpr std::int32_t kFarthestLunation = 70000;  // some 5700 years
 
-constexpr std::string_view kUsage =
-    "usage: tarnwick_tables phases|eclipses|dates FROM TO\n"
-    "       tarnwick_tables local|sun_moon|crescents LATITUDE LONGITUDE FROM TO\n"
-    "       tarnwick_tables path LUNATION\n"
-    "Prints as CSV, from 1 January of the CE year FROM up to but not including that of TO, years\n"
-    "-3200 to 6001: every principal phase, eclipse or day; the eclipses that are seen at a place, "
-    "its\n"
-    "risings and settings, its crescents; or the path of the solar eclipse of a lunation. "
-    "Latitudes\n"
-    "and longitudes are degrees, north and east positive.\n";
+constexpr int kFarthestZone = 14 * kMinutesPerHour;
 
 UniversalTime NewYear(std::int32_t year) {
   DateRecord date;
@@ -49,98 +43,13 @@ UniversalTime NewYear(std::int32_t year) {
   return CJDToAJD(LocalCJD(euro_date_to_jdn(date)), 0);
 }
 
-bool PrintPhases(const Period& period, Printer& printer) {
-  const std::string header = "lunation,phase,tt,ut";
-  if (!printer.Print(period.begin, header)) return false;
-  return VisitPhases(period, 1, [&](std::int32_t lunation, std::int16_t phase, const auto& event) {
-    if (!Contains(period, event.ut)) return true;
-    const std::array cells{std::to_string(lunation), std::to_string(phase), Cell(event.tt),
-                           Cell(event.ut)};
-    return printer.Print(event.ut, Join(cells));
-  });
-}
-
-std::string EclipseRow(std::int32_t lunation, std::int16_t phase, const EclipseRecord& eclipse,
-                       UniversalTime ut) {
-  const std::array cells{std::to_string(lunation),
-                         std::to_string(phase),
-                         std::to_string(eclipse.type),
-                         std::to_string(eclipse.saros),
-                         Cell(TerrestrialTime(eclipse.greatest)),
-                         Cell(ut),
-                         FormatFixed(eclipse.gamma, 5, false),
-                         FormatFixed(eclipse.magnitude, 5, false),
-                         Optional(eclipse.penumbral_magnitude, 5),
-                         Optional(eclipse.penumbral_minutes, 3),
-                         Optional(eclipse.umbral_minutes, 3),
-                         Optional(eclipse.total_minutes, 3)};
-  return Join(cells);
-}
-
-bool PrintEclipses(const Period& period, Printer& printer) {
-  const std::string header =
-      "lunation,phase,type,saros,tt,ut,gamma,magnitude,penumbral_magnitude,penumbral,umbral,total";
-  if (!printer.Print(period.begin, header)) return false;
-  return VisitPhases(period, 2, [&](std::int32_t lunation, std::int16_t phase, const auto& event) {
-    const EclipseRecord& eclipse = event.eclipse;
-    if (eclipse.type == kNotEclipsed) return true;
-    const UniversalTime ut = GreatestEclipse(eclipse);
-    if (!Contains(period, ut)) return true;
-    return printer.Print(ut, EclipseRow(lunation, phase, eclipse, ut));
-  });
-}
-
-constexpr std::array kDateColumns{kCE, kJC, kARC, kSD, kLLT, kKSG, kOLW};
-
-bool PrintDates(const Period& period, Printer& printer) {
-  std::string header = "day_number,weekday";
-  for (const Calendar calendar : kDateColumns)
-    header += "," + std::string(AbbreviationOf(calendar));
-  if (!printer.Print(period.begin, header)) return false;
-  const DayNumber end = DayOf(period.end, 0);
-  std::string row;
-  for (DayNumber day = DayOf(period.begin, 0); day < end; day = day + 1) {
-    const UniversalTime noon = NoonOf(day, 0);
-    row = std::to_string(day.value) + ',' + std::to_string(euro_day_of_week(day.value));
-    for (const Calendar calendar : kDateColumns) {
-      const std::string text = ShortDateText(calendar, noon, 0);
-      row += ',';
-      row.append(text, 0, text.find(' '));  // without the abbreviation
-    }
-    if (!printer.Print(noon, row)) return false;
-  }
-  return true;
-}
-
-// What stands behind the name of a command.
-enum class Takes { kPeriod, kPlaceAndPeriod };
-
 struct Command {
-  std::string_view name;
-  Takes takes;
-  bool (*print)(const GeoPoint& place, const Period& period, Printer& printer);
+  Syntax syntax;
+  int (*run)(const Command& command, const CommandLine& line, const Surroundings& surroundings);
+  // Of a table:
+  bool (*print)(const GeoPoint& place, const Period& period, Printer& printer) = nullptr;
+  bool (*write)(const GeoPoint& place, const Period& period, EventSink& sink) = nullptr;
 };
-
-template <bool (*kPrint)(const Period&, Printer&)>
-bool Everywhere(const GeoPoint& /*place*/, const Period& period, Printer& printer) {
-  return kPrint(period, printer);
-}
-
-constexpr Command kCommands[] = {
-    {"phases", Takes::kPeriod, Everywhere<PrintPhases>},
-    {"eclipses", Takes::kPeriod, Everywhere<PrintEclipses>},
-    {"dates", Takes::kPeriod, Everywhere<PrintDates>},
-    {"local", Takes::kPlaceAndPeriod, PrintLocalEclipses},
-    {"sun_moon", Takes::kPlaceAndPeriod, PrintSunAndMoon},
-    {"crescents", Takes::kPlaceAndPeriod, PrintCrescents},
-};
-
-const Command* FindCommand(std::string_view name) {
-  for (const Command& command : kCommands) {
-    if (command.name == name) return &command;
-  }
-  return nullptr;
-}
 
 // False for a text that is not such a number as a whole.
 template <class Number>
@@ -149,9 +58,14 @@ bool Parse(std::string_view text, Number& number) {
   return status == std::errc() && end == text.data() + text.size();
 }
 
-int Refuse(std::ostream& err, std::string_view why) {
-  err << "tarnwick_tables: " << why << '\n' << kUsage;
+int Refuse(const Surroundings& surroundings, std::string_view why, std::string_view usage) {
+  surroundings.err << "tarnwick_tables: " << why << "\nusage: " << usage
+                   << "\n'tarnwick_tables --help' tells more.\n";
   return kBadArguments;
+}
+
+int Refuse(const Surroundings& surroundings, std::string_view why, const Command& command) {
+  return Refuse(surroundings, why, UsageOf(command.syntax));
 }
 
 // Whoever closes the pipe has read enough; any other error is told.
@@ -162,8 +76,6 @@ int ReportFailedWrite(std::ostream& err, int error) {
   }
   return kCannotWrite;
 }
-
-using Texts = std::span<const std::string_view>;
 
 // Each returns what is wrong, or nothing.
 
@@ -186,51 +98,201 @@ std::string_view ReadPlace(std::string_view latitude, std::string_view longitude
   return {};
 }
 
-// Prints by `print`, which returns false when the output takes no more.
-template <class Print>
-int Finish(const Period& period, std::ostream& out, std::ostream& err, bool shows_progress,
-           const Print& print) {
-  Printer printer(period, out, shows_progress ? &err : nullptr);
-  const bool done = print(printer) && out.flush().good();
-  const int error = errno;  // progress may change it
-  if (shows_progress) err << "\r     \r";
-  return done ? kTablesDone : ReportFailedWrite(err, error);
+std::string_view ReadCalendar(std::string_view text, Calendar& calendar) {
+  const auto found = CalendarIndex(UpperCase(text));
+  if (!found) return "a calendar is one of CE, JC, ARC, SD, LLT, KSG, OLW, CJD and AJD";
+  calendar = *found;
+  return {};
 }
 
-int RunPath(Texts arguments, std::ostream& out, std::ostream& err) {
-  std::int32_t lunation = 0;
-  if (arguments.size() != 1 || !Parse(arguments[0], lunation)) {
-    return Refuse(err, "path needs a lunation, a whole number");
+std::string_view ReadZone(std::string_view text, int& offset_minutes) {
+  constexpr std::string_view kForm = "+HH:MM";
+  int hours = 0;
+  int minutes = 0;
+  const bool has_form = text.size() == kForm.size() && (text[0] == '+' || text[0] == '-') &&
+                        IsDigit(text[1]) && Parse(text.substr(1, 2), hours) && text[3] == ':' &&
+                        IsDigit(text[4]) && Parse(text.substr(4), minutes) &&
+                        minutes < kMinutesPerHour;
+  if (!has_form) return "a zone is +HH:MM east or -HH:MM west of Greenwich";
+  offset_minutes = hours * kMinutesPerHour + minutes;
+  if (offset_minutes > kFarthestZone) return "zones run from -14:00 to +14:00";
+  if (text[0] == '-') offset_minutes = -offset_minutes;
+  return {};
+}
+
+// Writes by `write`, which returns false when the output takes no more.
+template <class Write>
+int Finish(const Surroundings& surroundings, const Write& write) {
+  const bool done = write() && surroundings.out.flush().good();
+  const int error = errno;  // progress may change it
+  if (surroundings.shows_progress) surroundings.err << "\r     \r";
+  return done ? kTablesDone : ReportFailedWrite(surroundings.err, error);
+}
+
+// What lies before the year 1 is not in the file: the user is told.
+void ReportLeftOut(std::ostream& err, int count) {
+  if (count == 0) return;
+  err << "tarnwick_tables: left out, since calendar files begin with the year 1: " << count
+      << (count == 1 ? " event\n" : " events\n");
+}
+
+int RunTable(const Command& command, const CommandLine& line, const Surroundings& surroundings) {
+  GeoPoint place;
+  Period period{};
+  const std::vector<std::string_view>& operands = line.operands;
+  const bool with_place = operands.size() > 2;
+  std::string_view wrong = with_place ? ReadPlace(operands[0], operands[1], place) : "";
+  if (wrong.empty()) wrong = ReadPeriod(operands[operands.size() - 2], operands.back(), period);
+  if (!wrong.empty()) return Refuse(surroundings, wrong, command);
+
+  const Progress progress(period, surroundings.shows_progress ? &surroundings.err : nullptr);
+  if (!line.Has("--ics")) {
+    Printer printer(surroundings.out, progress);
+    return Finish(surroundings, [&] { return command.print(place, period, printer); });
   }
-  if (std::abs(lunation) > kFarthestLunation) return Refuse(err, "that lunation is out of range");
+  EventSink sink(surroundings.out, surroundings.now, progress);
+  const int status = Finish(surroundings, [&] {
+    const bool done = command.write(place, period, sink);
+    sink.End();
+    return done;
+  });
+  if (status == kTablesDone) ReportLeftOut(surroundings.err, sink.LeftOut());
+  return status;
+}
+
+int RunPath(const Command& command, const CommandLine& line, const Surroundings& surroundings) {
+  std::int32_t lunation = 0;
+  if (!Parse(line.operands[0], lunation)) {
+    return Refuse(surroundings, "a lunation is a whole number", command);
+  }
+  if (std::abs(lunation) > kFarthestLunation) {
+    return Refuse(surroundings, "that lunation is out of range", command);
+  }
   const std::optional<EclipsePath> path = FindPath(lunation);
-  if (!path) return Refuse(err, "no umbra meets the Earth at that new moon");
-  return Finish({}, out, err, false,
-                [&](Printer& printer) { return PrintPath(lunation, *path, printer); });
+  if (!path) return Refuse(surroundings, "no umbra meets the Earth at that new moon", command);
+  Printer printer(surroundings.out, Progress({}, nullptr));
+  return Finish(surroundings, [&] { return PrintPath(lunation, *path, printer); });
+}
+
+int RunConvert(const Command& command, const CommandLine& line, const Surroundings& surroundings) {
+  EntryContext context;
+  std::string_view wrong =
+      ReadCalendar(line.ValueOr("--calendar", AbbreviationOf(kCE)), context.current_calendar);
+  if (wrong.empty()) wrong = ReadZone(line.ValueOr("--zone", "+00:00"), context.offset_minutes);
+  if (!wrong.empty()) return Refuse(surroundings, wrong, command);
+  switch (ConvertLines(surroundings.in, surroundings.out, context)) {
+    case Converted::kAll:
+      return kTablesDone;
+    case Converted::kSomeRefused:
+      return kEntryRefused;
+    case Converted::kInputFailed:
+      surroundings.err << "tarnwick_tables: cannot read standard input\n";
+      return kCannotRead;
+    case Converted::kOutputFailed:
+      break;
+  }
+  return ReportFailedWrite(surroundings.err, errno);
+}
+
+constexpr std::string_view kFromAbout = "the first CE year, -3200 to 6000";
+constexpr std::string_view kToAbout = "the CE year that ends the table and is not in it, to 6001";
+constexpr std::string_view kLatitudeAbout = "degrees, north positive, -90 to 90";
+constexpr std::string_view kLongitudeAbout = "degrees, east positive, -180 to 180";
+
+constexpr std::array<Operand, 2> kPeriodOperands{{{"FROM", kFromAbout}, {"TO", kToAbout}}};
+constexpr std::array<Operand, 4> kPlaceOperands{{{"LATITUDE", kLatitudeAbout},
+                                                 {"LONGITUDE", kLongitudeAbout},
+                                                 {"FROM", kFromAbout},
+                                                 {"TO", kToAbout}}};
+constexpr std::array<Operand, 1> kPathOperands{
+    {{"LUNATION", "its number, counted from the new moon of 2000-01-06 as 0"}}};
+
+constexpr std::array<Option, 1> kTableOptions{
+    {{"--ics", "", "prints a calendar file (iCalendar) instead"}}};
+constexpr std::array<Option, 2> kConvertOptions{
+    {{"--calendar", "ABBREVIATION", "of entries that name none: CE, JC, ... (otherwise CE)"},
+     {"--zone", "+HH:MM", "how times are read, east of Greenwich (otherwise +00:00)"}}};
+
+constexpr std::string_view kTimes =
+    "Years begin at 0h Universal Time. Instants are AJD, in Terrestrial (tt) and Universal Time\n"
+    "(ut); phases are 0 new moon, 1 first quarter, 2 full moon, 3 last quarter.\n";
+constexpr std::string_view kPlaceTimes =
+    "Years begin at 0h Universal Time. Instants are AJD in Universal Time, angles degrees.\n";
+
+constexpr Command kCommands[] = {
+    {{"phases", "the principal phases of the Moon", kTimes, kPeriodOperands, kTableOptions},
+     RunTable,
+     PrintPhases,
+     WritePhases},
+    {{"eclipses", "the eclipses, by their greatest phase", kTimes, kPeriodOperands, kTableOptions},
+     RunTable,
+     PrintEclipses,
+     WriteEclipses},
+    {{"dates", "the days in seven calendars", "", kPeriodOperands, {}}, RunTable, PrintDates},
+    {{"local", "the eclipses that are seen at a place", kPlaceTimes, kPlaceOperands, kTableOptions},
+     RunTable,
+     PrintLocalEclipses,
+     WriteLocalEclipses},
+    {{"sun_moon",
+      "risings, transits and settings at a place, day by day",
+      kPlaceTimes,
+      kPlaceOperands,
+      {}},
+     RunTable,
+     PrintSunAndMoon},
+    {{"crescents", "the crescents of a place, three evenings and mornings of each Moon",
+      "The calendar file has the evening on which each Moon is seen first.\n", kPlaceOperands,
+      kTableOptions},
+     RunTable,
+     PrintCrescents,
+     WriteCrescents},
+    {{"path",
+      "the path of the solar eclipse of a lunation, minute by minute",
+      kPlaceTimes,
+      kPathOperands,
+      {}},
+     RunPath},
+    {{"convert",
+      "the entries that standard input has, one a line, in all calendars",
+      "An entry is a date and perhaps a time, as the entry box takes them: 2003-12-31 CE 15:55.\n"
+      "A row is written before the next entry is read. A refused entry has its message in the\n"
+      "column error; then the status is 1.\n",
+      {},
+      kConvertOptions},
+     RunConvert},
+};
+
+std::vector<const Syntax*> AllSyntaxes() {
+  std::vector<const Syntax*> all;
+  for (const Command& command : kCommands) all.push_back(&command.syntax);
+  return all;
+}
+
+const Command* FindCommand(std::string_view name) {
+  for (const Command& command : kCommands) {
+    if (command.syntax.name == name) return &command;
+  }
+  return nullptr;
+}
+
+int Tell(const Surroundings& surroundings, std::string_view help) {
+  return Finish(surroundings, [&] { return (surroundings.out << help).good(); });
 }
 
 }  // namespace
 
-int RunTables(std::span<const std::string_view> arguments, std::ostream& out, std::ostream& err,
-              bool shows_progress) {
-  if (arguments.empty()) return Refuse(err, "a command is needed");
-  const Texts rest = arguments.subspan(1);
-  if (arguments[0] == "path") return RunPath(rest, out, err);
+int RunTables(Texts arguments, const Surroundings& surroundings) {
+  constexpr std::string_view kUsage = "tarnwick_tables COMMAND ...";
+  if (arguments.empty()) return Refuse(surroundings, "a command is needed", kUsage);
+  if (arguments[0] == kHelpOption.name) return Tell(surroundings, HelpOf(AllSyntaxes()));
   const Command* command = FindCommand(arguments[0]);
-  if (command == nullptr) return Refuse(err, "unknown command " + std::string(arguments[0]));
-
-  GeoPoint place;
-  Period period{};
-  const bool with_place = command->takes == Takes::kPlaceAndPeriod;
-  if (rest.size() != (with_place ? 4U : 2U)) {
-    return Refuse(err, with_place ? "a latitude, a longitude and two years are needed"
-                                  : "two years are needed");
+  if (command == nullptr) {
+    return Refuse(surroundings, "unknown command '" + std::string(arguments[0]) + "'", kUsage);
   }
-  std::string_view wrong = with_place ? ReadPlace(rest[0], rest[1], place) : "";
-  if (wrong.empty()) wrong = ReadPeriod(rest[rest.size() - 2], rest.back(), period);
-  if (!wrong.empty()) return Refuse(err, wrong);
-  return Finish(period, out, err, shows_progress,
-                [&](Printer& printer) { return command->print(place, period, printer); });
+  const CommandLine line = ReadCommandLine(command->syntax, arguments.subspan(1));
+  if (line.Has(kHelpOption.name)) return Tell(surroundings, HelpOf(command->syntax));
+  if (!line.fault.empty()) return Refuse(surroundings, line.fault, *command);
+  return command->run(*command, line, surroundings);
 }
 
 }  // namespace tarnwick
