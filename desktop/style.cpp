@@ -117,6 +117,24 @@ void DrawCheckMark(QPainter& painter, const QStyleOption& option) {
   painter.restore();
 }
 
+// Of a column of a table.
+void DrawHeading(QPainter& painter, const QStyleOption& option) {
+  painter.fillRect(option.rect, IsPointedAt(option) ? Look::kPanelEdge : Look::kPanel);
+  painter.save();
+  painter.setPen(IsPointedAt(option) ? Look::kFieldEdge : Look::kPanelEdge);
+  painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+  painter.setPen(Look::kPanelEdge);
+  painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
+  painter.restore();
+}
+
+void DrawOrder(QPainter& painter, const QStyleOption& option) {
+  const auto* heading = qstyleoption_cast<const QStyleOptionHeader*>(&option);
+  const bool down = heading != nullptr && heading->sortIndicator == QStyleOptionHeader::SortDown;
+  DrawTriangle(painter, option.rect, option.fontMetrics.height() / 2.0,
+               down ? Pointing::kUp : Pointing::kDown, Look::kFieldText);
+}
+
 QRect ArrowPlace(const QStyleOption& list) {
   QRect place = list.rect;
   place.setLeft(place.right() + 1 - ArrowWidth(list.fontMetrics));
@@ -186,12 +204,14 @@ class Style final : public QProxyStyle {
         return kRingWidth + kRingGap;
       case PM_DefaultFrameWidth:
         return 1;
+      case PM_HeaderMargin:
+      case PM_HeaderMarkSize:
+        return FontOf(option).height() / 2;
       case PM_IndicatorWidth:
       case PM_IndicatorHeight:
       case PM_ExclusiveIndicatorWidth:
       case PM_ExclusiveIndicatorHeight:
-        return option != nullptr ? option->fontMetrics.height()
-                                 : QFontMetrics(QApplication::font()).height();
+        return FontOf(option).height();
       default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -256,6 +276,9 @@ class Style final : public QProxyStyle {
         painter->fillRect(option->rect, Look::kField);
         DrawEdge(*painter, option->rect);
         break;
+      case PE_IndicatorHeaderArrow:
+        DrawOrder(*painter, *option);
+        break;
       case PE_Frame:
       case PE_FrameMenu:
         DrawEdge(*painter, option->rect);
@@ -271,6 +294,10 @@ class Style final : public QProxyStyle {
       if (const auto* frame = qobject_cast<const QFocusFrame*>(widget)) {
         DrawRing(*painter, *option, *frame);
       }
+      return;
+    }
+    if (element == CE_HeaderSection || element == CE_HeaderEmptyArea) {
+      DrawHeading(*painter, *option);
       return;
     }
     const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
@@ -298,6 +325,9 @@ class Style final : public QProxyStyle {
   }
 
  private:
+  static QFontMetrics FontOf(const QStyleOption* option) {
+    return option != nullptr ? option->fontMetrics : QFontMetrics(QApplication::font());
+  }
   static bool IsTriangle(const QString& caption) { return caption == "<" || caption == ">"; }
   // An edit in a list has no frame of its own.
   static bool HasFrame(const QStyleOption& option) {
@@ -330,6 +360,7 @@ void DrawTriangle(QPainter& painter, const QRectF& place, double size, Pointing 
   painter.translate(place.center());
   if (pointing == Pointing::kLeft) painter.rotate(90);
   if (pointing == Pointing::kRight) painter.rotate(-90);
+  if (pointing == Pointing::kUp) painter.rotate(180);
   const double half = size / 2;
   painter.drawPolygon(QPolygonF({{-half, -0.6 * half}, {half, -0.6 * half}, {0, 0.6 * half}}));
   painter.restore();
