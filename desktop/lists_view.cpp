@@ -110,6 +110,7 @@ QWidget* ListsView::MakeColumns() {
     row.addWidget(check);
   }
   row.addStretch();
+  row.addStrut(QCheckBox("X").sizeHint().height());  // where all are hidden
   return panel;
 }
 

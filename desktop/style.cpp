@@ -117,22 +117,35 @@ void DrawCheckMark(QPainter& painter, const QStyleOption& option) {
   painter.restore();
 }
 
-// Of a column of a table.
-void DrawHeading(QPainter& painter, const QStyleOption& option) {
-  painter.fillRect(option.rect, IsPointedAt(option) ? Look::kPanelEdge : Look::kPanel);
+// The heading of a column of a table: its text stands as the cells do, the arrow of the order at the
+// other end.
+void DrawHeading(QPainter& painter, const QStyleOptionHeader& heading) {
+  const bool pointed_at = IsPointedAt(heading);
+  painter.fillRect(heading.rect, pointed_at ? Look::kPanelEdge : Look::kPanel);
   painter.save();
-  painter.setPen(IsPointedAt(option) ? Look::kFieldEdge : Look::kPanelEdge);
-  painter.drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-  painter.setPen(Look::kPanelEdge);
-  painter.drawLine(option.rect.topRight(), option.rect.bottomRight());
-  painter.restore();
-}
+  painter.setPen(pointed_at ? Look::kFieldEdge : Look::kPanelEdge);
+  painter.drawLine(heading.rect.bottomLeft(), heading.rect.bottomRight());
+  painter.drawLine(heading.rect.topRight(), heading.rect.bottomRight());
 
-void DrawOrder(QPainter& painter, const QStyleOption& option) {
-  const auto* heading = qstyleoption_cast<const QStyleOptionHeader*>(&option);
-  const bool down = heading != nullptr && heading->sortIndicator == QStyleOptionHeader::SortDown;
-  DrawTriangle(painter, option.rect, option.fontMetrics.height() / 2.0,
-               down ? Pointing::kUp : Pointing::kDown, Look::kFieldText);
+  const int padding = FieldPadding(heading.fontMetrics);
+  QRect text = heading.rect.adjusted(padding, 0, -padding, 0);
+  if (heading.sortIndicator != QStyleOptionHeader::None) {
+    QRect arrow = text;
+    arrow.setWidth(padding);
+    if (heading.textAlignment.testFlag(Qt::AlignRight)) {
+      text.setLeft(arrow.right() + padding);
+    } else {
+      arrow.moveRight(text.right());
+      text.setRight(arrow.left() - padding);
+    }
+    const bool ascending = heading.sortIndicator == QStyleOptionHeader::SortDown;
+    DrawTriangle(painter, arrow, padding, ascending ? Pointing::kUp : Pointing::kDown,
+                 Look::kFieldText);
+  }
+  painter.setPen(IsEnabled(heading) ? Look::kCaption : Look::kDisabledText);
+  painter.drawText(text, static_cast<int>(heading.textAlignment) | Qt::TextSingleLine,
+                   heading.fontMetrics.elidedText(heading.text, Qt::ElideRight, text.width()));
+  painter.restore();
 }
 
 QRect ArrowPlace(const QStyleOption& list) {
@@ -205,8 +218,7 @@ class Style final : public QProxyStyle {
       case PM_DefaultFrameWidth:
         return 1;
       case PM_HeaderMargin:
-      case PM_HeaderMarkSize:
-        return FontOf(option).height() / 2;
+        return FontOf(option).height() / 3;
       case PM_IndicatorWidth:
       case PM_IndicatorHeight:
       case PM_ExclusiveIndicatorWidth:
@@ -276,9 +288,6 @@ class Style final : public QProxyStyle {
         painter->fillRect(option->rect, Look::kField);
         DrawEdge(*painter, option->rect);
         break;
-      case PE_IndicatorHeaderArrow:
-        DrawOrder(*painter, *option);
-        break;
       case PE_Frame:
       case PE_FrameMenu:
         DrawEdge(*painter, option->rect);
@@ -296,8 +305,13 @@ class Style final : public QProxyStyle {
       }
       return;
     }
-    if (element == CE_HeaderSection || element == CE_HeaderEmptyArea) {
-      DrawHeading(*painter, *option);
+    const auto* heading = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    if (element == CE_Header && heading != nullptr) {
+      DrawHeading(*painter, *heading);
+      return;
+    }
+    if (element == CE_HeaderEmptyArea) {
+      painter->fillRect(option->rect, Look::kPanel);
       return;
     }
     const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);

@@ -80,7 +80,7 @@ namespace {
 // Between the edge of a cell and its text.
 int PaddingOf(const QFontMetrics& font) { return font.height() / 2; }
 
-// Writes what a cell says, as nothing but text; the row below it is painted by the view.
+// Writes what a cell says; the view has painted the row.
 class CellDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -105,6 +105,9 @@ class CellDelegate final : public QStyledItemDelegate {
 TableView::TableView(QWidget* parent) : QTableView(parent), model_(new TableModel(this)) {
   setModel(model_);
   setItemDelegate(new CellDelegate(this));
+  QPalette see_through = palette();
+  see_through.setColor(QPalette::Highlight, Qt::transparent);
+  setPalette(see_through);
   setSelectionBehavior(SelectRows);
   setSelectionMode(SingleSelection);
   setEditTriggers(NoEditTriggers);
@@ -139,15 +142,20 @@ void TableView::SetColumns(const std::vector<TableColumn>& columns) {
   verticalScrollBar()->setValue(top);
 }
 
-// A heading has room for the arrow that shows the order.
+// A heading has room for the arrow of the order too.
 int TableView::WidthOf(const TableColumn& column) const {
   const QFontMetrics font = fontMetrics();
-  const int arrow = font.height();
-  const int heading = font.horizontalAdvance(ToQt(column.heading)) + arrow;
-  return std::max(heading, font.horizontalAdvance(ToQt(column.longest))) + 2 * PaddingOf(font);
+  const int padding = PaddingOf(font);
+  const int heading = font.horizontalAdvance(ToQt(column.heading)) + 2 * padding;
+  return std::max(heading, font.horizontalAdvance(ToQt(column.longest))) + 2 * padding;
 }
 
-void TableView::SetRowCount(std::size_t count) { model_->SetRowCount(static_cast<int>(count)); }
+void TableView::SetRowCount(std::size_t count) {
+  const int rows = static_cast<int>(count);
+  const bool fewer = rows < model_->rowCount({});
+  model_->SetRowCount(rows);
+  if (fewer) scrollToTop();
+}
 
 void TableView::Renew() { model_->Renew(); }
 
