@@ -43,21 +43,18 @@ void Binder::Bind(Table& table, TableView& view) {
 }
 
 void Binder::BindTableEvents(Table& table, TableView& view) {
-  const auto take = [&table, &gate = gate_] {
-    gate.RunFor(table, [&] { table.PressEnter(); });
-  };
+  const auto take = [&table, &gate = gate_] { gate.RunFor(table, [&] { table.PressEnter(); }); };
   QObject::connect(view.selectionModel(), &QItemSelectionModel::currentRowChanged, &view,
                    [&, &gate = gate_] {
                      const bool taken = gate.RunFor(table, [&] { table.Select(view.Selected()); });
                      if (!taken) view.Select(table.Selected());
                    });
   QObject::connect(&view, &TableView::doubleClicked, &view, take);
-  QObject::connect(view.horizontalHeader(), &QHeaderView::sectionClicked, &view,
-                   [&, &gate = gate_](int column) {
-                     gate.RunFor(table,
-                                 [&] { table.ClickHeading(static_cast<std::size_t>(column)); });
-                     view.ShowOrder(table.SortedBy());  // the heading has turned its arrow
-                   });
+  QObject::connect(
+      view.horizontalHeader(), &QHeaderView::sectionClicked, &view, [&, &gate = gate_](int column) {
+        gate.RunFor(table, [&] { table.ClickHeading(static_cast<std::size_t>(column)); });
+        view.ShowOrder(table.SortedBy());  // the heading has turned its arrow
+      });
   new EventHook(view, [take](QEvent& event) {
     if (!IsEnter(event)) return false;
     take();

@@ -117,8 +117,8 @@ void DrawCheckMark(QPainter& painter, const QStyleOption& option) {
   painter.restore();
 }
 
-// The heading of a column of a table: its text stands as the cells do, the arrow of the order at the
-// other end.
+// The heading of a column of a table: its text stands as the cells do, the arrow of the order at
+// the other end.
 void DrawHeading(QPainter& painter, const QStyleOptionHeader& heading) {
   const bool pointed_at = IsPointedAt(heading);
   painter.fillRect(heading.rect, pointed_at ? Look::kPanelEdge : Look::kPanel);

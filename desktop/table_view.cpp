@@ -60,7 +60,8 @@ class TableModel final : public QAbstractTableModel {
       return QAbstractTableModel::headerData(section, orientation, role);
     }
     if (role == Qt::TextAlignmentRole) return AlignmentOf(section);
-    if (role == Qt::DisplayRole) return ToQt(columns_.at(static_cast<std::size_t>(section)).heading);
+    if (role == Qt::DisplayRole)
+      return ToQt(columns_.at(static_cast<std::size_t>(section)).heading);
     return {};
   }
 

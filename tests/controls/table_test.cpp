@@ -67,9 +67,9 @@ TEST(Table, TellsItsPropertiesAsText) {
   EXPECT_EQ(PropertyText(form.table, "SortedBy"), "-1");
   form.table.Select(7);
   form.table.SetOrder(Table::Order{1, true});
-  for (const auto& [property, text] : {std::pair("RowCount", "10"), std::pair("Selected", "7"),
-                                       std::pair("Columns", "Date|Saros"),
-                                       std::pair("SortedBy", "1 descending")}) {
+  for (const auto& [property, text] :
+       {std::pair("RowCount", "10"), std::pair("Selected", "7"), std::pair("Columns", "Date|Saros"),
+        std::pair("SortedBy", "1 descending")}) {
     EXPECT_EQ(PropertyText(form.table, property), text) << property;
   }
   EXPECT_EQ(DumpFields(form.table).at(1), "10");

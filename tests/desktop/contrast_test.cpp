@@ -68,9 +68,7 @@ void ContrastTest::textsAreLegible() {
   VerifyContrast(
       {
           {"text", Look::kText, {Look::kWindow, Look::kPanel, row}},
-          {"caption",
-           Look::kCaption,
-           {Look::kWindow, Look::kPanel, Look::kPanelEdge, Look::kSky}},
+          {"caption", Look::kCaption, {Look::kWindow, Look::kPanel, Look::kPanelEdge, Look::kSky}},
           {"selected", ToQt(kSelectedColor), {Look::kWindow, Look::kPanel, row, Look::kSky}},
           {"unselected", ToQt(kUnselectedColor), {Look::kWindow, Look::kPanel, row, Look::kSky}},
           {"disabled", Look::kDisabledText, {Look::kWindow, Look::kPanel, Look::kDisabledButton}},

@@ -51,9 +51,9 @@ void ListsViewTest::nothingMovesOrIsClippedAsTextsChange() {
     const auto places = [&] {
       QTest::qWait(10);  // for the layouts, one inside the other
       QList<QRect> found{lists.view.geometry()};
-      for (const Control* control : std::initializer_list<const Control*>{
-               &form.txbFrom, &form.cmdList, &form.fraColumns, &form.tblList, &form.cmdTakeRow,
-               &form.cmdClose}) {
+      for (const Control* control :
+           std::initializer_list<const Control*>{&form.txbFrom, &form.cmdList, &form.fraColumns,
+                                                 &form.tblList, &form.cmdTakeRow, &form.cmdClose}) {
         found << lists.view.WidgetOf(*control)->geometry();
       }
       return found;

@@ -40,10 +40,10 @@ struct Windows : AllWindows {
     BelongTo(notice, main.view);
     main.form.log.chkLog.SetValue(true);
     main.form.move.cmdMove.Click();
-    for (Button* opener : {&main.form.log.cmdViewLog, &main.form.log.cmdLogPreferences,
-                           &main.form.calendar.cmdDisplayCalendar, &main.form.sky.cmdSky,
-                           &main.form.lists.cmdLists, &main.form.cmdHelp,
-                           &main.form.help_window.cmdCredits}) {
+    for (Button* opener :
+         {&main.form.log.cmdViewLog, &main.form.log.cmdLogPreferences,
+          &main.form.calendar.cmdDisplayCalendar, &main.form.sky.cmdSky, &main.form.lists.cmdLists,
+          &main.form.cmdHelp, &main.form.help_window.cmdCredits}) {
       opener->Click();
     }
     main.FillWithLongestTexts();
@@ -53,7 +53,9 @@ struct Windows : AllWindows {
     QCoreApplication::processEvents();
   }
 
-  QList<QWidget*> Secondary() { return {&log, &preferences, &calendar, &sky, &lists, &help, &credits}; }
+  QList<QWidget*> Secondary() {
+    return {&log, &preferences, &calendar, &sky, &lists, &help, &credits};
+  }
   QList<QWidget*> All() { return Secondary() << &main.view; }
 };
 

@@ -33,7 +33,8 @@ namespace {
 // A table whose cells say where they are.
 struct ShownTable {
   explicit ShownTable(std::size_t rows) {
-    table.SetColumns({{"Date", "-2026-11-22 CE"}, {"Eclipse", "Total solar"}, {"Saros", "88", true}});
+    table.SetColumns(
+        {{"Date", "-2026-11-22 CE"}, {"Eclipse", "Total solar"}, {"Saros", "88", true}});
     table.cell_text = [this](std::size_t row, std::size_t column) {
       ++asked;
       return word + std::to_string(row) + "/" + std::to_string(column);
@@ -52,9 +53,7 @@ struct ShownTable {
   QPoint MiddleOf(int row, int column) {
     return view.visualRect(view.model()->index(row, column)).center();
   }
-  void Click(int row) {
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, MiddleOf(row, 1));
-  }
+  void Click(int row) { QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, MiddleOf(row, 1)); }
 
   BoundWindow bound;
   Table table{bound.form, "tblList"};
