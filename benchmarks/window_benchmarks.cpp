@@ -1,15 +1,19 @@
 // How long the main window takes to show a moment, painting included, as a step of a repeated move
-// does. It is painted off the screen, at the size given, in units of the screen.
+// does, and the window of lists a page of its table. It is painted off the screen, at the size
+// given, in units of the screen.
 #include <QApplication>
+#include <QScrollBar>
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <cstdlib>
 #include <string>
 
 #include "desktop/accessible.h"
+#include "desktop/lists_view.h"
 #include "desktop/look.h"
 #include "desktop/main_window_view.h"
 #include "desktop/sky_view.h"
+#include "desktop/table_view.h"
 #include "tools/driver/driver_desktop.h"
 
 namespace tarnwick {
@@ -73,6 +77,51 @@ void PaintedSky(benchmark::State& state, const std::string& step) {
 }
 BENCHMARK_CAPTURE(PaintedSky, Day, "1 day")->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(PaintedSky, AnotherEclipse, "1 ARC year")->Unit(benchmark::kMillisecond);
+
+// The window of lists with so many rows of eight columns.
+struct FilledTable {
+  explicit FilledTable(std::size_t rows) {
+    main.Load();
+    main.lists.cmdLists.Click();
+    lists.tblList.SetColumns(std::vector<TableColumn>(8, {"Eclipse", "Central total solar"}));
+    lists.tblList.cell_text = [](std::size_t row, std::size_t column) {
+      return std::to_string(row) + " of column " + std::to_string(column);
+    };
+    lists.tblList.SetRowCount(rows);
+    QCoreApplication::processEvents();
+  }
+  QScrollBar& Bar() {
+    return *static_cast<TableView*>(view.WidgetOf(lists.tblList))->verticalScrollBar();
+  }
+
+  HandlerGate gate{[](const std::string&) { std::abort(); }};
+  DriverDesktop desktop{[](YieldMode) {}, QCoreApplication::applicationDirPath().toStdString()};
+  Screen screen;
+  frmMain main{desktop, screen};
+  frmLists& lists = main.lists.lists_window;
+  ListsView view{lists, gate};
+};
+
+// A page further each time.
+void ScrolledTable(benchmark::State& state) {
+  FilledTable table(static_cast<std::size_t>(state.range(0)));
+  QScrollBar& bar = table.Bar();
+  for ([[maybe_unused]] auto _ : state) {
+    bar.setValue(bar.value() == bar.maximum() ? 0 : bar.value() + bar.pageStep());
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(ScrolledTable)->Arg(10'000)->Arg(3'360'000)->Unit(benchmark::kMillisecond);
+
+// Ten rows more each time, as while a list is made.
+void GrowingTable(benchmark::State& state) {
+  FilledTable table(static_cast<std::size_t>(state.range(0)));
+  for ([[maybe_unused]] auto _ : state) {
+    table.lists.tblList.SetRowCount(table.lists.tblList.RowCount() + 10);
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(GrowingTable)->Arg(10'000)->Arg(450'000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tarnwick

@@ -19,6 +19,10 @@ void Table::Select(std::optional<std::size_t> row) {
   Assign(selected_, row, Property::kSelectedRow);
 }
 
+void Table::ClickHeading(std::size_t column) const {
+  if (on_heading_click && column < columns_.size()) on_heading_click(column);
+}
+
 bool Table::PressEnter() {
   if (selected_ && on_take) on_take(*selected_);
   return true;

@@ -48,6 +48,7 @@ class Table : public Control {
   // The user clicks the heading of a column; takes a row, by Enter or a double click.
   std::function<void(std::size_t column)> on_heading_click;
   std::function<void(std::size_t row)> on_take;
+  void ClickHeading(std::size_t column) const;
   bool PressEnter() override;
 
  private:

@@ -9,6 +9,7 @@
 #include "controls/controls.h"
 #include "controls/drawing.h"
 #include "controls/form.h"
+#include "controls/table.h"
 #include "desktop/handler_gate.h"
 
 class QCheckBox;
@@ -31,6 +32,7 @@ class DrawingView;
 class LinkLabel;
 class Panel;
 class PictureView;
+class TableView;
 
 // What a view adds to the caption of a control.
 struct Wording {
@@ -72,6 +74,7 @@ class Binder {
   void Bind(Picture& picture, QWidget& area);
   void Bind(Picture& picture, PictureView& view);
   void Bind(Drawing& drawing, DrawingView& view);
+  void Bind(Table& table, TableView& view);
   void Bind(Timer& timer, QTimer& clock);
   void Bind(TextBox& box, QLineEdit& edit);
   void Bind(TextBox& box, QPlainTextEdit& edit);
@@ -84,6 +87,7 @@ class Binder {
   void BindControl(Control& control, QWidget& widget);
   void BindFocus(Control& control, QWidget& widget);
   void BindForeColor(Control& control, QWidget& widget);
+  void BindTableEvents(Table& table, TableView& view);
   void BindTextEvents(TextBox& box, QWidget& edit, QWidget& surface);
   template <class Widget>
   void BindCaption(CaptionedControl& control, Widget& widget);

@@ -86,6 +86,13 @@ QFont Scaled(const QFont& font, double factor) {
   return scaled;
 }
 
+QFont TitleFont(const QFont& usual) {
+  constexpr double kSize = 1.1;
+  QFont font = Scaled(usual, kSize);
+  font.setBold(true);
+  return font;
+}
+
 void SetTextColor(QWidget& widget, const QColor& color) {
   QPalette palette;
   if (color.isValid()) {

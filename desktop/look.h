@@ -101,6 +101,9 @@ double PixelRatioOf(const QPainter& painter);
 // The font at another size.
 QFont Scaled(const QFont& font, double factor);
 
+// The font for the title of a map or a table.
+QFont TitleFont(const QFont& usual);
+
 // Gives the widget's texts one colour, whatever panel they stand on; an invalid one takes that
 // back.
 void SetTextColor(QWidget& widget, const QColor& color);

@@ -14,6 +14,7 @@
 #include "desktop/calendar_view.h"
 #include "desktop/characters.h"
 #include "desktop/help_view.h"
+#include "desktop/lists_view.h"
 #include "desktop/log_preferences_view.h"
 #include "desktop/log_window_view.h"
 #include "desktop/look.h"
@@ -96,12 +97,13 @@ int main(int argc, char** argv) {
   tarnwick::LogPreferencesView log_preferences_view(form.log.log_preferences, gate);
   tarnwick::CalendarView calendar_view(form.calendar.calendar_window, gate);
   tarnwick::SkyView sky_view(form.sky.sky_window, gate);
+  tarnwick::ListsView lists_view(form.lists.lists_window, gate);
   tarnwick::HelpView help_view(form.help_window, gate);
   tarnwick::CreditsView credits_view(form.help_window.credits_window, gate);
   tarnwick::NoticeView notice_view(form.notice, gate);
   for (QWidget* window :
        std::initializer_list<QWidget*>{&log_view, &log_preferences_view, &calendar_view, &sky_view,
-                                       &help_view, &credits_view, &notice_view}) {
+                                       &lists_view, &help_view, &credits_view, &notice_view}) {
     tarnwick::BelongTo(*window, view);
   }
   gate.Run([&] { form.Load(); });

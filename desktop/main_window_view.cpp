@@ -95,6 +95,7 @@ QWidget* MainWindowView::MakeButtons() {
   row.addStretch();
   row.addWidget(new CalendarOpener(form_.calendar, binder_, area));
   row.addWidget(MakeButton(binder_, form_.sky.cmdSky, area));
+  row.addWidget(MakeButton(binder_, form_.lists.cmdLists, area));
   row.addStretch();
   row.addWidget(MakeButton(binder_, form_.cmdHelp, area));
   row.addWidget(MakeButton(binder_, form_.cmdQuit, area));

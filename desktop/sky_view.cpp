@@ -56,7 +56,6 @@ constexpr Wording kWordings[] = {
 constexpr Qt::Alignment kTimes = Qt::AlignRight | Qt::AlignVCenter;
 
 constexpr double kMapAspect = 2;
-constexpr double kTitleSize = 1.1;  // of the font
 constexpr double kNoteSize = 0.9;
 constexpr QSize kUsualSize{84, 54};  // in lines of text
 constexpr int kLeastVerdict = 22;    // its width in lines of text
@@ -114,12 +113,6 @@ QLabel* MakeLongText(QWidget* parent, const QFont& font, int lines) {
   text->setWordWrap(true);
   text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   return text;
-}
-
-QFont TitleFont(const QFont& usual) {
-  QFont font = Scaled(usual, kTitleSize);
-  font.setBold(true);
-  return font;
 }
 
 // Room for a text of a label, which takes a little more than its letters.

@@ -117,6 +117,37 @@ void DrawCheckMark(QPainter& painter, const QStyleOption& option) {
   painter.restore();
 }
 
+// The heading of a column of a table: its text stands as the cells do, the arrow of the order at
+// the other end.
+void DrawHeading(QPainter& painter, const QStyleOptionHeader& heading) {
+  const bool pointed_at = IsPointedAt(heading);
+  painter.fillRect(heading.rect, pointed_at ? Look::kPanelEdge : Look::kPanel);
+  painter.save();
+  painter.setPen(pointed_at ? Look::kFieldEdge : Look::kPanelEdge);
+  painter.drawLine(heading.rect.bottomLeft(), heading.rect.bottomRight());
+  painter.drawLine(heading.rect.topRight(), heading.rect.bottomRight());
+
+  const int padding = FieldPadding(heading.fontMetrics);
+  QRect text = heading.rect.adjusted(padding, 0, -padding, 0);
+  if (heading.sortIndicator != QStyleOptionHeader::None) {
+    QRect arrow = text;
+    arrow.setWidth(padding);
+    if (heading.textAlignment.testFlag(Qt::AlignRight)) {
+      text.setLeft(arrow.right() + padding);
+    } else {
+      arrow.moveRight(text.right());
+      text.setRight(arrow.left() - padding);
+    }
+    const bool ascending = heading.sortIndicator == QStyleOptionHeader::SortDown;
+    DrawTriangle(painter, arrow, padding, ascending ? Pointing::kUp : Pointing::kDown,
+                 Look::kFieldText);
+  }
+  painter.setPen(IsEnabled(heading) ? Look::kCaption : Look::kDisabledText);
+  painter.drawText(text, static_cast<int>(heading.textAlignment) | Qt::TextSingleLine,
+                   heading.fontMetrics.elidedText(heading.text, Qt::ElideRight, text.width()));
+  painter.restore();
+}
+
 QRect ArrowPlace(const QStyleOption& list) {
   QRect place = list.rect;
   place.setLeft(place.right() + 1 - ArrowWidth(list.fontMetrics));
@@ -186,12 +217,13 @@ class Style final : public QProxyStyle {
         return kRingWidth + kRingGap;
       case PM_DefaultFrameWidth:
         return 1;
+      case PM_HeaderMargin:
+        return FontOf(option).height() / 3;
       case PM_IndicatorWidth:
       case PM_IndicatorHeight:
       case PM_ExclusiveIndicatorWidth:
       case PM_ExclusiveIndicatorHeight:
-        return option != nullptr ? option->fontMetrics.height()
-                                 : QFontMetrics(QApplication::font()).height();
+        return FontOf(option).height();
       default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -273,6 +305,15 @@ class Style final : public QProxyStyle {
       }
       return;
     }
+    const auto* heading = qstyleoption_cast<const QStyleOptionHeader*>(option);
+    if (element == CE_Header && heading != nullptr) {
+      DrawHeading(*painter, *heading);
+      return;
+    }
+    if (element == CE_HeaderEmptyArea) {
+      painter->fillRect(option->rect, Look::kPanel);
+      return;
+    }
     const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
     if (element == CE_ComboBoxLabel && list != nullptr && !list->editable) {
       DrawListText(*painter, *list);
@@ -298,6 +339,9 @@ class Style final : public QProxyStyle {
   }
 
  private:
+  static QFontMetrics FontOf(const QStyleOption* option) {
+    return option != nullptr ? option->fontMetrics : QFontMetrics(QApplication::font());
+  }
   static bool IsTriangle(const QString& caption) { return caption == "<" || caption == ">"; }
   // An edit in a list has no frame of its own.
   static bool HasFrame(const QStyleOption& option) {
@@ -330,6 +374,7 @@ void DrawTriangle(QPainter& painter, const QRectF& place, double size, Pointing 
   painter.translate(place.center());
   if (pointing == Pointing::kLeft) painter.rotate(90);
   if (pointing == Pointing::kRight) painter.rotate(-90);
+  if (pointing == Pointing::kUp) painter.rotate(180);
   const double half = size / 2;
   painter.drawPolygon(QPolygonF({{-half, -0.6 * half}, {half, -0.6 * half}, {0, 0.6 * half}}));
   painter.restore();

@@ -14,7 +14,7 @@ QStyle* MakeStyle();
 void ShowFocusRing();
 
 // A solid triangle in the middle of a place, for what unfolds or leads on.
-enum class Pointing { kLeft, kRight, kDown };
+enum class Pointing { kDown, kLeft, kRight, kUp };
 void DrawTriangle(QPainter& painter, const QRectF& place, double size, Pointing pointing,
                   const QColor& color);
 

@@ -64,6 +64,7 @@ bool Fits(const Control& control, QAccessible::Role role) {
   if (dynamic_cast<const TextBox*>(&control)) return role == QAccessible::EditableText;
   if (dynamic_cast<const Picture*>(&control)) return role == QAccessible::Graphic;
   if (dynamic_cast<const Drawing*>(&control)) return role == QAccessible::Graphic;
+  if (dynamic_cast<const Table*>(&control)) return role == QAccessible::Table;
   if (dynamic_cast<const ComboBox*>(&control)) {
     return role == QAccessible::ComboBox || role == QAccessible::List;
   }

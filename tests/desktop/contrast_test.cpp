@@ -68,7 +68,7 @@ void ContrastTest::textsAreLegible() {
   VerifyContrast(
       {
           {"text", Look::kText, {Look::kWindow, Look::kPanel, row}},
-          {"caption", Look::kCaption, {Look::kWindow, Look::kPanel, Look::kSky}},
+          {"caption", Look::kCaption, {Look::kWindow, Look::kPanel, Look::kPanelEdge, Look::kSky}},
           {"selected", ToQt(kSelectedColor), {Look::kWindow, Look::kPanel, row, Look::kSky}},
           {"unselected", ToQt(kUnselectedColor), {Look::kWindow, Look::kPanel, row, Look::kSky}},
           {"disabled", Look::kDisabledText, {Look::kWindow, Look::kPanel, Look::kDisabledButton}},
@@ -104,7 +104,9 @@ void ContrastTest::edgesAndMarksAreSeen() {
           {"chosen option", Look::kChosen, {Look::kField, Look::kPanel}},
           {"tick of a chosen box", Look::kField, {Look::kChosen, Look::kDisabledText}},
           {"chosen row of a list", Look::kSelection, {Look::kField}},
-          {"bar of the current calendar", Look::kCurrentBar, {Look::kPanel, Look::kCurrentRow}},
+          {"bar of the current row",
+           Look::kCurrentBar,
+           {Look::kPanel, Look::kField, Look::kCurrentRow}},
           {"mark beside Now", Look::kCheckMark, {Look::kPanel}},
           {"ring", Look::kFocusRing, {Look::kWindow, Look::kPanel, Look::kCurrentRow, Look::kSky}},
           {"coast", Look::kCoast, {Look::kPaper, night, moon_down}},

@@ -139,6 +139,7 @@ void MainWindowViewTest::tabKeyFollowsTheOrderOfUse() {
       "cboMonthCalendar",
       "cmdDisplayCalendar",
       "cmdSky",
+      "cmdLists",
       "cmdHelp",
       "cmdQuit",
   };

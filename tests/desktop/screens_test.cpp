@@ -8,6 +8,7 @@
 #include "desktop/qt_desktop.h"
 #include "desktop/screen_fit.h"
 #include "tests/desktop/all_windows.h"
+#include "tests/desktop/lists_texts.h"
 #include "tests/desktop/sky_texts.h"
 #include "tests/desktop/suites.h"
 
@@ -39,18 +40,22 @@ struct Windows : AllWindows {
     BelongTo(notice, main.view);
     main.form.log.chkLog.SetValue(true);
     main.form.move.cmdMove.Click();
-    for (Button* opener : {&main.form.log.cmdViewLog, &main.form.log.cmdLogPreferences,
-                           &main.form.calendar.cmdDisplayCalendar, &main.form.sky.cmdSky,
-                           &main.form.cmdHelp, &main.form.help_window.cmdCredits}) {
+    for (Button* opener :
+         {&main.form.log.cmdViewLog, &main.form.log.cmdLogPreferences,
+          &main.form.calendar.cmdDisplayCalendar, &main.form.sky.cmdSky, &main.form.lists.cmdLists,
+          &main.form.cmdHelp, &main.form.help_window.cmdCredits}) {
       opener->Click();
     }
     main.FillWithLongestTexts();
     FillWithLongestTexts(main.form.sky.sky_window);
+    FillWithLongestTexts(main.form.lists.lists_window);
     for (QWidget* window : All()) QVERIFY(QTest::qWaitForWindowExposed(window));
     QCoreApplication::processEvents();
   }
 
-  QList<QWidget*> Secondary() { return {&log, &preferences, &calendar, &sky, &help, &credits}; }
+  QList<QWidget*> Secondary() {
+    return {&log, &preferences, &calendar, &sky, &lists, &help, &credits};
+  }
   QList<QWidget*> All() { return Secondary() << &main.view; }
 };
 

@@ -114,6 +114,28 @@ TEST(Driver, RefusesWhatIsNoPointOfADrawing) {
   }
 }
 
+TEST(Driver, RefusesWhatIsNoPartOfATable) {
+  for (const auto& [command, answer] :
+       {std::pair("rows frmLists.tblList", "0\n"), std::pair("get frmLists.tblList", "0\n"),
+        std::pair("get frmLists.tblList.Selected", "-1\n"),
+        std::pair("rows cmdLists", "error: cmdLists is not a table\n"),
+        std::pair("cell frmLists.tblList 0 0", "error: no such row: 0\n"),
+        std::pair("cell frmLists.tblList -1 0", "error: no such number: -1\n"),
+        std::pair("cell frmLists.tblList", "error: no such number: \n"),
+        std::pair("set frmLists.tblList 0", "error: no such row: 0\n"),
+        std::pair("press frmLists.tblList 13", ""),
+        std::pair("press frmLists.tblList 65", "error: frmLists.tblList is not a text box\n"),
+        std::pair("sort frmLists.tblList 99", "error: no such column: 99\n"),
+        std::pair("sort frmLists.cmdList 0", "error: frmLists.cmdList is not a table\n"),
+        std::pair("close frmLists\nsort frmLists.tblList 0",
+                  "error: tblList is disabled or hidden\n")}) {
+    std::istringstream input("start\nclick cmdLists\n" + std::string(command) + "\n");
+    std::ostringstream output;
+    Driver(input, output, TEST_PROGRAM_FOLDER).Run();
+    EXPECT_EQ(output.str(), answer) << command;
+  }
+}
+
 TEST(Driver, TicksATimerByItsName) {
   for (const auto& [command, answer] :
        {std::pair("tick", "12:05 (local)\n"), std::pair("tick 2", "12:05 (local)\n"),

@@ -11,6 +11,8 @@
 
 #include "calendars/date_processing.h"
 #include "controls/drawing.h"
+#include "controls/keys.h"
+#include "controls/table.h"
 #include "engines/time_units.h"
 #include "tools/driver/properties.h"
 
@@ -115,6 +117,21 @@ std::vector<const T*> SortedByName(const std::vector<T*>& named) {
   return sorted;
 }
 
+// A number of the table's rows, or of its columns, counted from 0.
+std::size_t ParseRow(std::string_view text, const Table& table) {
+  const auto row = static_cast<std::size_t>(ParseNumber(text, 0));
+  if (row >= table.RowCount()) throw CommandError("no such row: " + std::string(text));
+  return row;
+}
+
+std::size_t ParseColumn(std::string_view text, const Table& table) {
+  const auto column = static_cast<std::size_t>(ParseNumber(text, 0));
+  if (column >= table.Columns().size()) {
+    throw CommandError("no such column: " + std::string(text));
+  }
+  return column;
+}
+
 void SetByUser(Control& control, std::string_view value) {
   if (auto* text = dynamic_cast<TextBox*>(&control)) {
     text->SetText(Unescape(value));
@@ -122,6 +139,8 @@ void SetByUser(Control& control, std::string_view value) {
     const int index = ParseNumber(value, 0);
     if (!list->CanSelect(index)) throw CommandError("no such item: " + std::string(value));
     list->SetListIndex(index);
+  } else if (auto* table = dynamic_cast<Table*>(&control)) {
+    table->Select(ParseRow(value, *table));
   } else if (auto* check = dynamic_cast<CheckBox*>(&control);
              check && (value == "0" || value == "1")) {
     check->SetValue(value == "1");
@@ -158,6 +177,8 @@ const Driver::Command Driver::kCommands[] = {
     {"during", &Driver::During},     {"clipboard", &Driver::Clipboard},
     {"dump", &Driver::Dump},         {"key", &Driver::Key},
     {"menu", &Driver::Menu},         {"point", &Driver::Point},
+    {"rows", &Driver::Rows},         {"cell", &Driver::Cell},
+    {"sort", &Driver::Sort},
 };
 
 Driver::Driver(std::istream& input, std::ostream& output, std::filesystem::path program_folder)
@@ -292,13 +313,22 @@ Control& Driver::FindUsable(std::string_view name) {
   return control;
 }
 
+// The control as one of that kind.
+template <class T>
+T& As(Control& control, std::string_view name, std::string_view kind) {
+  T* wanted = dynamic_cast<T*>(&control);
+  if (wanted == nullptr) throw CommandError(std::string(name) + " is not a " + std::string(kind));
+  return *wanted;
+}
+
+template <class T>
+T& Driver::FindAs(std::string_view name, std::string_view kind) {
+  return As<T>(FindControl(name), name, kind);
+}
+
 template <class T>
 T& Driver::FindUsableAs(std::string_view name, std::string_view kind) {
-  T* control = dynamic_cast<T*>(&FindUsable(name));
-  if (control == nullptr) {
-    throw CommandError(std::string(name) + " is not a " + std::string(kind));
-  }
-  return *control;
+  return As<T>(FindUsable(name), name, kind);
 }
 
 void Driver::Now(std::string_view arguments) {
@@ -367,6 +397,11 @@ void Driver::Press(std::string_view arguments) {
     FindForm(name).Form_KeyPress(key);
     return;
   }
+  if (auto* table = dynamic_cast<Table*>(&FindUsable(name)); table && key == kEnterKey) {
+    table->SetFocus();
+    table->PressEnter();
+    return;
+  }
   auto& text = FindUsableAs<TextBox>(name, "text box");
   text.SetFocus();
   text.PressKey(key);
@@ -412,9 +447,8 @@ void Driver::Get(std::string_view name) {
 }
 
 void Driver::Items(std::string_view name) {
-  const auto* list = dynamic_cast<const ComboBox*>(&FindControl(name));
-  if (list == nullptr) throw CommandError(std::string(name) + " is not a list");
-  for (const ComboBox::Item& item : list->Items()) Print(Escape(item.text));
+  const auto& list = FindAs<ComboBox>(name, "list");
+  for (const ComboBox::Item& item : list.Items()) Print(Escape(item.text));
   Print(".");
 }
 
@@ -462,10 +496,9 @@ void Driver::Tick(std::string_view arguments) {
     TickMainClock(name.empty() ? 1 : ParseNumber(arguments, 1));
     return;
   }
-  const auto* timer = dynamic_cast<const Timer*>(&FindControl(name));
-  if (timer == nullptr) throw CommandError(std::string(name) + " is not a timer");
+  const auto& timer = FindAs<Timer>(name, "timer");
   const int count = times.empty() ? 1 : ParseNumber(times, 1);
-  for (int i = 0; i < count; ++i) timer->Tick();
+  for (int i = 0; i < count; ++i) timer.Tick();
 }
 
 // Inside a waiting move each tick is followed by a pass of the move, so the rest are kept for its
@@ -505,6 +538,24 @@ void Driver::Point(std::string_view arguments) {
   auto& drawing = FindUsableAs<Drawing>(name, "drawing");
   drawing.SetFocus();
   drawing.ClickAt(point);
+}
+
+void Driver::Rows(std::string_view name) {
+  Print(std::to_string(FindAs<Table>(name, "table").RowCount()));
+}
+
+void Driver::Cell(std::string_view arguments) {
+  const auto [name, place] = SplitWord(arguments);
+  const auto [row, column] = SplitWord(place);
+  const auto& table = FindAs<Table>(name, "table");
+  const std::size_t from_top = ParseRow(row, table);
+  Print(Escape(table.cell_text(from_top, ParseColumn(column, table))));
+}
+
+void Driver::Sort(std::string_view arguments) {
+  const auto [name, column] = SplitWord(arguments);
+  const auto& table = FindUsableAs<Table>(name, "table");
+  table.ClickHeading(ParseColumn(column, table));
 }
 
 void Driver::Dump(std::string_view /*arguments*/) {

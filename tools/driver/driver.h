@@ -51,6 +51,8 @@ class Driver {
   Control& FindControl(std::string_view name);
   Control& FindUsable(std::string_view name);
   template <class T>
+  T& FindAs(std::string_view name, std::string_view kind);
+  template <class T>
   T& FindUsableAs(std::string_view name, std::string_view kind);
 
   void Now(std::string_view arguments);
@@ -78,6 +80,9 @@ class Driver {
   void Dump(std::string_view arguments);
   void Key(std::string_view arguments);
   void Point(std::string_view arguments);
+  void Rows(std::string_view name);
+  void Cell(std::string_view arguments);
+  void Sort(std::string_view arguments);
 
   void Print(std::string_view text) { output_ << text << '\n'; }
   void FireTimer();

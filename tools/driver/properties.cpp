@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "controls/drawing.h"
+#include "controls/table.h"
 
 namespace tarnwick {
 namespace {
@@ -22,6 +23,22 @@ std::optional<std::string> BoundsText(const Rectangle& bounds, std::string_view 
   if (property == "Width") return std::to_string(bounds.width);
   if (property == "Height") return std::to_string(bounds.height);
   return std::nullopt;
+}
+
+std::optional<std::string> TableProperty(const Table& table, std::string_view property) {
+  if (property == "RowCount") return std::to_string(table.RowCount());
+  if (property == "Selected") return table.Selected() ? std::to_string(*table.Selected()) : "-1";
+  if (property == "SortedBy") {
+    const auto& order = table.SortedBy();
+    if (!order) return "-1";
+    return std::to_string(order->column) + (order->descending ? " descending" : "");
+  }
+  if (property != "Columns") return std::nullopt;
+  std::string headings;
+  for (const TableColumn& column : table.Columns()) {
+    headings += (headings.empty() ? "" : "|") + column.heading;
+  }
+  return headings;
 }
 
 // The properties that only some kinds of control have.
@@ -53,6 +70,9 @@ std::optional<std::string> OwnProperty(const Control& control, std::string_view 
   }
   if (const auto* drawing = dynamic_cast<const Drawing*>(&control)) {
     if (property == "Description") return drawing->Description();
+  }
+  if (const auto* table = dynamic_cast<const Table*>(&control)) {
+    return TableProperty(*table, property);
   }
   if (const auto* timer = dynamic_cast<const Timer*>(&control)) {
     if (property == "Interval") return std::to_string(timer->Interval());
@@ -113,7 +133,8 @@ std::optional<std::string> PropertyText(const Form& form, std::string_view prope
 
 std::string_view DefaultProperty(const Control& control) {
   if (dynamic_cast<const Drawing*>(&control) != nullptr) return "Description";
-  for (const std::string_view property : {"Value", "ListIndex", "Text", "Caption", "Interval"}) {
+  for (const std::string_view property :
+       {"Value", "ListIndex", "Text", "Caption", "Interval", "RowCount"}) {
     if (OwnProperty(control, property)) return property;
   }
   return "Visible";

@@ -16,9 +16,10 @@ std::string Escape(std::string_view text);
 std::string Unescape(std::string_view text);
 
 // A property by its name: Caption, Text, Value, ListIndex, Enabled, Visible, ForeColor,
-// ToolTipText, SelStart, SelLength, Left, Top, Width, Height, Interval, Selected, Description or
-// Picture (the name of its file); nothing where the control has none of that name. Booleans are 1
-// and 0, colours #rrggbb.
+// ToolTipText, SelStart, SelLength, Left, Top, Width, Height, Interval, Selected, Description,
+// Picture (the name of its file), RowCount, Columns (their headings) or SortedBy (the column,
+// "2 descending"); nothing where the control has none of that name. Booleans are 1 and 0, numbers
+// of a row or column that there is not -1, colours #rrggbb.
 std::optional<std::string> PropertyText(const Control& control, std::string_view property);
 std::optional<std::string> PropertyText(const Form& form, std::string_view property);
 
