@@ -9,7 +9,7 @@ packages_of() {
   case $1 in
     run) echo g++ cmake ninja-build ccache qt6-base-dev libgl1-mesa-dev fonts-dejavu-core ;;
     screen) echo xvfb xauth imagemagick ;;
-    test) echo googletest libbenchmark-dev ;;
+    test) echo googletest libbenchmark-dev python3 python3-icalendar ;;
     fuzz) echo clang libclang-rt-14-dev cmake ninja-build ccache ;;
     windows) echo g++-mingw-w64-x86-64-posix wine64 fonts-liberation xvfb xauth ;;
     windows-qt) echo g++ g++-mingw-w64-x86-64-posix qt6-base-dev cmake ninja-build dpkg-dev patch xz-utils ;;
