@@ -158,6 +158,7 @@ const Driver::Command Driver::kCommands[] = {
     {"during", &Driver::During},     {"clipboard", &Driver::Clipboard},
     {"dump", &Driver::Dump},         {"key", &Driver::Key},
     {"menu", &Driver::Menu},         {"point", &Driver::Point},
+    {"printed", &Driver::Printed},
 };
 
 Driver::Driver(std::istream& input, std::ostream& output, std::filesystem::path program_folder)
@@ -430,6 +431,11 @@ void Driver::Messages(std::string_view /*arguments*/) {
     output_ << IconName(message.icon) << '|' << ButtonsName(message.buttons) << '|'
             << Escape(message.title) << '|' << Escape(message.text) << '\n';
   }
+  Print(".");
+}
+
+void Driver::Printed(std::string_view /*arguments*/) {
+  for (const std::string& line : desktop_.TakePrinted()) Print(Escape(line));
   Print(".");
 }
 
