@@ -43,6 +43,7 @@ constexpr double kSmall = 0.85;  // of the font
 constexpr int kPictureLines = 4;
 constexpr int kEventLines = 3;  // a phase, and an eclipse that takes two
 constexpr char kLongestDate[] = "10-3 Mellephan.";
+constexpr char kLongestPaper[] = "Letter";
 constexpr char kLongestEventLine[] = "Non-central annular";
 
 QLabel* MakeText(double size, QWidget* parent) {
@@ -243,6 +244,7 @@ QWidget* CalendarView::MakeButtons() {
     row.addWidget(MakeButton(binder_, *button, area));
   }
   auto* paper = new DropList(area);
+  ReserveWidth(*paper, kLongestPaper);
   binder_.Bind(form_.cboPaper, *paper);
   row.addWidget(paper);
   row.addStretch();

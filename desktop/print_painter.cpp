@@ -33,11 +33,15 @@ constexpr double kNoteSize = 8;
 constexpr double kTableTitleSize = 13;
 constexpr double kTableSize = 9;
 constexpr double kSmallestSize = 1;
+constexpr double kSizeStep = 0.25;
 
-constexpr double kMoonPart = 0.3;      // of the height of a cell, its diameter
+constexpr double kLeastMoon = 0.3;     // of the height of a cell, its diameter
+constexpr double kLargestMoon = 0.45;  // where the events leave the room
+constexpr double kWidestMoon = 0.8;    // of the width of a cell
 constexpr double kColumnGap = 10;      // points
 constexpr double kWidestColumn = 1.6;  // times what its texts need
 constexpr double kRowPart = 1.35;      // height of a row, in lines of text
+constexpr double kEndless = 1e9;       // longer than any paper
 constexpr int kLeft = Qt::AlignLeft | Qt::AlignTop;
 constexpr int kCentre = Qt::AlignHCenter | Qt::AlignTop;
 constexpr int kRight = Qt::AlignRight | Qt::AlignTop;
@@ -68,7 +72,7 @@ class Sheet {
   }
   // The room that a text takes whose lines are broken at a width.
   QSizeF BrokenSize(const QString& text, const QFont& font, double width) const {
-    const QRectF column(0, 0, width, 1e9);
+    const QRectF column(0, 0, width, kEndless);
     return Metrics(font).boundingRect(column, kCentre | Qt::TextWordWrap, text).size();
   }
   // The font, or a smaller one in which the text takes no more than the width.
@@ -172,16 +176,24 @@ int RowsOf(const PrintedGrid& grid) {
   return std::max(1, (static_cast<int>(grid.cells.size()) + columns - 1) / columns);
 }
 
+// How high the events of the cell that has most of them are, their lines broken at a width; too
+// high if a word is too wide.
+double EventHeight(const PrintedGrid& grid, const Sheet& sheet, const QFont& font, double width) {
+  double height = 0;
+  for (const auto& cell : grid.cells) {
+    if (!cell || cell->events.empty()) continue;
+    const QSizeF needed = sheet.BrokenSize(ToQt(cell->events), font, width);
+    height = std::max(height, needed.width() > width ? kEndless : needed.height());
+  }
+  return height;
+}
+
 // The largest font in which the events of every cell have room.
 QFont EventFont(const PrintedGrid& grid, const Sheet& sheet, const QSizeF& room) {
   double size = kSmallSize;
-  const auto fits = [&](const std::optional<PrintedCell>& cell) {
-    if (!cell || cell->events.empty()) return true;
-    const QSizeF needed = sheet.BrokenSize(ToQt(cell->events), sheet.FontOf(size), room.width());
-    return needed.width() <= room.width() && needed.height() <= room.height();
-  };
-  while (size > kSmallestSize && !std::all_of(grid.cells.begin(), grid.cells.end(), fits)) {
-    size -= 0.25;
+  while (size > kSmallestSize &&
+         EventHeight(grid, sheet, sheet.FontOf(size), room.width()) > room.height()) {
+    size -= kSizeStep;
   }
   return sheet.FontOf(size);
 }
@@ -192,7 +204,6 @@ GridLayout LayOut(const PrintedGrid& grid, const Sheet& sheet, const QRectF& cel
   layout.cell = QSizeF(cells.width() / ColumnsOf(grid), cells.height() / RowsOf(grid));
   layout.padding = sheet.Points(3.5);
   const double width = layout.cell.width() - 2 * layout.padding;
-  layout.moon = std::min(kMoonPart * layout.cell.height(), width) / 2;
   layout.main = sheet.FontOf(kMainSize, true);
   layout.small = sheet.FontOf(kSmallSize);
   for (const auto& cell : grid.cells) {
@@ -200,10 +211,13 @@ GridLayout LayOut(const PrintedGrid& grid, const Sheet& sheet, const QRectF& cel
     layout.main = sheet.Fitted(ToQt(cell->main), layout.main, width);
     layout.small = sheet.Fitted(ToQt(cell->small), layout.small, width);
   }
-  const double above = 3 * layout.padding + 2 * layout.moon +
-                       sheet.Metrics(layout.main).lineSpacing() +
-                       sheet.Metrics(layout.small).lineSpacing();
-  layout.events = EventFont(grid, sheet, QSizeF(width, layout.cell.height() - above));
+  const double height = layout.cell.height();
+  const double room = height - 4 * layout.padding - sheet.Metrics(layout.main).lineSpacing() -
+                      sheet.Metrics(layout.small).lineSpacing();
+  const double events = EventHeight(grid, sheet, sheet.FontOf(kSmallSize), width);
+  const double moon = std::clamp(room - events, kLeastMoon * height, kLargestMoon * height);
+  layout.moon = std::min(moon, kWidestMoon * width) / 2;
+  layout.events = EventFont(grid, sheet, QSizeF(width, room - moon));
   return layout;
 }
 
@@ -211,7 +225,7 @@ void PaintCell(const PrintedCell& cell, const QRectF& place, const GridLayout& l
                const Sheet& sheet, const Pen& pen) {
   pen.Frame(place);
   const double padding = layout.padding;
-  QRectF rest = place.adjusted(padding, padding, -padding, -padding / 2);
+  QRectF rest = place.adjusted(padding, 1.5 * padding, -padding, -padding);
   pen.Moon(QPointF(place.center().x(), rest.top() + layout.moon), layout.moon, cell.moon);
   rest.setTop(rest.top() + 2 * layout.moon + padding);
   pen.Line(rest, ToQt(cell.main), layout.main, kInk, kCentre);
@@ -300,8 +314,11 @@ double Sum(const std::vector<double>& widths) {
   return sum;
 }
 
+// Between two columns.
+double Gap(const Sheet& sheet, double size) { return sheet.Points(kColumnGap * size / kTableSize); }
+
 double Gaps(const PrintedTable& table, const Sheet& sheet, double size) {
-  return sheet.Points(kColumnGap * size / kTableSize) * static_cast<double>(table.columns.size());
+  return Gap(sheet, size) * (std::max(1.0, static_cast<double>(table.columns.size())) - 1);
 }
 
 double NeededWidth(const PrintedTable& table, const Sheet& sheet, double size) {
@@ -312,7 +329,7 @@ double NeededWidth(const PrintedTable& table, const Sheet& sheet, double size) {
 double TableSize(const PrintedTable& table, const Sheet& sheet) {
   double size = kTableSize;
   while (size > kSmallestSize && NeededWidth(table, sheet, size) > sheet.Area().width()) {
-    size -= 0.25;
+    size -= kSizeStep;
   }
   return size;
 }
@@ -330,11 +347,10 @@ TableLayout LayOut(const PrintedTable& table, const Sheet& sheet) {
   const double gaps = Gaps(table, sheet, size);
   const double spread =
       std::clamp((layout.rows.width() - gaps) / std::max(1.0, Sum(widths)), 0.0, kWidestColumn);
-  const double gap = widths.empty() ? 0 : gaps / static_cast<double>(widths.size());
   double left = layout.rows.left();
   for (const double width : widths) {
     layout.columns.emplace_back(left, layout.rows.top(), width * spread, layout.row);
-    left += width * spread + gap;
+    left += width * spread + Gap(sheet, size);
   }
   return layout;
 }

@@ -20,7 +20,8 @@ struct LunationSpan {
 };
 
 // The lunations of the year that the title of a lunation names, the year being that to which most
-// of their days belong. The range of lunations cuts it short.
+// of their days belong. The range of lunations cuts it short;
+// it is the lunation alone where no calendar is named.
 LunationSpan LunationsOfYear(std::int32_t lunation, const GridReading& reading);
 
 // A page for each lunation.
