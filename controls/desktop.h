@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "controls/printing.h"
+
 namespace tarnwick {
 
 class Control;
@@ -55,6 +57,16 @@ class Desktop {
   // Saves a control and what lies in it, as shown but at twice the resolution, as a PNG file.
   // Returns what went wrong, empty if nothing did.
   virtual std::string SaveImage(const Control& area, const std::filesystem::path& file) = 0;
+  // Asks for a printer and how to print, and prints; on many systems it also prints to a file. The
+  // paper is what the user is offered first. Returns what went wrong, empty if nothing did or the
+  // user gave up.
+  virtual std::string Print(const PrintedDocument& document, PaperSize paper) = 0;
+  // Saves what would be printed as a PDF file. Returns what went wrong, empty if nothing did; that
+  // the user has stopped it is told too.
+  virtual std::string SavePDF(const PrintedDocument& document, const std::filesystem::path& file,
+                              PaperSize paper) = 0;
+  // The paper that is in use where the computer stands.
+  virtual PaperSize UsualPaper() const = 0;
   // The file that the program's state is kept in; nothing where none is kept.
   virtual std::optional<std::filesystem::path> StateFile() const = 0;
   // The folder that the program lies in.

@@ -11,6 +11,7 @@
 
 #include "desktop/bound_widgets.h"
 #include "desktop/characters.h"
+#include "desktop/drop_list.h"
 #include "desktop/link_label.h"
 #include "desktop/look.h"
 #include "desktop/mirror.h"
@@ -29,6 +30,11 @@ constexpr Wording kWordings[] = {
     {"lblEvent", 0, "Phases and eclipses"},
     {"cmdShowPreviousOrNext(0)", 'p', ""},
     {"cmdShowPreviousOrNext(1)", 'n', ""},
+    {"cmdPrintLunation", 'r', ""},
+    {"cmdPrintYear", 'y', ""},
+    {"cmdSavePDF", 'D', ""},
+    {"cmdSaveYearPDF", 'e', ""},
+    {"cboPaper", 0, "Paper"},
     {"cmdSaveCalendarImage", 'S', ""},
     {"cmdClose", 'C', ""},
 };
@@ -37,6 +43,7 @@ constexpr double kSmall = 0.85;  // of the font
 constexpr int kPictureLines = 4;
 constexpr int kEventLines = 3;  // a phase, and an eclipse that takes two
 constexpr char kLongestDate[] = "10-3 Mellephan.";
+constexpr char kLongestPaper[] = "Letter";
 constexpr char kLongestEventLine[] = "Non-central annular";
 
 QLabel* MakeText(double size, QWidget* parent) {
@@ -231,6 +238,15 @@ QWidget* CalendarView::MakeButtons() {
   for (Button& button : form_.cmdShowPreviousOrNext) {
     row.addWidget(MakeButton(binder_, button, area));
   }
+  row.addStretch();
+  for (Button* button :
+       {&form_.cmdPrintLunation, &form_.cmdPrintYear, &form_.cmdSavePDF, &form_.cmdSaveYearPDF}) {
+    row.addWidget(MakeButton(binder_, *button, area));
+  }
+  auto* paper = new DropList(area);
+  ReserveWidth(*paper, kLongestPaper);
+  binder_.Bind(form_.cboPaper, *paper);
+  row.addWidget(paper);
   row.addStretch();
   row.addWidget(MakeButton(binder_, form_.cmdSaveCalendarImage, area));
   row.addWidget(MakeButton(binder_, form_.cmdClose, area));

@@ -10,11 +10,17 @@
 #include <QGridLayout>
 #include <QImage>
 #include <QLabel>
+#include <QLocale>
 #include <QMessageBox>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProgressDialog>
 #include <QScrollArea>
 #include <QScrollBar>
 
 #include "controls/form.h"
+#include "controls/product.h"
 #include "controls/text_file.h"
 #include "desktop/characters.h"
 #include "desktop/look.h"
@@ -30,6 +36,7 @@ namespace {
 
 constexpr int kImageResolution = 2;  // pixels of a saved image for one of the screen, each way
 constexpr int kWidestText = 48;      // of a message, in lines of text
+constexpr int kPatience = 1000;      // ms of work of which nobody need be told
 
 QMessageBox::Icon IconOf(MessageIcon icon) {
   switch (icon) {
@@ -192,6 +199,55 @@ std::string QtDesktop::SaveImage(const Control& area, const std::filesystem::pat
     return "The picture cannot be made.";
   }
   return WriteTextFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+std::string QtDesktop::PaintWithProgress(const PrintedDocument& document, const PageRange& range,
+                                         QPagedPaintDevice& device) {
+  QProgressDialog progress("Painting the pages ...", "Stop", 0, 0, WindowInUse());
+  progress.setWindowTitle(ToQt(TitleOf(document)));
+  progress.setWindowModality(Qt::ApplicationModal);
+  progress.setMinimumDuration(kPatience);
+  return PaintPages(document, range, device, [&](std::size_t done, std::size_t count) {
+    progress.setMaximum(static_cast<int>(count));
+    progress.setValue(static_cast<int>(done));
+    return !progress.wasCanceled() && gate_.IsOpen();
+  });
+}
+
+std::string QtDesktop::Print(const PrintedDocument& document, PaperSize paper) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(ToQt(TitleOf(document)));
+  printer.setCreator(kProgramTitle);
+  ArrangePaper(document, paper, printer);
+  QPrintDialog dialog(&printer, WindowInUse());
+  dialog.setMinMax(1, static_cast<int>(kMostPages));
+  if (dialog.exec() != QDialog::Accepted) return {};
+  PageRange range;
+  if (printer.printRange() == QPrinter::PageRange) {
+    range = {static_cast<std::size_t>(printer.fromPage()),
+             static_cast<std::size_t>(printer.toPage())};
+  }
+  return PaintWithProgress(document, range, printer);
+}
+
+std::string QtDesktop::SavePDF(const PrintedDocument& document, const std::filesystem::path& file,
+                               PaperSize paper) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
+  writer.setTitle(ToQt(TitleOf(document)));
+  writer.setCreator(kProgramTitle);
+  ArrangePaper(document, paper, writer);
+  const std::string error = PaintWithProgress(document, {}, writer);
+  if (!error.empty()) return error;
+  return WriteTextFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+// North America prints on Letter.
+PaperSize QtDesktop::UsualPaper() const {
+  return QLocale::system().measurementSystem() == QLocale::ImperialUSSystem ? PaperSize::kLetter
+                                                                            : PaperSize::kA4;
 }
 
 std::optional<std::filesystem::path> QtDesktop::StateFile() const {

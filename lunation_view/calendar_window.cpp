@@ -5,6 +5,7 @@
 #include "calendars/date_processing.h"
 #include "controls/choice.h"
 #include "controls/save_path.h"
+#include "lunation_view/printed_lunations.h"
 
 namespace tarnwick {
 namespace {
@@ -41,11 +42,24 @@ frmCalendar::frmCalendar(Desktop& desktop, Screen& screen, Session& session, Pic
   }
   AddShortcut("Page_Up", cmdShowPreviousOrNext[0]);
   AddShortcut("Page_Down", cmdShowPreviousOrNext[1]);
+  cmdPrintLunation.SetToolTipText("Print the page on display");
+  cmdPrintLunation.on_click = [this] { cmdPrintLunation_Click(); };
+  cmdPrintYear.SetToolTipText("Print the pages of all lunations of the year on display");
+  cmdPrintYear.on_click = [this] { cmdPrintYear_Click(); };
+  cmdSavePDF.SetToolTipText("Save the page on display as a file to be printed");
+  cmdSavePDF.on_click = [this] { cmdSavePDF_Click(); };
+  cmdSaveYearPDF.SetToolTipText("Save the pages of all lunations of the year on display");
+  cmdSaveYearPDF.on_click = [this] { cmdSaveYearPDF_Click(); };
+  for (const PaperSize paper : {PaperSize::kA4, PaperSize::kLetter}) {
+    cboPaper.AddItem(std::string(PaperName(paper)));
+  }
+  cboPaper.SetToolTipText("The paper that the pages are made for");
   cmdSaveCalendarImage.on_click = [this] { cmdSaveCalendarImage_Click(); };
 }
 
 // A picture belongs to a cell, not to a date: "day1.gif" is that of the first cell.
 void frmCalendar::Form_Load() {
+  cboPaper.SetListIndex(static_cast<int>(desktop_.UsualPaper()));
   for (int i = 0; i < kGridCells; ++i) {
     if (!IsCellUsed(i)) continue;
     imgMoon[static_cast<std::size_t>(i)].SetPicture(
@@ -126,16 +140,51 @@ void frmCalendar::cmdShowPreviousOrNext_Click(int index) {
   ShowLunation();
 }
 
+PrintedGrids frmCalendar::LunationToPrint() const {
+  return PrintedLunations(grid_.title, {lngLunation, lngLunation}, Reading());
+}
+
+PrintedGrids frmCalendar::YearToPrint() const {
+  return PrintedLunations("Year " + YearOfLunation(lngLunation, Reading()),
+                          LunationsOfYear(lngLunation, Reading()), Reading());
+}
+
+void frmCalendar::Print(const Button& button, const PrintedGrids& pages) {
+  const std::string error = desktop_.Print(pages, Paper());
+  if (error.empty()) return;
+  desktop_.ShowMessage(
+      {"Error when attempting to print: " + error, button.Caption(), MessageIcon::kExclamation});
+}
+
+void frmCalendar::SavePDF(const Button& button, const PrintedGrids& pages,
+                          const std::string& suggestion) {
+  const auto file = AskWhereToSave(desktop_, button.Caption(), suggestion + ".pdf");
+  if (file) ReportSaved(button, "the PDF file", desktop_.SavePDF(pages, *file, Paper()));
+}
+
+void frmCalendar::cmdPrintLunation_Click() { Print(cmdPrintLunation, LunationToPrint()); }
+
+void frmCalendar::cmdPrintYear_Click() { Print(cmdPrintYear, YearToPrint()); }
+
+void frmCalendar::cmdSavePDF_Click() { SavePDF(cmdSavePDF, LunationToPrint(), LunationName()); }
+
+void frmCalendar::cmdSaveYearPDF_Click() {
+  SavePDF(cmdSaveYearPDF, YearToPrint(), "year " + YearOfLunation(lngLunation, Reading()));
+}
+
 void frmCalendar::cmdSaveCalendarImage_Click() {
-  const std::string title = cmdSaveCalendarImage.Caption();
   const auto file =
-      AskWhereToSave(desktop_, title, "lunation " + std::to_string(lngLunation) + ".png");
+      AskWhereToSave(desktop_, cmdSaveCalendarImage.Caption(), LunationName() + ".png");
   if (!file) return;
-  const std::string error = desktop_.SaveImage(fraCalendar, *file);
+  ReportSaved(cmdSaveCalendarImage, "the image", desktop_.SaveImage(fraCalendar, *file));
+}
+
+void frmCalendar::ReportSaved(const Button& button, const std::string& what,
+                              const std::string& error) {
   if (error.empty()) {
     notice_.ShowOver(*this, "Saved");
   } else {
-    ReportSaveError(desktop_, "the image", title, error);
+    ReportSaveError(desktop_, what, button.Caption(), error);
   }
 }
 

@@ -1,16 +1,18 @@
-// The window of the lunation calendar: one lunation as a page that can be leafed through, clicked
-// and saved as a picture.
+// The window of the lunation calendar: one lunation as a page that can be leafed through, clicked,
+// printed and saved as a picture.
 #pragma once
 
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <string>
 
 #include "controls/closable_form.h"
 #include "controls/control_array.h"
 #include "controls/controls.h"
 #include "controls/desktop.h"
 #include "controls/picture_files.h"
+#include "controls/printing.h"
 #include "help/notice.h"
 #include "lunation_view/lunation_grid.h"
 #include "moment/session.h"
@@ -32,6 +34,11 @@ class frmCalendar final : public ClosableForm {
   ControlArray<Label, kGridCells> lblCEDate{fraCalendar, "lblCEDate"};
   ControlArray<Label, kGridCells> lblEvent{fraCalendar, "lblEvent"};
   ControlArray<Button, 2> cmdShowPreviousOrNext{*this, "cmdShowPreviousOrNext"};
+  Button cmdPrintLunation{*this, "cmdPrintLunation", "Print"};
+  Button cmdPrintYear{*this, "cmdPrintYear", "Print year"};
+  Button cmdSavePDF{*this, "cmdSavePDF", "Save as PDF"};
+  Button cmdSaveYearPDF{*this, "cmdSaveYearPDF", "Save year as PDF"};
+  ComboBox cboPaper{*this, "cboPaper"};  // in the order of PaperSize
   Button cmdSaveCalendarImage{*this, "cmdSaveCalendarImage", "Save as PNG image"};
 
   // The user has chosen a day of the page.
@@ -55,7 +62,19 @@ class frmCalendar final : public ClosableForm {
   void HideCell(std::size_t index);
   void Cell_Click(std::size_t index);
   void cmdShowPreviousOrNext_Click(int index);
+  PaperSize Paper() const { return static_cast<PaperSize>(cboPaper.ListIndex()); }
+  // The page on display, the pages of its year.
+  PrintedGrids LunationToPrint() const;
+  PrintedGrids YearToPrint() const;
+  void Print(const Button& button, const PrintedGrids& pages);
+  void SavePDF(const Button& button, const PrintedGrids& pages, const std::string& suggestion);
+  void cmdPrintLunation_Click();
+  void cmdPrintYear_Click();
+  void cmdSavePDF_Click();
+  void cmdSaveYearPDF_Click();
   void cmdSaveCalendarImage_Click();
+  std::string LunationName() const { return "lunation " + std::to_string(lngLunation); }
+  void ReportSaved(const Button& button, const std::string& what, const std::string& error);
 
   Desktop& desktop_;
   Session& session_;

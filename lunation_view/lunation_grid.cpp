@@ -80,14 +80,17 @@ GridCell CellOf(DayNumber day_number, const GridReading& reading,
                 CalendarDayOf(reading.calendar, day_number).day,
                 ce.short_form,
                 "",
+                "",
                 MoonDescription(MoonDataAt(noon)),
                 date + "\n" + ce.long_form};
   for (const DayEvent& event : events) {
     if (event.when.day_number != day_number) continue;
-    cell.event += (cell.event.empty() ? "" : "\n") + event.name;
-    cell.tool_tip +=
-        "\n" + event.name + " " + TimeOfDayText(event.when.fraction, false) + event.certainty;
+    const std::string line_end = cell.event.empty() ? "" : "\n";
+    cell.event += line_end + event.name;
+    cell.times +=
+        line_end + event.name + " " + TimeOfDayText(event.when.fraction, false) + event.certainty;
   }
+  if (!cell.times.empty()) cell.tool_tip += "\n" + cell.times;
   return cell;
 }
 
@@ -110,12 +113,15 @@ std::vector<PageMonth> MonthsOf(const LunationDays& days, int calendar) {
   return months;
 }
 
+const PageMonth& LongestOf(const std::vector<PageMonth>& months) {
+  return *std::max_element(months.begin(), months.end(),
+                           [](const PageMonth& a, const PageMonth& b) { return a.days < b.days; });
+}
+
 std::string TitleOf(const LunationDays& days, const std::vector<PageMonth>& months, int calendar) {
-  const auto longest =
-      std::max_element(months.begin(), months.end(),
-                       [](const PageMonth& a, const PageMonth& b) { return a.days < b.days; });
+  const PageMonth& longest = LongestOf(months);
   const std::string text =
-      PageCalendar(calendar) ? longest->name + " " + longest->year : "Undefined calendar";
+      PageCalendar(calendar) ? longest.name + " " + longest.year : "Undefined calendar";
   return "Lunation " + std::to_string(days.lunation) + " (" + text + ")";
 }
 
@@ -143,6 +149,10 @@ std::int32_t LunationOfDay(UniversalTime moment, const GridReading& reading) {
   // The new moon may come later on the same day.
   if (FirstDayOf(lunation + 1, reading) <= day_number) ++lunation;
   return std::clamp(lunation, kFirstLunation, kLastLunation);
+}
+
+std::string YearOfLunation(std::int32_t lunation, const GridReading& reading) {
+  return LongestOf(MonthsOf(DaysOfLunation(lunation, reading), reading.calendar)).year;
 }
 
 LunationGrid MakeLunationGrid(std::int32_t lunation, const GridReading& reading) {

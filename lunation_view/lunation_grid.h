@@ -39,6 +39,7 @@ struct GridCell {
   std::string date;      // in the chosen calendar: "14 Sophia"
   std::string ce_date;   // "2026-11-23 CE"
   std::string event;     // principal phase and eclipse of the day, a line each
+  std::string times;     // the same with their times: "Full moon 18:24 +- 11 min"
   std::string moon;      // "The Moon, gibbous, waxing, 62 % lit": at noon
   std::string tool_tip;  // both dates at length, the events with their times: "Full moon 14:53"
 };
@@ -49,6 +50,10 @@ struct LunationGrid {
   std::string year_and_month;  // "4723 - Sophia-Dionysus": all that the lunation touches
   std::array<std::optional<GridCell>, kGridCells> cells;  // nothing where none is shown
 };
+
+// The year to which most of its days belong, as its title names it; empty for an index that names
+// no calendar.
+std::string YearOfLunation(std::int32_t lunation, const GridReading& reading);
 
 LunationGrid MakeLunationGrid(std::int32_t lunation, const GridReading& reading);
 

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include "tests/desktop/suites.h"
+#include "tests/desktop/when_modal.h"
 
 namespace tarnwick {
 
@@ -31,24 +32,6 @@ class QtDesktopTest : public QObject {
   HandlerGate gate_{[](const std::string& what) { QFAIL(what.c_str()); }};
   QtDesktop desktop_{gate_};
 };
-
-namespace {
-
-// Does something to the next modal window once it is open.
-template <class Window, class Action>
-void WhenModal(const Action& action) {
-  auto* poll = new QTimer(qApp);
-  QObject::connect(poll, &QTimer::timeout, poll, [poll, action] {
-    auto* window = qobject_cast<Window*>(QApplication::activeModalWidget());
-    if (window == nullptr) return;
-    poll->stop();
-    poll->deleteLater();
-    action(*window);
-  });
-  poll->start(5);
-}
-
-}  // namespace
 
 void QtDesktopTest::messageBoxShowsTheMessageAndAnswers_data() {
   QTest::addColumn<MessageIcon>("icon");

@@ -178,7 +178,7 @@ const Driver::Command Driver::kCommands[] = {
     {"dump", &Driver::Dump},         {"key", &Driver::Key},
     {"menu", &Driver::Menu},         {"point", &Driver::Point},
     {"rows", &Driver::Rows},         {"cell", &Driver::Cell},
-    {"sort", &Driver::Sort},
+    {"sort", &Driver::Sort},         {"printed", &Driver::Printed},
 };
 
 Driver::Driver(std::istream& input, std::ostream& output, std::filesystem::path program_folder)
@@ -464,6 +464,11 @@ void Driver::Messages(std::string_view /*arguments*/) {
     output_ << IconName(message.icon) << '|' << ButtonsName(message.buttons) << '|'
             << Escape(message.title) << '|' << Escape(message.text) << '\n';
   }
+  Print(".");
+}
+
+void Driver::Printed(std::string_view /*arguments*/) {
+  for (const std::string& line : desktop_.TakePrinted()) Print(Escape(line));
   Print(".");
 }
 

@@ -72,6 +72,7 @@ class Driver {
   void Items(std::string_view name);
   void Focus(std::string_view arguments);
   void Messages(std::string_view arguments);
+  void Printed(std::string_view arguments);
   void Answer(std::string_view arguments);
   void Tick(std::string_view arguments);
   void TickMainClock(int count);

@@ -17,6 +17,15 @@ bool Offers(MessageButtons buttons, MessageAnswer answer) {
   return false;
 }
 
+std::size_t LengthOf(const PrintedTable& table) { return table.row_count; }
+std::size_t LengthOf(const PrintedGrids& grids) { return grids.page_count; }
+
+std::string PrintedLine(std::string_view where, const PrintedDocument& document) {
+  const std::size_t length =
+      std::visit([](const auto& printed) { return LengthOf(printed); }, document);
+  return std::string(where) + "|" + TitleOf(document) + "|" + std::to_string(length);
+}
+
 template <class T>
 T TakeFirst(std::deque<T>& queue, T otherwise) {
   if (queue.empty()) return otherwise;
@@ -28,6 +37,8 @@ T TakeFirst(std::deque<T>& queue, T otherwise) {
 }  // namespace
 
 std::vector<Message> DriverDesktop::TakeMessages() { return std::exchange(messages_, {}); }
+
+std::vector<std::string> DriverDesktop::TakePrinted() { return std::exchange(printed_, {}); }
 
 bool DriverDesktop::TakeEnd() { return std::exchange(ended_, false); }
 
@@ -42,6 +53,17 @@ MessageAnswer DriverDesktop::ShowMessage(const Message& message) {
 std::optional<std::filesystem::path> DriverDesktop::AskSavePath(const std::string& /*title*/,
                                                                 const std::string& /*suggestion*/) {
   return TakeFirst(save_paths_, std::optional<std::filesystem::path>());
+}
+
+std::string DriverDesktop::Print(const PrintedDocument& document, PaperSize /*paper*/) {
+  printed_.push_back(PrintedLine("printer", document));
+  return {};
+}
+
+std::string DriverDesktop::SavePDF(const PrintedDocument& document,
+                                   const std::filesystem::path& /*file*/, PaperSize paper) {
+  printed_.push_back(PrintedLine(PaperName(paper), document));
+  return {};
 }
 
 }  // namespace tarnwick

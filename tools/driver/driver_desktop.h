@@ -29,6 +29,9 @@ class DriverDesktop final : public Desktop {
   }
   // The message boxes shown since the last call.
   std::vector<Message> TakeMessages();
+  // What has been printed or saved as PDF since the last call, "printer|Lunation 332|1": where to,
+  // "A4" or "Letter" being files, its title and how many pages, of a table how many rows.
+  std::vector<std::string> TakePrinted();
   // Whether the program has asked to end since the last call.
   bool TakeEnd();
 
@@ -41,6 +44,10 @@ class DriverDesktop final : public Desktop {
   std::string SaveImage(const Control& /*area*/, const std::filesystem::path& /*file*/) override {
     return "There is no screen.";
   }
+  std::string Print(const PrintedDocument& document, PaperSize paper) override;
+  std::string SavePDF(const PrintedDocument& document, const std::filesystem::path& file,
+                      PaperSize paper) override;
+  PaperSize UsualPaper() const override { return PaperSize::kA4; }
   std::optional<std::filesystem::path> StateFile() const override { return state_file_; }
   std::filesystem::path ProgramFolder() const override { return program_folder_; }
   void OpenWebPage(const std::string& /*address*/) override {}
@@ -54,6 +61,7 @@ class DriverDesktop final : public Desktop {
   std::deque<MessageAnswer> answers_;
   std::deque<std::optional<std::filesystem::path>> save_paths_;
   std::vector<Message> messages_;
+  std::vector<std::string> printed_;
   std::string clipboard_;
   std::optional<std::filesystem::path> state_file_;
   bool ended_ = false;
