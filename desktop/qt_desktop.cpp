@@ -36,6 +36,7 @@ namespace {
 
 constexpr int kImageResolution = 2;  // pixels of a saved image for one of the screen, each way
 constexpr int kWidestText = 48;      // of a message, in lines of text
+constexpr int kDialogWidth = 40;     // of the question for a printer, in lines of text
 constexpr int kPatience = 1000;      // ms of work of which nobody need be told
 
 QMessageBox::Icon IconOf(MessageIcon icon) {
@@ -221,6 +222,8 @@ std::string QtDesktop::Print(const PrintedDocument& document, PaperSize paper) {
   ArrangePaper(document, paper, printer);
   QPrintDialog dialog(&printer, WindowInUse());
   dialog.setMinMax(1, static_cast<int>(kMostPages));
+  const int width = qMin(kDialogWidth * dialog.fontMetrics().height(), RoomFor(dialog).width());
+  dialog.resize(width, dialog.height());  // else names of printers and files are cut
   if (dialog.exec() != QDialog::Accepted) return {};
   PageRange range;
   if (printer.printRange() == QPrinter::PageRange) {
