@@ -211,7 +211,9 @@ std::string QtDesktop::PaintWithProgress(const PrintedDocument& document, const 
   return PaintPages(document, range, device, [&](std::size_t done, std::size_t count) {
     progress.setMaximum(static_cast<int>(count));
     progress.setValue(static_cast<int>(done));
-    return !progress.wasCanceled() && gate_.IsOpen();
+    if (!progress.wasCanceled() && gate_.IsOpen()) return true;
+    if (auto* printer = dynamic_cast<QPrinter*>(&device)) printer->abort();
+    return false;
   });
 }
 
@@ -219,6 +221,9 @@ std::string QtDesktop::Print(const PrintedDocument& document, PaperSize paper) {
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(ToQt(TitleOf(document)));
   printer.setCreator(kProgramTitle);
+  // Qt goes over to files where there is no printer.
+  const bool to_file = printer.outputFormat() != QPrinter::NativeFormat;
+  if (to_file && !platform::PrintsToFiles()) return "There is no printer.";
   ArrangePaper(document, paper, printer);
   QPrintDialog dialog(&printer, WindowInUse());
   dialog.setMinMax(1, static_cast<int>(kMostPages));
