@@ -13,6 +13,9 @@ std::filesystem::path UserDataFolder();
 // description.
 bool ReadersKnowValues();
 
+// Whether the question for a printer offers to print to a file, so that it serves without a printer.
+bool PrintsToFiles();
+
 // Shows a page in the user's browser.
 void OpenWebPage(const std::string& address);
 

@@ -36,6 +36,7 @@ namespace {
 
 constexpr int kImageResolution = 2;  // pixels of a saved image for one of the screen, each way
 constexpr int kWidestText = 48;      // of a message, in lines of text
+constexpr int kDialogWidth = 40;     // of the question for a printer, in lines of text
 constexpr int kPatience = 1000;      // ms of work of which nobody need be told
 
 QMessageBox::Icon IconOf(MessageIcon icon) {
@@ -210,7 +211,9 @@ std::string QtDesktop::PaintWithProgress(const PrintedDocument& document, const 
   return PaintPages(document, range, device, [&](std::size_t done, std::size_t count) {
     progress.setMaximum(static_cast<int>(count));
     progress.setValue(static_cast<int>(done));
-    return !progress.wasCanceled() && gate_.IsOpen();
+    if (!progress.wasCanceled() && gate_.IsOpen()) return true;
+    if (auto* printer = dynamic_cast<QPrinter*>(&device)) printer->abort();
+    return false;
   });
 }
 
@@ -218,9 +221,14 @@ std::string QtDesktop::Print(const PrintedDocument& document, PaperSize paper) {
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(ToQt(TitleOf(document)));
   printer.setCreator(kProgramTitle);
+  // Qt goes over to files where there is no printer.
+  const bool to_file = printer.outputFormat() != QPrinter::NativeFormat;
+  if (to_file && !platform::PrintsToFiles()) return "There is no printer.";
   ArrangePaper(document, paper, printer);
   QPrintDialog dialog(&printer, WindowInUse());
   dialog.setMinMax(1, static_cast<int>(kMostPages));
+  const int width = qMin(kDialogWidth * dialog.fontMetrics().height(), RoomFor(dialog).width());
+  dialog.resize(width, dialog.height());  // else names of printers and files are cut
   if (dialog.exec() != QDialog::Accepted) return {};
   PageRange range;
   if (printer.printRange() == QPrinter::PageRange) {

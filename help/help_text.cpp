@@ -184,6 +184,8 @@ The title names the lunation by its number and by the month to which most of its
 
 - A click on a day makes its noon the current moment.
 - "Show previous lunation" and "Show next lunation" turn the page, from lunation -64316 to lunation 49472.
+- "Print" prints the page; "Print year" prints the pages of all lunations of its year, the year that the title names, in the chosen calendar. The pages are light, with the Moon as it stands at noon of each day, and the times of the events.
+- "Save as PDF" and "Save year as PDF" write what would be printed to a file, for the paper in the list: A4 or Letter.
 - "Save as PNG image" writes the page to a picture file.
 - Close and Escape put the window away.
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
+#include <sstream>
 #include <string_view>
 #include <utility>
 
@@ -24,6 +25,7 @@ namespace {
 constexpr char kCaption[] = "Lists";
 // A day in nine calendars takes some 10 us to put in words, and 150 bytes.
 constexpr std::size_t kMostRowsOfFile = 500'000;
+constexpr std::size_t kMostRowsOnPaper = 20'000;  // some 500 pages
 
 std::string RowsText(std::size_t count) {
   return FormatFixed(static_cast<double>(count), 0, true) + (count == 1 ? " row" : " rows");
@@ -71,6 +73,10 @@ frmLists::frmLists(Desktop& desktop, Screen& screen, Session& session, EntrySect
   cmdTakeRow.SetToolTipText("Makes the moment of the row the current one; so does Enter");
   cmdTakeRow.on_click = [this] { cmdTakeRow_Click(); };
   cmdSaveCSV.on_click = [this] { cmdSaveCSV_Click(); };
+  cmdSaveCalendar.on_click = [this] { cmdSaveCalendar_Click(); };
+  cmdSaveCalendar.SetToolTipText("For calendar programs; a row becomes an event of its own");
+  cmdPrintList.on_click = [this] { cmdPrintList_Click(); };
+  cmdSaveListPDF.on_click = [this] { cmdSaveListPDF_Click(); };
   tmrList.SetInterval(1);
   tmrList.on_timer = [this] { tmrList_Timer(); };
   UpdateAvailability();
@@ -106,7 +112,8 @@ void frmLists::UpdateAvailability() {
   cmdStopList.SetEnabled(busy);
   SetEnabled({&fraColumns, &tblList}, !blnSaving);
   cmdTakeRow.SetEnabled(tblList.Selected().has_value() && session_.IsIdle() && !blnSaving);
-  SetEnabled({&cmdSaveCSV, &cmdSaveCalendar, &cmdPrintList}, rows && !busy);
+  SetEnabled({&cmdSaveCSV, &cmdPrintList, &cmdSaveListPDF}, rows && !busy);
+  cmdSaveCalendar.SetEnabled(rows && !busy && list_->EventOf(0).has_value());
 }
 
 void frmLists::cboKind_Click() {
@@ -143,6 +150,7 @@ void frmLists::cmdList_Click() {
   reading_ = Reading();
   ShowColumns();
   blnFinding = true;
+  blnCut = false;
   tmrList.SetEnabled(true);
   tmrList_Timer();
 }
@@ -160,6 +168,7 @@ std::string frmLists::TitleOf(const ListRequest& request) const {
 
 void frmLists::cmdStopList_Click() {
   blnStopped = true;
+  blnCut = blnCut || blnFinding;
   if (blnFinding) EndFinding();
 }
 
@@ -228,7 +237,7 @@ void frmLists::ShowProgress() {
   std::string text = RowsText(tblList.RowCount());
   if (blnFinding) {
     text += ", " + FormatFixed(100 * list_->Progress(), 0, false) + " %";
-  } else if (list_->Progress() < 1) {
+  } else if (blnCut) {
     text += ", stopped";
   }
   lblProgress.SetCaption(text);
@@ -300,19 +309,16 @@ bool frmLists::KeepSaving(std::size_t done) {
   return !blnStopped && !session_.IsEnding();
 }
 
-bool frmLists::IsTooLong() {
-  if (tblList.RowCount() <= kMostRowsOfFile) return false;
-  desktop_.ShowMessage({"This list has " + RowsText(tblList.RowCount()) + ". A file takes " +
-                            RowsText(kMostRowsOfFile) + " at most: choose a shorter period.",
+bool frmLists::IsTooLong(std::size_t most, const std::string& what) {
+  if (tblList.RowCount() <= most) return false;
+  desktop_.ShowMessage({"This list has " + RowsText(tblList.RowCount()) + ". " + what + " takes " +
+                            RowsText(most) + " at most: choose a shorter period.",
                         kCaption, MessageIcon::kExclamation});
   return true;
 }
 
 // Nothing if the user has stopped it.
 std::optional<std::string> frmLists::MakeCSV() {
-  const ScopedFlag saving(blnSaving);
-  UpdateAvailability();
-  blnStopped = false;
   std::string text = "\xef\xbb\xbf";  // tells spreadsheets that it is UTF-8
   std::vector<std::string> cells;
   for (const TableColumn& column : tblList.Columns()) cells.push_back(column.heading);
@@ -327,15 +333,70 @@ std::optional<std::string> frmLists::MakeCSV() {
   return text;
 }
 
-void frmLists::cmdSaveCSV_Click() {
-  if (IsTooLong()) return;
-  const std::string title = cmdSaveCSV.Caption();
-  const auto file = AskWhereToSave(desktop_, title, FileNameOf(list_name_) + ".csv");
-  if (!file) return;
-  const std::optional<std::string> text = MakeCSV();
+bool frmLists::SaveText(const Button& command, const std::string& ending,
+                        const std::function<std::optional<std::string>()>& make) {
+  if (IsTooLong(kMostRowsOfFile, "A file")) return false;
+  const std::string& title = command.Caption();
+  const auto file = AskWhereToSave(desktop_, title, FileNameOf(list_name_) + ending);
+  if (!file) return false;
+  blnStopped = false;
+  blnSaving = true;
+  UpdateAvailability();
+  const std::optional<std::string> text = make();
+  blnSaving = false;
   UpdateAvailability();
   ShowProgress();
-  if (text) TellOfSaving(title, WriteTextFile(*file, *text));
+  if (!text) return false;
+  const std::string error = WriteTextFile(*file, *text);
+  TellOfSaving(title, error);
+  return error.empty();
+}
+
+void frmLists::cmdSaveCSV_Click() {
+  SaveText(cmdSaveCSV, ".csv", [this] { return MakeCSV(); });
+}
+
+void frmLists::cmdSaveCalendar_Click() {
+  std::size_t left_out = 0;
+  const bool saved = SaveText(cmdSaveCalendar, ".ics", [&] { return MakeCalendar(left_out); });
+  if (!saved || left_out == 0) return;
+  desktop_.ShowMessage({RowsText(left_out) +
+                            " had to be left out: a calendar file holds the years " +
+                            "1 to 9999 only.",
+                        cmdSaveCalendar.Caption(), MessageIcon::kInformation});
+}
+
+std::optional<std::string> frmLists::MakeCalendar(std::size_t& left_out) {
+  const ClockReading now = desktop_.ReadClock();
+  std::ostringstream text;
+  CalendarWriter calendar(text, NowAsAJD(now.date, now.time, now.offset_minutes));
+  for (std::size_t row = 0; row < tblList.RowCount(); ++row) {
+    if (!KeepSaving(row)) return std::nullopt;
+    const std::optional<CalendarEvent> event = list_->EventOf(RowAt(row));
+    if (!event || !calendar.Add(*event)) ++left_out;
+  }
+  calendar.End();
+  return text.str();
+}
+
+PrintedTable frmLists::Printed() const {
+  return {list_name_, tblList.Columns(), tblList.RowCount(),
+          [this](std::size_t row, std::size_t column) { return CellText(row, column); }};
+}
+
+void frmLists::cmdPrintList_Click() {
+  if (IsTooLong(kMostRowsOnPaper, "Paper")) return;
+  const std::string error = desktop_.Print(Printed(), desktop_.UsualPaper());
+  if (!error.empty()) {
+    desktop_.ShowMessage({error, cmdPrintList.Caption(), MessageIcon::kExclamation});
+  }
+}
+
+void frmLists::cmdSaveListPDF_Click() {
+  if (IsTooLong(kMostRowsOnPaper, "Paper")) return;
+  const std::string& title = cmdSaveListPDF.Caption();
+  const auto file = AskWhereToSave(desktop_, title, FileNameOf(list_name_) + ".pdf");
+  if (file) TellOfSaving(title, desktop_.SavePDF(Printed(), *file, desktop_.UsualPaper()));
 }
 
 void frmLists::TellOfSaving(const std::string& title, const std::string& error) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -12,6 +13,7 @@
 #include "controls/control_array.h"
 #include "controls/controls.h"
 #include "controls/desktop.h"
+#include "controls/printing.h"
 #include "controls/table.h"
 #include "help/notice.h"
 #include "lists/found_list.h"
@@ -51,6 +53,7 @@ class frmLists final : public ClosableForm {
   Button cmdSaveCSV{*this, "cmdSaveCSV", "Save as CSV"};
   Button cmdSaveCalendar{*this, "cmdSaveCalendar", "Save as iCalendar"};
   Button cmdPrintList{*this, "cmdPrintList", "Print"};
+  Button cmdSaveListPDF{*this, "cmdSaveListPDF", "Save as PDF"};
 
   Timer tmrList{*this, "tmrList"};  // each tick finds some more
 
@@ -86,9 +89,18 @@ class frmLists final : public ClosableForm {
   void TakeRow(std::size_t index);
   void cmdTakeRow_Click();
   void cmdSaveCSV_Click();
+  void cmdSaveCalendar_Click();
+  void cmdPrintList_Click();
+  void cmdSaveListPDF_Click();
+  // Asks for a file and saves a text of the rows there; `make` makes it, row by row, and gives
+  // nothing if the user has stopped it. Whether it was saved.
+  bool SaveText(const Button& command, const std::string& ending,
+                const std::function<std::optional<std::string>()>& make);
   std::optional<std::string> MakeCSV();
+  std::optional<std::string> MakeCalendar(std::size_t& left_out);
+  PrintedTable Printed() const;
   bool KeepSaving(std::size_t done);
-  bool IsTooLong();
+  bool IsTooLong(std::size_t most, const std::string& what);
   void TellOfSaving(const std::string& title, const std::string& error);
 
   Desktop& desktop_;
@@ -102,8 +114,9 @@ class frmLists final : public ClosableForm {
   std::vector<std::size_t> shown_;   // the columns of the list that the table shows
   RowOrder order_;
   bool blnFinding = false;  // more rows are being found
+  bool blnCut = false;      // the list has been stopped before its end
   bool blnSaving = false;   // rows are being put in words for a file
-  bool blnStopped = false;
+  bool blnStopped = false;  // by the user, before its end
 };
 
 }  // namespace tarnwick

@@ -19,6 +19,8 @@ std::filesystem::path UserDataFolder() {
 // They are handed numbers only.
 bool ReadersKnowValues() { return false; }
 
+bool PrintsToFiles() { return true; }
+
 void OpenWebPage(const std::string& address) { QDesktopServices::openUrl(QUrl(ToQt(address))); }
 
 }  // namespace tarnwick::platform

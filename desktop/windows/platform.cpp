@@ -40,6 +40,8 @@ std::filesystem::path UserDataFolder() {
 
 bool ReadersKnowValues() { return true; }
 
+bool PrintsToFiles() { return false; }
+
 void OpenWebPage(const std::string& address) {
   ShellExecuteA(nullptr, "open", address.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
 }
