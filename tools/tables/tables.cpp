@@ -58,14 +58,17 @@ bool Parse(std::string_view text, Number& number) {
   return status == std::errc() && end == text.data() + text.size();
 }
 
-int Refuse(const Surroundings& surroundings, std::string_view why, std::string_view usage) {
-  surroundings.err << "tarnwick_tables: " << why << "\nusage: " << usage
-                   << "\n'tarnwick_tables --help' tells more.\n";
+int Refuse(const Surroundings& surroundings, std::string_view why, const Command& command) {
+  surroundings.err << "tarnwick_tables: " << why << "\nusage: " << UsageOf(command.syntax)
+                   << "\n'tarnwick_tables " << command.syntax.name << " --help' tells more.\n";
   return kBadArguments;
 }
 
-int Refuse(const Surroundings& surroundings, std::string_view why, const Command& command) {
-  return Refuse(surroundings, why, UsageOf(command.syntax));
+int RefuseCommand(const Surroundings& surroundings, std::string_view why) {
+  surroundings.err << "tarnwick_tables: " << why
+                   << "\nusage: tarnwick_tables COMMAND ...\n"
+                      "'tarnwick_tables --help' names the commands.\n";
+  return kBadArguments;
 }
 
 // Whoever closes the pipe has read enough; any other error is told.
@@ -282,12 +285,11 @@ int Tell(const Surroundings& surroundings, std::string_view help) {
 }  // namespace
 
 int RunTables(Texts arguments, const Surroundings& surroundings) {
-  constexpr std::string_view kUsage = "tarnwick_tables COMMAND ...";
-  if (arguments.empty()) return Refuse(surroundings, "a command is needed", kUsage);
+  if (arguments.empty()) return RefuseCommand(surroundings, "a command is needed");
   if (arguments[0] == kHelpOption.name) return Tell(surroundings, HelpOf(AllSyntaxes()));
   const Command* command = FindCommand(arguments[0]);
   if (command == nullptr) {
-    return Refuse(surroundings, "unknown command '" + std::string(arguments[0]) + "'", kUsage);
+    return RefuseCommand(surroundings, "unknown command '" + std::string(arguments[0]) + "'");
   }
   const CommandLine line = ReadCommandLine(command->syntax, arguments.subspan(1));
   if (line.Has(kHelpOption.name)) return Tell(surroundings, HelpOf(command->syntax));
