@@ -13,7 +13,7 @@ std::filesystem::path UserDataFolder();
 // description.
 bool ReadersKnowValues();
 
-// Whether the question for a printer offers to print to a file, so that it serves without a printer.
+// Whether the question for a printer offers to print to a file too, and so serves without one.
 bool PrintsToFiles();
 
 // Shows a page in the user's browser.

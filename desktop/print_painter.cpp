@@ -240,8 +240,9 @@ void PaintCells(const PrintedGrid& grid, const GridLayout& layout, const Sheet& 
   const auto columns = static_cast<std::size_t>(ColumnsOf(grid));
   for (std::size_t i = 0; i < grid.cells.size(); ++i) {
     if (!grid.cells[i]) continue;
+    const std::size_t row = i / columns;
     const QPointF corner(static_cast<double>(i % columns) * layout.cell.width(),
-                         static_cast<double>(i / columns) * layout.cell.height());
+                         static_cast<double>(row) * layout.cell.height());
     PaintCell(*grid.cells[i], {layout.cells.topLeft() + corner, layout.cell}, layout, sheet, pen);
   }
 }

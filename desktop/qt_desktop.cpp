@@ -247,7 +247,7 @@ std::string QtDesktop::SavePDF(const PrintedDocument& document, const std::files
   writer.setTitle(ToQt(TitleOf(document)));
   writer.setCreator(kProgramTitle);
   ArrangePaper(document, paper, writer);
-  const std::string error = PaintWithProgress(document, {}, writer);
+  std::string error = PaintWithProgress(document, {}, writer);
   if (!error.empty()) return error;
   return WriteTextFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }

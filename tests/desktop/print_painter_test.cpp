@@ -23,7 +23,7 @@ class PrintPainterTest : public QObject {
   void documentsTakeTheirPages_data();
   void documentsTakeTheirPages();
   void textsAreTextsAndPicturesAreCurves();
-  void columnsOfAnyWidthHaveRoom();
+  void everyCellIsPaintedOnce();
   void onlyChosenPagesArePainted();
   void moreThanAnybodyPrintsIsRefused();
   void paintingCanBeStopped();
@@ -126,8 +126,8 @@ void PrintPainterTest::textsAreTextsAndPicturesAreCurves() {
   QVERIFY(!pdf.contains("/Subtype /Image"));
 }
 
-// Every cell is asked for once, however many rows a page takes.
-void PrintPainterTest::columnsOfAnyWidthHaveRoom() {
+// However many rows a page takes, and however long the texts are.
+void PrintPainterTest::everyCellIsPaintedOnce() {
   PrintedTable table = WideTable();
   table.row_count = 321;
   std::vector<int> asked(table.row_count);
