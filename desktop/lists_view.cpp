@@ -33,6 +33,7 @@ constexpr Wording kWordings[] = {
     {"cmdTakeRow", 'u', ""},
     {"cmdSaveCSV", 'V', ""},
     {"cmdSaveCalendar", 'i', ""},
+    {"cmdSaveListPDF", 'D', ""},
     {"cmdPrintList", 'P', ""},
     {"cmdClose", 'C', ""},
 };
@@ -142,8 +143,8 @@ QWidget* ListsView::MakeButtons() {
   QHBoxLayout& row = area->Row();
   row.addWidget(MakeButton(binder_, form_.cmdTakeRow, area));
   row.addStretch();
-  for (Button* button :
-       {&form_.cmdSaveCSV, &form_.cmdSaveCalendar, &form_.cmdPrintList, &form_.cmdClose}) {
+  for (Button* button : {&form_.cmdSaveCSV, &form_.cmdSaveCalendar, &form_.cmdSaveListPDF,
+                         &form_.cmdPrintList, &form_.cmdClose}) {
     row.addWidget(MakeButton(binder_, *button, area));
   }
   return area;
