@@ -42,7 +42,7 @@ constexpr QSize kUsualSize{78, 50};  // in lines of text
 constexpr QSize kLeastTable{30, 10};
 constexpr int kVisibleChoices = 16;
 
-constexpr char kLongestKind[] = "Days in all nine calendars";
+constexpr char kLongestKind[] = "Coincidences of 1sts of months";
 constexpr char kLongestChoice[] = "Umbral lunar eclipses";
 constexpr char kLongestDate[] = "-5011-13-3-3 OLW 08:08";
 
