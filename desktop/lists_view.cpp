@@ -33,6 +33,7 @@ constexpr Wording kWordings[] = {
     {"cmdTakeRow", 'u', ""},
     {"cmdSaveCSV", 'V', ""},
     {"cmdSaveCalendar", 'i', ""},
+    {"cmdSaveListPDF", 'D', ""},
     {"cmdPrintList", 'P', ""},
     {"cmdClose", 'C', ""},
 };
@@ -41,7 +42,7 @@ constexpr QSize kUsualSize{78, 50};  // in lines of text
 constexpr QSize kLeastTable{30, 10};
 constexpr int kVisibleChoices = 16;
 
-constexpr char kLongestKind[] = "Days in all nine calendars";
+constexpr char kLongestKind[] = "Coincidences of 1sts of months";
 constexpr char kLongestChoice[] = "Umbral lunar eclipses";
 constexpr char kLongestDate[] = "-5011-13-3-3 OLW 08:08";
 
@@ -142,8 +143,8 @@ QWidget* ListsView::MakeButtons() {
   QHBoxLayout& row = area->Row();
   row.addWidget(MakeButton(binder_, form_.cmdTakeRow, area));
   row.addStretch();
-  for (Button* button :
-       {&form_.cmdSaveCSV, &form_.cmdSaveCalendar, &form_.cmdPrintList, &form_.cmdClose}) {
+  for (Button* button : {&form_.cmdSaveCSV, &form_.cmdSaveCalendar, &form_.cmdSaveListPDF,
+                         &form_.cmdPrintList, &form_.cmdClose}) {
     row.addWidget(MakeButton(binder_, *button, area));
   }
   return area;

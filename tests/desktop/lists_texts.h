@@ -7,8 +7,12 @@
 
 namespace tarnwick {
 
-// Gives every label the longest text that it is likely to have, and the table columns and rows.
+// Gives every label the longest text that it is likely to have, and the table columns and rows. The
+// window is open; what it has found of its first list stands behind the rows.
 inline void FillWithLongestTexts(frmLists& form) {
+  form.cmdList.Click();
+  form.tmrList.Tick();
+  form.cmdStopList.Click();
   form.cboChoice.SetVisible(true);
   form.cmdStopList.SetVisible(true);
   constexpr std::size_t kColumns = 9;
