@@ -45,6 +45,7 @@ Whatever you save replaces an earlier file only when the new one is complete. If
 - Ctrl+P opens the log preferences.
 - Alt+Left and Alt+Right lead back to what was shown before, and forward again.
 - Ctrl+L opens the lunation calendar; Page Up and Page Down turn its page.
+- Ctrl+T opens the lists.
 - Ctrl+K opens the sky at a place; Page Up and Page Down lead to the previous and the next eclipse there.
 - Ctrl+Q quits, from any window.
 - Alt with an underlined letter does what is written there.)";
@@ -288,6 +289,26 @@ Risings and settings hardly depend on it, so none is told of them.
 
 The instant at which the most of it is seen there becomes the current moment; history and log take it, as they do of any search. After that of 1999-08-11 CE, the next total eclipse of the Sun that Stuttgart sees is that of 2151-06-14 CE.)";
 
+constexpr std::string_view kLists =
+    R"(The button "Lists", or Ctrl+T, opens a window with everything of a kind in a period: the phases of the Moon, eclipses, the eclipses seen at the place of "Sky at a place", days on which four calendars begin a month together, first crescents at the place, or the days in all nine calendars.
+
+# Making a list
+
+Choose what to list, type from when to when, as dates are typed in the main window, and press Enter or "Make list". A day without a time counts whole, so that a list from 2024-01-01 CE to 2024-12-31 CE has all of that year. Rows appear as they are found, and "Stop" ends that; what was found stays.
+
+Dates and times are those of the main window: of its current calendar, its time system and its zone. Times of old events say how sure they are, from one minute on: "18:24 +- 11 min". An eclipse stands at its greatest phase, or, if it is one seen at the place, when the most of it is seen there; a crescent on the evening of class A or B or, where there is none, of class C.
+
+# Using it
+
+- A click on a heading sorts by that column, another one the other way round.
+- The boxes above choose the columns, in the window as well as in files and on paper.
+- Enter, a double click or "Take up moment" makes the moment of a row the current one, and describes its eclipse.
+- "Save as CSV" makes a file for spreadsheets, in UTF-8.
+- "Save as iCalendar" makes a file for calendar programs, an event a row. Phases and eclipses stand at their instants, crescents and coincidences as whole days. Such a file knows no years before 1: you are told how many rows were left out.
+- "Print" and "Save as PDF" put the list on paper, with its title and the headings on every page.
+
+A file takes 500,000 rows at most, paper 20,000. The command line tool tarnwick_tables prints lists of any length.)";
+
 constexpr std::string_view kTheNineCalendars =
     R"(Two of the nine follow the Sun, three the Sun and the Moon, two the Moon alone, and two count days.
 
@@ -381,6 +402,7 @@ constexpr std::array kPages{
     HelpPage{"The lunation calendar", kLunationCalendar},
     HelpPage{"The sky at a place", kTheSkyAtAPlace},
     HelpPage{"Eclipses at a place", kEclipsesAtAPlace},
+    HelpPage{"Lists", kLists},
     HelpPage{"The nine calendars", kTheNineCalendars},
     HelpPage{"Accuracy and sources", kAccuracyAndSources},
 };

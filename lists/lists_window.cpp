@@ -113,7 +113,7 @@ void frmLists::UpdateAvailability() {
   SetEnabled({&fraColumns, &tblList}, !blnSaving);
   cmdTakeRow.SetEnabled(tblList.Selected().has_value() && session_.IsIdle() && !blnSaving);
   SetEnabled({&cmdSaveCSV, &cmdPrintList, &cmdSaveListPDF}, rows && !busy);
-  cmdSaveCalendar.SetEnabled(rows && !busy && list_->EventOf(0).has_value());
+  cmdSaveCalendar.SetEnabled(rows && !busy && list_ && list_->EventOf(0).has_value());
 }
 
 void frmLists::cboKind_Click() {
@@ -149,6 +149,7 @@ void frmLists::cmdList_Click() {
   list_ = MakeList(request);
   reading_ = Reading();
   ShowColumns();
+  tblList.SetFocus();  // the button is disabled meanwhile
   blnFinding = true;
   blnCut = false;
   tmrList.SetEnabled(true);

@@ -60,6 +60,7 @@ def scene(at, names):
                        *single(at, names)]) for _ in range(at.randint(1, 7))]
     end = at.choice(["click cmdStop", "click cmdStop", "click cmdPauseResume", "close frmMain"])
     leave = at.choice(["click cmdMove", "click optLocal", f"set txbDate {entry(at)}"])
+    any_year = at.randint(-3200, 5990)
     side = at.choice(["Left", "Top", "Width", "Height"])
     moment, step, target = entry(at), at.randrange(20), at.choice([at.randrange(16), 6, 13])
     clock = (f"20{at.randint(10, 60)}-{at.randint(1, 12):02}-{at.randint(1, 28):02} "
@@ -80,6 +81,13 @@ def scene(at, names):
         ["click cmdSky", f"set frmSky.cboPlace {at.randrange(190)}", "tick frmSky.tmrMap 40",
          f"point frmSky.drwMap {at.random():.3f} {at.random():.3f}",
          f"set frmSky.cboSeenEclipse {at.choice([0, 1, 3])}", "click frmSky.cmdNextHere"],
+        ["click cmdLists", f"set frmLists.cboKind {at.randrange(6)}",
+         f"set frmLists.txbFrom {any_year}-01-01 CE",
+         f"set frmLists.txbTo {any_year + at.randint(-1, 9)}-12-31 CE", "click frmLists.cmdList",
+         "click frmLists.cmdStopList", f"sort frmLists.tblList {at.randrange(5)}",
+         f"click frmLists.chkColumn({at.randrange(5)})", f"set frmLists.tblList {at.randrange(3)}",
+         at.choice(["press frmLists.tblList 13", "answer file saved", "dump"]),
+         f"click frmLists.{at.choice(['cmdSaveCSV', 'cmdSaveCalendar', 'cmdPrintList'])}"],
         ["click cmdHelp", f"set frmHelp.lstPages {target}", "click frmHelp.cmdCredits"],
         ["click cmdLogPreferences", "click frmLogPreferences.cmdClearAll", "set chkLog 1",
          f"click {at.choice(names['chk'])}", f"click {at.choice(names['chk'])}", "click cmdReset"],
