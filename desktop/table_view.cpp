@@ -39,7 +39,9 @@ class TableModel final : public QAbstractTableModel {
 
   void Renew() {
     if (rows_ == 0 || columns_.empty()) return;
-    Q_EMIT dataChanged(index(0, 0), index(rows_ - 1, columnCount({}) - 1));
+    const QModelIndex first = QAbstractTableModel::index(0, 0);
+    const QModelIndex last = QAbstractTableModel::index(rows_ - 1, columnCount({}) - 1);
+    Q_EMIT dataChanged(first, last);
   }
 
   int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : rows_; }

@@ -1,26 +1,20 @@
 #include "lists/csv.h"
 
-#include <string_view>
+#include <cstddef>
 
 namespace tarnwick {
-namespace {
 
-void AddCell(std::string_view cell, std::string& text) {
-  if (cell.find_first_of(",\"\r\n") == std::string_view::npos) {
-    text += cell;
-    return;
-  }
-  text += '"';
-  for (const char c : cell) text.append(c == '"' ? 2 : 1, c);
-  text += '"';
+std::string CSVCell(std::string_view text) {
+  if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
+  std::string cell = "\"";
+  for (const char c : text) cell.append(c == '"' ? 2 : 1, c);
+  return cell + '"';
 }
-
-}  // namespace
 
 void AddCSVLine(std::span<const std::string> cells, std::string& text) {
   for (std::size_t i = 0; i < cells.size(); ++i) {
     if (i > 0) text += ',';
-    AddCell(cells[i], text);
+    text += CSVCell(cells[i]);
   }
   text += "\r\n";
 }

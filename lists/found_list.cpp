@@ -51,6 +51,7 @@ class KeptList final : public FoundList {
 
   std::vector<ListColumn> Columns() const override {
     std::vector<ListColumn> columns;
+    columns.reserve(Kind::kColumns.size());
     for (const auto& one : Kind::kColumns) columns.push_back(one.column);
     return columns;
   }

@@ -7,6 +7,7 @@
 #include "calendars/date_processing.h"
 #include "calendars/entry_code.h"
 #include "calendars/text.h"
+#include "lists/csv.h"
 #include "moment/accepted_range.h"
 #include "moon/moon_data.h"
 #include "tools/tables/printer.h"
@@ -14,22 +15,11 @@
 namespace tarnwick {
 namespace {
 
-// A cell of CSV (RFC 4180), in quotation marks if it needs them.
-std::string TextCell(std::string_view text) {
-  if (text.find_first_of(",\"\r\n") == std::string_view::npos) return std::string(text);
-  std::string cell = "\"";
-  for (const char character : text) {
-    if (character == '"') cell += '"';
-    cell += character;
-  }
-  return cell + '"';
-}
-
 std::vector<std::string> MomentCells(UniversalTime moment, int offset_minutes) {
   std::vector<std::string> cells{
       TimeOfDayText(SplitCJD(AJDToCJD(moment, offset_minutes)).fraction, false), Cell(moment)};
   for (const Calendar calendar : kDisplayOrder) {
-    cells.push_back(TextCell(DateCell(calendar, moment, offset_minutes)));
+    cells.push_back(CSVCell(DateCell(calendar, moment, offset_minutes)));
   }
   const MoonData moon = MoonDataAt(moment);
   cells.insert(cells.end(),
@@ -65,7 +55,7 @@ std::string ConvertHeader() {
 ConvertedEntry ConvertEntry(std::string_view entry, const EntryContext& context) {
   const ReadEntry read = Read(entry, context);
   const bool refused = !read.error.empty();
-  std::vector<std::string> cells{TextCell(entry), TextCell(read.error)};
+  std::vector<std::string> cells{CSVCell(entry), CSVCell(read.error)};
   if (refused) {
     constexpr std::size_t kColumns = 17;
     cells.resize(kColumns);
