@@ -70,7 +70,7 @@ using Row = std::optional<std::size_t>;
 
 void TableViewTest::selectionGoesBothWays() {
   ShownTable shown(1000);
-  QCOMPARE(shown.view.Selected(), Row());
+  QVERIFY(!shown.view.Selected());
   shown.Click(3);
   QCOMPARE(shown.table.Selected(), Row(3));
   QTest::mouseClick(shown.view.viewport(), Qt::LeftButton, Qt::ControlModifier,
@@ -81,10 +81,10 @@ void TableViewTest::selectionGoesBothWays() {
   QVERIFY(shown.view.viewport()->rect().contains(shown.MiddleOf(700, 0)));
   QVERIFY(shown.view.selectionModel()->isRowSelected(700));
   shown.table.Select(std::nullopt);
-  QCOMPARE(shown.view.Selected(), Row());
+  QVERIFY(!shown.view.Selected());
   shown.table.SetEnabled(false);
   shown.Click(shown.Top());
-  QCOMPARE(shown.table.Selected(), Row());
+  QVERIFY(!shown.table.Selected());
 }
 
 void TableViewTest::keysLeadAlongTheRows_data() {
@@ -161,11 +161,11 @@ void TableViewTest::anotherTableBeginsAtItsTop() {
   ShownTable shown(1000);
   shown.table.Select(900);
   shown.table.SetRowCount(0);
-  QCOMPARE(shown.table.Selected(), Row());
+  QVERIFY(!shown.table.Selected());
   shown.table.SetRowCount(500);
   QCoreApplication::processEvents();
   QCOMPARE(shown.Top(), 0);
-  QCOMPARE(shown.view.Selected(), Row());
+  QVERIFY(!shown.view.Selected());
   shown.table.Select(20);
   shown.table.SetRowCount(100);
   QCOMPARE(shown.view.Selected(), Row(20));
