@@ -2,14 +2,14 @@
 # Installs what is missing of the named groups of Debian packages.
 # usage: scripts/packages.sh GROUP...     groups: run, screen, test, fuzz, windows, windows-qt,
 #                                           package-windows, package-linux, faults,
-#                                           drive, check, coverage
+#                                           drive, check, coverage, fit
 set -euo pipefail
 
 packages_of() {
   case $1 in
     run) echo g++ cmake ninja-build ccache qt6-base-dev libgl1-mesa-dev fonts-dejavu-core ;;
     screen) echo xvfb xauth imagemagick ;;
-    test) echo googletest libbenchmark-dev python3 python3-icalendar ;;
+    test) echo googletest libbenchmark-dev python3 python3-icalendar python3-numpy ;;
     fuzz) echo clang libclang-rt-14-dev cmake ninja-build ccache ;;
     windows) echo g++-mingw-w64-x86-64-posix wine64 fonts-liberation xvfb xauth ;;
     windows-qt) echo g++ g++-mingw-w64-x86-64-posix qt6-base-dev cmake ninja-build dpkg-dev patch xz-utils ;;
@@ -19,6 +19,7 @@ packages_of() {
     drive) echo openbox xdotool imagemagick unzip ;;
     check) echo clang-format clang-tidy cppcheck valgrind ;;
     coverage) echo gcovr ;;
+    fit) echo g++ libswe-dev swe-basic-data swe-standard-data swe-extra-data python3 python3-numpy libopenblas0-pthread ;;
     *)
       echo "$0: unknown group: $1" >&2
       return 2
