@@ -13,6 +13,14 @@ bool UserReplaces(Desktop& desktop, const std::string& title, const std::filesys
 
 }  // namespace
 
+std::string FileNameOf(std::string_view title) {
+  std::string name;
+  for (const char c : title) {
+    name += std::string_view("<>:\"/\\|?*").find(c) == std::string_view::npos ? c : '.';
+  }
+  return name;
+}
+
 std::string PathText(const std::filesystem::path& path) {
   const std::u8string text = path.u8string();
   return {text.begin(), text.end()};

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "controls/desktop.h"
 
@@ -13,6 +14,9 @@ namespace tarnwick {
 // is not there yet or agrees to replace the one that is. Nothing if he gives up.
 std::optional<std::filesystem::path> AskWhereToSave(Desktop& desktop, const std::string& title,
                                                     const std::string& suggestion);
+
+// A title as the name of a file: colons and the like cannot stand in one everywhere.
+std::string FileNameOf(std::string_view title);
 
 // A path as the user reads it, in UTF-8.
 std::string PathText(const std::filesystem::path& path);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "controls/save_path.h"
 #include "controls/utf8.h"
 
 namespace tarnwick {
@@ -36,6 +37,15 @@ void frmNotice::ShowOver(const Form& window, const std::string& text) {
   tmrNotice.SetEnabled(false);  // a notice still shown begins its time anew
   tmrNotice.SetEnabled(true);
   ShowInactive();
+}
+
+void frmNotice::TellOfSaving(Desktop& desktop, const Form& window, const std::string& what,
+                             const std::string& title, const std::string& error) {
+  if (error.empty()) {
+    ShowOver(window, "Saved");
+  } else {
+    ReportSaveError(desktop, what, title, error);
+  }
 }
 
 }  // namespace tarnwick

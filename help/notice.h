@@ -4,6 +4,7 @@
 #include <string>
 
 #include "controls/controls.h"
+#include "controls/desktop.h"
 #include "controls/form.h"
 
 namespace tarnwick {
@@ -17,6 +18,10 @@ class frmNotice final : public Form {
 
   // Shows it at the lower edge of a window.
   void ShowOver(const Form& window, const std::string& text);
+  // "Saved", over the window; or, if there is an error, a message box with it, under `title`: what
+  // became of saving `what`, "the log".
+  void TellOfSaving(Desktop& desktop, const Form& window, const std::string& what,
+                    const std::string& title, const std::string& error);
 };
 
 }  // namespace tarnwick

@@ -27,8 +27,6 @@ constexpr std::array<std::string_view, 6> kKinds{"Phases of the Moon",
                                                  "Coincidences of 1sts of month",
                                                  "First crescents",
                                                  "Days in all calendars"};
-constexpr std::array<std::string_view, 5> kPhaseChoices{"All phases", "Dark moon", "1st quarter",
-                                                        "Full moon", "Last quarter"};
 
 Calendar DateCalendar(const ListReading& reading) {
   return IsDayCount(reading.calendar) ? kCE : reading.calendar;
@@ -130,7 +128,7 @@ struct PhaseKind {
   using Row = FoundPhase;
 
   static std::string PhaseCell(const Row& row, const ListReading& /*reading*/) {
-    return std::string(kPhaseChoices.at(static_cast<std::size_t>(row.at.phase) + 1));
+    return std::string(PhaseText(row.at.phase));
   }
   static double PhaseKey(const Row& row) { return row.at.phase; }
 
@@ -402,6 +400,7 @@ class DayList final : public FoundList {
   ListedMoment MomentOf(std::size_t row) const override {
     return {NoonOf(Day(row), offset_minutes_)};
   }
+  bool HasEvents() const override { return false; }
   std::optional<CalendarEvent> EventOf(std::size_t /*row*/) const override { return std::nullopt; }
   std::string Cell(std::size_t row, std::size_t column,
                    const ListReading& /*reading*/) const override {
@@ -432,7 +431,10 @@ std::vector<std::string_view> ListKinds() { return {kKinds.begin(), kKinds.end()
 
 std::vector<std::string_view> ListChoices(ListKind kind) {
   std::vector<std::string_view> choices;
-  if (kind == ListKind::kPhases) choices.assign(kPhaseChoices.begin(), kPhaseChoices.end());
+  if (kind == ListKind::kPhases) {
+    choices.emplace_back("All phases");
+    for (std::int16_t phase = 0; phase < kPhaseCount; ++phase) choices.push_back(PhaseText(phase));
+  }
   if (kind == ListKind::kSeenEclipses) choices.assign(kSoughtTexts.begin(), kSoughtTexts.end());
   for (int target = kAnyEclipseTarget; kind == ListKind::kEclipses && target < kSameSarosTarget;
        ++target) {

@@ -70,7 +70,9 @@ class FoundList {
 
   virtual std::size_t Size() const = 0;
   virtual ListedMoment MomentOf(std::size_t row) const = 0;
-  // The row in a calendar file; nothing of a mere day.
+  // Whether its rows can stand in a calendar file, as mere days cannot.
+  virtual bool HasEvents() const { return true; }
+  // The row there; nothing where there are none.
   virtual std::optional<CalendarEvent> EventOf(std::size_t row) const = 0;
   virtual std::string Cell(std::size_t row, std::size_t column,
                            const ListReading& reading) const = 0;

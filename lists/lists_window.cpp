@@ -31,14 +31,6 @@ std::string RowsText(std::size_t count) {
   return FormatFixed(static_cast<double>(count), 0, true) + (count == 1 ? " row" : " rows");
 }
 
-// Colons and the like cannot stand in the names of files everywhere.
-std::string FileNameOf(std::string_view title) {
-  std::string name;
-  for (const char c : title)
-    name += std::string_view("<>:\"/\\|?*").find(c) == std::string_view::npos ? c : '.';
-  return name;
-}
-
 }  // namespace
 
 frmLists::frmLists(Desktop& desktop, Screen& screen, Session& session, EntrySection& entry,
@@ -113,7 +105,7 @@ void frmLists::UpdateAvailability() {
   SetEnabled({&fraColumns, &tblList}, !blnSaving);
   cmdTakeRow.SetEnabled(tblList.Selected().has_value() && session_.IsIdle() && !blnSaving);
   SetEnabled({&cmdSaveCSV, &cmdPrintList, &cmdSaveListPDF}, rows && !busy);
-  cmdSaveCalendar.SetEnabled(rows && !busy && list_ && list_->EventOf(0).has_value());
+  cmdSaveCalendar.SetEnabled(rows && !busy && list_ && list_->HasEvents());
 }
 
 void frmLists::cboKind_Click() {
@@ -176,7 +168,6 @@ void frmLists::cmdStopList_Click() {
 // All of them at first.
 void frmLists::ShowColumns() {
   const std::vector<ListColumn> columns = list_->Columns();
-  shown_.clear();
   for (std::size_t i = 0; i < kMostColumns; ++i) {
     const bool there = i < columns.size();
     chkColumn[i].SetVisible(there);
@@ -349,7 +340,7 @@ bool frmLists::SaveText(const Button& command, const std::string& ending,
   ShowProgress();
   if (!text) return false;
   const std::string error = WriteTextFile(*file, *text);
-  TellOfSaving(title, error);
+  notice_.TellOfSaving(desktop_, *this, "the list", title, error);
   return error.empty();
 }
 
@@ -397,15 +388,9 @@ void frmLists::cmdSaveListPDF_Click() {
   if (IsTooLong(kMostRowsOnPaper, "Paper")) return;
   const std::string& title = cmdSaveListPDF.Caption();
   const auto file = AskWhereToSave(desktop_, title, FileNameOf(list_name_) + ".pdf");
-  if (file) TellOfSaving(title, desktop_.SavePDF(Printed(), *file, desktop_.UsualPaper()));
-}
-
-void frmLists::TellOfSaving(const std::string& title, const std::string& error) {
-  if (error.empty()) {
-    notice_.ShowOver(*this, "Saved");
-  } else {
-    ReportSaveError(desktop_, "the list", title, error);
-  }
+  if (!file) return;
+  notice_.TellOfSaving(desktop_, *this, "the list", title,
+                       desktop_.SavePDF(Printed(), *file, desktop_.UsualPaper()));
 }
 
 }  // namespace tarnwick

@@ -101,7 +101,6 @@ class frmLists final : public ClosableForm {
   PrintedTable Printed() const;
   bool KeepSaving(std::size_t done);
   bool IsTooLong(std::size_t most, const std::string& what);
-  void TellOfSaving(const std::string& title, const std::string& error);
 
   Desktop& desktop_;
   Session& session_;

@@ -114,12 +114,8 @@ void frmLog::cmdSaveAs_Click() {
   const auto file = AskWhereToSave(desktop_, kSaveTitle, "Tarnwick log.txt");
   if (!file) return;
   const std::string error = WriteTextFile(*file, txbText.Text());
-  if (error.empty()) {
-    blnSaved = true;
-    notice_.ShowOver(*this, "Saved");
-  } else {
-    ReportSaveError(desktop_, "the log", kSaveTitle, error);
-  }
+  if (error.empty()) blnSaved = true;
+  notice_.TellOfSaving(desktop_, *this, "the log", kSaveTitle, error);
 }
 
 void frmLog::cmdClose_Click() {

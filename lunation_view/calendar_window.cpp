@@ -159,7 +159,9 @@ void frmCalendar::Print(const Button& button, const PrintedGrids& pages) {
 void frmCalendar::SavePDF(const Button& button, const PrintedGrids& pages,
                           const std::string& suggestion) {
   const auto file = AskWhereToSave(desktop_, button.Caption(), suggestion + ".pdf");
-  if (file) ReportSaved(button, "the PDF file", desktop_.SavePDF(pages, *file, Paper()));
+  if (file)
+    notice_.TellOfSaving(desktop_, *this, "the PDF file", button.Caption(),
+                         desktop_.SavePDF(pages, *file, Paper()));
 }
 
 void frmCalendar::cmdPrintLunation_Click() { Print(cmdPrintLunation, LunationToPrint()); }
@@ -176,16 +178,8 @@ void frmCalendar::cmdSaveCalendarImage_Click() {
   const auto file =
       AskWhereToSave(desktop_, cmdSaveCalendarImage.Caption(), LunationName() + ".png");
   if (!file) return;
-  ReportSaved(cmdSaveCalendarImage, "the image", desktop_.SaveImage(fraCalendar, *file));
-}
-
-void frmCalendar::ReportSaved(const Button& button, const std::string& what,
-                              const std::string& error) {
-  if (error.empty()) {
-    notice_.ShowOver(*this, "Saved");
-  } else {
-    ReportSaveError(desktop_, what, button.Caption(), error);
-  }
+  notice_.TellOfSaving(desktop_, *this, "the image", cmdSaveCalendarImage.Caption(),
+                       desktop_.SaveImage(fraCalendar, *file));
 }
 
 }  // namespace tarnwick

@@ -74,7 +74,6 @@ class frmCalendar final : public ClosableForm {
   void cmdSaveYearPDF_Click();
   void cmdSaveCalendarImage_Click();
   std::string LunationName() const { return "lunation " + std::to_string(lngLunation); }
-  void ReportSaved(const Button& button, const std::string& what, const std::string& error);
 
   Desktop& desktop_;
   Session& session_;

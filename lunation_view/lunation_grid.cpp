@@ -22,8 +22,6 @@ constexpr int kLastCell = kGridCells - 1;
 constexpr int kLongLunation = 30;
 // The place that the OLW calendar would have in the list; its day begins six hours late.
 constexpr int kOLWMonthCalendar = 4;
-constexpr std::array<std::string_view, kPhaseCount> kPhaseNames{"Dark moon", "1st quarter",
-                                                                "Full moon", "Last quarter"};
 
 // The day of a moment, and its time of day.
 DayAndTime DayOf(UniversalTime moment, const GridReading& reading) {
@@ -49,7 +47,7 @@ DayEvent EventAt(UniversalTime instant, std::string_view name, const GridReading
 void AddPhase(std::vector<DayEvent>& events, std::int32_t lunation, std::int16_t phase,
               const GridReading& reading) {
   const PhaseEvent event = FindPhaseEvent(lunation, phase);
-  events.push_back(EventAt(event.ut, kPhaseNames[static_cast<std::size_t>(phase)], reading));
+  events.push_back(EventAt(event.ut, PhaseText(phase), reading));
   if (event.eclipse.type == kNotEclipsed) return;
   events.push_back(EventAt(GreatestEclipse(event.eclipse),
                            EclipseTypeText(static_cast<std::int16_t>(event.eclipse.type)),

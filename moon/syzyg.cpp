@@ -107,6 +107,12 @@ PhaseInEffect GetPhase(std::int32_t n, UniversalTime moment) {
   return FindPhaseInEffect(n, moment, PhaseTime);
 }
 
+std::string_view PhaseText(std::int16_t phase) {
+  constexpr std::array<std::string_view, kPhaseCount> kPhases{"Dark moon", "1st quarter",
+                                                              "Full moon", "Last quarter"};
+  return NameOf(kPhases, phase, kNewMoon);
+}
+
 std::string_view EclipseTypeText(std::int16_t code) {
   return NameOf(kEclipseTypes, code, kPartialSolar);
 }

@@ -60,6 +60,9 @@ inline constexpr std::int16_t kInEarlierLunation = -2;
 PhaseInEffect PhaseAt(std::int32_t n, TerrestrialTime moment);
 PhaseInEffect GetPhase(std::int32_t n, UniversalTime moment);
 
+// "Dark moon", "1st quarter", "Full moon" or "Last quarter", for the phases 0 to 3.
+std::string_view PhaseText(std::int16_t phase);
+
 // "Total lunar eclipse" and so on for the types 1 to 10, else empty.
 std::string_view EclipseTypeText(std::int16_t code);
 

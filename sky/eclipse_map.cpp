@@ -92,7 +92,7 @@ void DrawEdges(LunarEclipseMap& map) {
 }
 
 double DeltaTInDays(const EclipseRecord& record) {
-  return DeltaT(TerrestrialTime(record.greatest)) / kMinutesPerDay;
+  return DeltaTDays(TerrestrialTime(record.greatest));
 }
 
 }  // namespace

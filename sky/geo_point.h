@@ -12,6 +12,8 @@ namespace tarnwick {
 struct GeoPoint {
   double latitude = 0;
   double longitude = 0;
+
+  friend bool operator==(const GeoPoint&, const GeoPoint&) = default;
 };
 
 inline constexpr double kDegree = std::numbers::pi / 180;  // in radians

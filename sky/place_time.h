@@ -14,6 +14,8 @@ struct PlaceReading {
   GeoPoint place;
   Calendar calendar = kCE;  // of dates; CE where that is a day count
   int offset_minutes = 0;   // east of Greenwich
+
+  friend bool operator==(const PlaceReading&, const PlaceReading&) = default;
 };
 
 // An instant in both.

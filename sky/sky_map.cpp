@@ -8,7 +8,6 @@
 #include "engines/ephemeris/earth_frame.h"
 #include "engines/ephemeris/moon_sun_track.h"
 #include "engines/ephemeris/positions.h"
-#include "engines/time_units.h"
 #include "moon/clock_error.h"
 #include "moon/syzyg.h"
 #include "sky/curve_marks.h"
@@ -45,7 +44,7 @@ std::vector<DrawnLine> Graticule() {
 }
 
 std::vector<GeoPoint> NightAt(UniversalTime moment) {
-  const double delta_t = DeltaT(moment) / kMinutesPerDay;
+  const double delta_t = DeltaTDays(moment);
   const double tt = moment.days + delta_t;
   const Vector3 sun = VectorsOf(PositionsAt(tt)).sun.value;
   return AreaBelow(GeometricHorizon(EarthFrame(tt, delta_t).FromEcliptic(sun)));

@@ -26,13 +26,6 @@ std::string EclipseCaptionOf(const std::optional<EclipseRecord>& record,
   return record ? EclipseTitle(*record, reading) : "No eclipse in this lunation";
 }
 
-// The file that a map is saved in cannot have every character of its title.
-std::string FileNameOf(std::string_view title) {
-  std::string name(title.substr(0, title.find(" (")));
-  std::ranges::replace(name, ':', '.');
-  return name + ".png";
-}
-
 }  // namespace
 
 frmSky::frmSky(Desktop& desktop, Screen& screen, Session& session, EntrySection& entry,
@@ -116,8 +109,10 @@ std::optional<EclipseRecord> frmSky::EclipseOnDisplay() const {
 }
 
 void frmSky::Refresh() {
-  if (!Visible()) return;
-  const PlaceReading reading = Reading();
+  const Shown now{session_.Moment(), Reading(), session_.DescribedEclipse()};
+  if (!Visible() || now == shown_) return;
+  shown_ = now;
+  const PlaceReading& reading = now.reading;
   const std::optional<EclipseRecord> eclipse = EclipseOnDisplay();
   ShowMoment(reading);
   ShowDay(reading);
@@ -229,15 +224,12 @@ void frmSky::Map_Click(DrawingPoint point) {
 
 void frmSky::cmdSaveMap_Click() {
   const std::string title = cmdSaveMap.Caption();
-  const auto file = AskWhereToSave(desktop_, title, FileNameOf(lblMapTitle.Caption()));
+  const std::string& map = lblMapTitle.Caption();
+  const std::string name = FileNameOf(map.substr(0, map.find(" ("))) + ".png";
+  const auto file = AskWhereToSave(desktop_, title, name);
   if (!file) return;
   FinishMap();
-  const std::string error = desktop_.SaveImage(fraMap, *file);
-  if (error.empty()) {
-    notice_.ShowOver(*this, "Saved");
-  } else {
-    ReportSaveError(desktop_, "the map", title, error);
-  }
+  notice_.TellOfSaving(desktop_, *this, "the map", title, desktop_.SaveImage(fraMap, *file));
 }
 
 void frmSky::FindHere(bool forward) {

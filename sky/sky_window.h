@@ -85,6 +85,14 @@ class frmSky final : public ClosableForm {
   void Form_KeyPress(int& key) override;
 
  private:
+  // What all that is shown follows from; a step of a move tells of a change several times.
+  struct Shown {
+    UniversalTime moment;
+    PlaceReading reading;
+    std::optional<PhaseNumber> described;
+    friend bool operator==(const Shown&, const Shown&) = default;
+  };
+
   PlaceReading Reading() const;
   std::optional<EclipseRecord> EclipseOnDisplay() const;
   void ShowMoment(const PlaceReading& reading);
@@ -104,6 +112,7 @@ class frmSky final : public ClosableForm {
   Session& session_;
   EntrySection& entry_;
   frmNotice& notice_;
+  std::optional<Shown> shown_;
   std::optional<SkyMap> map_;  // once the window has been loaded
   bool blnSearching = false;   // a search is to go on
 };
