@@ -3,6 +3,7 @@
 # --screen as the first argument, on the one of $DISPLAY or else on a virtual one.
 # usage: scripts/wine.sh [--screen] PROGRAM.exe [ARGUMENTS...]     exit code: the program's
 #        scripts/wine.sh --screen --wait     waits until everything in that prefix has ended
+#        scripts/wine.sh --screen --kill     ends everything in that prefix
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
@@ -34,6 +35,12 @@ make_prefix() {
   wineserver -w
   touch "$WINEPREFIX/.ready"
 }
+
+# First, since the making of the prefix may be what hangs.
+if [[ ${1:-} == --kill ]]; then
+  wineserver -k || true # there may be none
+  exit
+fi
 
 if [[ ! -e $WINEPREFIX/.ready ]]; then
   mkdir -p "$(dirname "$WINEPREFIX")"
