@@ -54,7 +54,10 @@ wait_until() {
   done
 }
 
+# Fails where there is none, and where any window goes while it searches.
 windows() { xdotool search --onlyvisible "$@" 2>/dev/null; }
+
+main_is_there() { main=$(windows --name '^Tarnwick 18.0$'); }
 
 active_window() { xdotool getactivewindow 2>/dev/null || true; }
 
@@ -151,8 +154,7 @@ start_program() {
   (cd "$work" && exec env -u XDG_CURRENT_DESKTOP HOME="$work" XDG_CONFIG_HOME="$work/config" \
     XDG_RUNTIME_DIR="$work/runtime" QT_QPA_PLATFORM=xcb "$prompt_memory" "$program") &
   pid=$!
-  wait_until windows --name '^Tarnwick 18.0$' >/dev/null
-  main=$(windows --name '^Tarnwick 18.0$')
+  wait_until main_is_there
   local WINDOW X Y WIDTH HEIGHT SCREEN
   eval "$(xdotool getwindowgeometry --shell "$main")"
   main_width=$WIDTH

@@ -7,7 +7,7 @@ import time
 from contextlib import contextmanager
 from functools import partial
 
-from harness import PATIENCE, additions, expect, expect_equal, step_of_state
+from harness import PATIENCE, Fault, additions, expect, expect_equal, step_of_state
 
 PICTURES = ("darkmoon.bmp", "1stquarter.bmp", "fullmoon.bmp", "lastquarter.bmp")
 STEP = 7
@@ -53,16 +53,27 @@ class Program:
         self.process.kill()
         self.process.communicate()
 
-    def xdotool(self, *arguments):
-        done = subprocess.run(["xdotool", *arguments], env=self.environment, capture_output=True,
+    def try_xdotool(self, *arguments):
+        return subprocess.run(["xdotool", *arguments], env=self.environment, capture_output=True,
                               text=True, timeout=PATIENCE)
+
+    def xdotool(self, *arguments):
+        done = self.try_xdotool(*arguments)
         expect_equal(done.returncode, 0, f"xdotool {arguments}: {done.stderr}")
-        return done.stdout.split()
+
+    def window(self, title):
+        """Once it is there. A search fails where any window goes while it is under way."""
+        end = time.monotonic() + PATIENCE
+        while time.monotonic() < end:
+            done = self.try_xdotool("search", "--onlyvisible", "--name", title)
+            if done.returncode == 0:
+                return done.stdout.split()[0]
+            time.sleep(0.05)
+        raise Fault(f"no window {title}: {done.stderr}")
 
     def press(self, title, *keys):
         """In a window, once it is there."""
-        window = self.xdotool("search", "--sync", "--onlyvisible", "--name", title)[0]
-        self.xdotool("windowfocus", "--sync", window, "key", "--delay", "50", *keys)
+        self.xdotool("windowfocus", "--sync", self.window(title), "key", "--delay", "50", *keys)
 
     def end(self):
         """What it said, and its status."""
