@@ -56,7 +56,8 @@ class EventCheck(unittest.TestCase):
         other = events(("type", TOTAL, -1), ("magnitude", TOTAL, -0.325))
         rows = list(check_events.differing_rows(other, events()))
         self.assertEqual([row[2:4] + row[6:7] for row in rows],
-                         [("series", "partial lunar", "0.999600"), ("DE431", "total lunar", "1.324600")])
+                         [("series", "partial lunar", "0.999600"),
+                          ("DE431", "total lunar", "1.324600")])
         self.assertEqual(check_events.faults(other, events()), [])
 
     def test_errors_are_told_in_seconds_and_by_kind(self):

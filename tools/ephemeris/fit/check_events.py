@@ -101,10 +101,10 @@ def tell_phases(series, de431):
     yield "## Phases"
     yield from table(["which", "phases", "largest s", "rms s", f"above {LATE} s",
                       f"above {VERY_LATE} s"], phase_rows(series, de431))
-    yield f"The mean of all is {error.mean():.4f} s. The largest, {error[worst]:.3f} s, is that of the"
-    yield f"{PHASES[int(de431['phase'][worst])]} of JD (TT) {de431['instant'][worst]:.4f}. One more step of"
-    yield f"the search would change no phase by more than {largest(series['left']):.4f} s (series) or"
-    yield f"{largest(de431['left']):.4f} s (DE431)."
+    at = f"{PHASES[int(de431['phase'][worst])]} of JD (TT) {de431['instant'][worst]:.4f}"
+    left = ", ".join(f"{largest(events['left']):.4f} s" for events in (series, de431))
+    yield f"The mean of all is {error.mean():.4f} s, the largest {error[worst]:.3f} s: {at}."
+    yield f"One more step of either search would change no phase by more than {left}."
 
 
 def count_rows(series, de431):
@@ -144,8 +144,8 @@ def tell_eclipses(series, de431):
     differing = list(differing_rows(series, de431))
     yield f"Eclipses that differ in type, saros or existence: {len(differing) // 2}."
     if differing:
-        yield from table(["JD (TT)", "at", "by", "type", "saros", "gamma", "magnitude", "penumbral"],
-                         differing)
+        yield from table(["JD (TT)", "at", "by", "type", "saros", "gamma", "magnitude",
+                          "penumbral"], differing)
     yield "Errors, a semi-duration's where there is such a phase by both:"
     yield from table(["quantity", "unit", "eclipses", "mean", "rms", "largest"],
                      error_rows(series, de431))
@@ -158,7 +158,7 @@ def report(series, de431):
     found = faults(series, de431)
     yield from (f"**Fault:** {fault}" for fault in found)
     if not found:
-        yield "Every phase and every eclipse of each list is in the other one, with the same saros number."
+        yield "Both lists hold the same phases and eclipses, with the same saros numbers."
     if len(series["instant"]) == len(de431["instant"]):
         yield ""
         yield from tell_phases(series, de431)

@@ -30,9 +30,9 @@ Position PositionOf(const Place& place, const Place& rate) {
           rate[2] * kKmPerAu};
 }
 
-// The rates are those of the places around: those that the library offers leave out a part of the
-// aberration, 0.3" a day in the Moon's longitude. They are the derivative, in the middle, of the
-// polynomial through five places (Meeus, Astronomical Algorithms, 2nd ed., ch. 3).
+// The rates are those of the places around: those that the library offers leave out a part of
+// what light-time does, 0.3" a day in the Moon's longitude. They are the derivative, in the middle,
+// of the polynomial through five places (Meeus, Astronomical Algorithms, 2nd ed., ch. 3).
 Position PositionAt(De431Body body, double ajd_tt) {
   const auto place_after = [&](int steps) { return De431Place(body, ajd_tt + steps * kStep); };
   const Place near = Difference(place_after(-1), place_after(1));
