@@ -19,7 +19,7 @@ packages_of() {
     drive) echo openbox xdotool imagemagick unzip ;;
     check) echo clang-format clang-tidy cppcheck valgrind ;;
     coverage) echo gcovr ;;
-    fit) echo g++ libswe-dev swe-basic-data swe-standard-data swe-extra-data python3 python3-numpy libopenblas0-pthread ;;
+    fit) echo g++ libswe-dev swe-basic-data swe-standard-data swe-extra-data python3 python3-numpy python3-matplotlib libopenblas0-pthread ;;
     *)
       echo "$0: unknown group: $1" >&2
       return 2
