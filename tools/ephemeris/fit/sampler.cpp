@@ -1,7 +1,9 @@
 // Writes apparent geocentric places of Moon and Sun by JPL DE431, in the mean ecliptic and equinox
-// of date, without nutation, at random epochs in ascending order.
+// of date, without nutation, in ascending order of epochs.
 //
-// usage: sampler COUNT SEED [--text]
+// usage: sampler random COUNT SEED [--text]    at epochs drawn evenly over the span of the series
+//        sampler every DAYS                    at even intervals over that span
+//        sampler phases                        at every phase in it: elongations 0, 90, 180, 270
 //
 // Seven numbers a place: JD (TT); longitude and latitude in degrees and distance in km of the Moon;
 // longitude and latitude in degrees and distance in au of the Sun. As doubles, or as rounded text.
@@ -13,20 +15,27 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <cstring>
 #include <random>
 #include <stdexcept>
 #include <string>
-#include <swephexp.h>
+#include <string_view>
 #include <system_error>
 #include <vector>
 
+#include "tools/ephemeris/fit/de431.h"
+
 namespace {
+
+using tarnwick::De431Body;
+using tarnwick::De431Place;
 
 constexpr double kFirst = 550000, kLast = 3914990;  // JD (TT), the span of the series
 constexpr double kKmPerAu = 149597870.7;
-constexpr int kPlanetFile = 0, kMoonFile = 1;
 constexpr std::uint64_t kMostEpochs = 10'000'000;
+constexpr double kQuarter = 7.38;    // days from phase to phase, from 6.5 to 8.3
+constexpr double kMeanRate = 12.19;  // of the elongation, degrees a day
+constexpr double kClose = 1e-7;      // of a phase's instant, days: a hundredth of a second
+constexpr int kMostSteps = 20;
 
 using Place = std::array<double, 7>;
 
@@ -43,30 +52,24 @@ std::vector<double> DrawEpochs(std::size_t count, std::uint64_t seed) {
   return epochs;
 }
 
-// Whether the data file that answered last holds DE431 at this epoch.
-bool IsDe431(int file, double epoch) {
-  double start = 0, end = 0;
-  int number = 0;
-  const char* path = swe_get_current_file_data(file, &start, &end, &number);
-  return path != nullptr && number == 431 && start <= epoch && epoch <= end;
-}
-
-// Longitude and latitude in degrees, distance in au. Throws where another ephemeris answers: the
-// library takes one that it computes itself where a file is missing.
-std::array<double, 3> PlaceOf(int body, double epoch) {
-  std::array<double, 6> place{};
-  std::array<char, AS_MAXCH> message{};
-  const int asked = SEFLG_SWIEPH | SEFLG_NONUT;
-  const int answered = swe_calc(epoch, body, asked, place.data(), message.data());
-  const bool moon_is_de431 = body != SE_MOON || IsDe431(kMoonFile, epoch);
-  if (answered != asked || !moon_is_de431 || !IsDe431(kPlanetFile, epoch))
-    throw std::runtime_error("no DE431 at JD " + std::to_string(epoch) + ": " + message.data());
-  return {place[0], place[1], place[2]};
-}
-
 Place PlaceAt(double epoch) {
-  const auto moon = PlaceOf(SE_MOON, epoch), sun = PlaceOf(SE_SUN, epoch);
+  const auto moon = De431Place(De431Body::kMoon, epoch), sun = De431Place(De431Body::kSun, epoch);
   return {epoch, moon[0], moon[1], moon[2] * kKmPerAu, sun[0], sun[1], sun[2]};
+}
+
+// Of the Moon from the Sun, less a multiple of 90 degrees: -45 to 45 degrees.
+double ElongationFromPhase(const Place& place) { return std::remainder(place[1] - place[4], 90); }
+
+// At the phase within three days of an epoch: by Newton's method with the mean rate, whose every
+// step leaves a sixth of the error at most.
+Place PhaseNear(double epoch) {
+  for (int step = 0; step < kMostSteps; ++step) {
+    const Place place = PlaceAt(epoch);
+    const double correction = ElongationFromPhase(place) / kMeanRate;
+    if (std::abs(correction) < kClose) return place;
+    epoch -= correction;
+  }
+  throw std::runtime_error("no phase near JD " + std::to_string(epoch));
 }
 
 void Write(const Place& place, bool as_text) {
@@ -80,40 +83,67 @@ void Write(const Place& place, bool as_text) {
   if (!written) throw std::runtime_error("cannot write");
 }
 
-std::uint64_t ParseNumber(const char* text) {
-  std::uint64_t number = 0;
-  const char* end = text + std::strlen(text);
-  const auto result = std::from_chars(text, end, number);
-  if (result.ec != std::errc() || result.ptr != end)
-    throw std::invalid_argument(std::string("not a number: ") + text);
+template <class Number>
+Number Parse(std::string_view text) {
+  Number number{};
+  const char* end = text.data() + text.size();
+  const auto result = std::from_chars(text.data(), end, number);
+  if (result.ec != std::errc() || result.ptr != end || !(number > 0))
+    throw std::invalid_argument("not a number above 0: " + std::string(text));
   return number;
 }
 
-void WritePlaces(std::uint64_t count, std::uint64_t seed, bool as_text) {
+void WriteRandom(std::uint64_t count, std::uint64_t seed, bool as_text) {
   if (count > kMostEpochs) throw std::invalid_argument("too many epochs");
   for (double epoch : DrawEpochs(count, seed)) {
     // The place in a line of text must be that of the epoch as it stands there.
     if (as_text) epoch = std::round(epoch * 100000) / 100000;
     Write(PlaceAt(epoch), as_text);
   }
+}
+
+void WriteEvery(double days) {
+  if ((kLast - kFirst) / days > kMostEpochs) throw std::invalid_argument("too many epochs");
+  for (int i = 0; kFirst + i * days <= kLast; ++i) Write(PlaceAt(kFirst + i * days), false);
+}
+
+void WritePhases() {
+  Place place = PhaseNear(kFirst + kQuarter);
+  while (place[0] <= kLast) {
+    Write(place, false);
+    place = PhaseNear(place[0] + kQuarter);
+  }
+}
+
+// Whether the arguments were understood.
+bool WriteAsked(const std::vector<std::string_view>& arguments) {
+  const std::size_t count = arguments.size();
+  const std::string_view what = count > 0 ? arguments[0] : "";
+  const bool as_text = count == 4 && arguments[3] == "--text";
+  if (what == "random" && (count == 3 || as_text)) {
+    WriteRandom(Parse<std::uint64_t>(arguments[1]), Parse<std::uint64_t>(arguments[2]), as_text);
+  } else if (what == "every" && count == 2) {
+    WriteEvery(Parse<double>(arguments[1]));
+  } else if (what == "phases" && count == 1) {
+    WritePhases();
+  } else {
+    return false;
+  }
   if (std::fflush(stdout) != 0) throw std::runtime_error("cannot write");
+  return true;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  const bool as_text = argc == 4 && std::strcmp(argv[3], "--text") == 0;
-  if (argc != 3 && !as_text) {
-    std::fputs("usage: sampler COUNT SEED [--text]\n", stderr);
-    return 2;
-  }
   try {
-    swe_set_ephe_path(nullptr);
-    WritePlaces(ParseNumber(argv[1]), ParseNumber(argv[2]), as_text);
+    if (!WriteAsked({argv + 1, argv + argc})) {
+      std::fputs("usage: sampler random COUNT SEED [--text] | every DAYS | phases\n", stderr);
+      return 2;
+    }
   } catch (const std::exception& error) {
     std::fprintf(stderr, "sampler: %s\n", error.what());
     return 1;
   }
-  swe_close();
   return 0;
 }
