@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Fits the largest terms of the series to stored places, as tools/ephemeris/fit does to a million.
+"""Fits the largest terms of the series to stored places, as tools/ephemeris/fit fits all to a million.
 
 usage: ephemeris_fit_test.py
 """
@@ -17,8 +17,10 @@ PROGRAM = ROOT / "tools" / "ephemeris"
 sys.path.insert(0, str(PROGRAM / "fit"))
 sys.dont_write_bytecode = True
 
+import choose
 import compare
 import fit
+import search
 import series
 
 ROWS = 30  # of each table are fitted at most; the others are taken from the places
@@ -54,21 +56,16 @@ def without_other_terms(model, places):
                                       getattr(short, name) for name in series.TABLES))
 
 
-def residuals(name, model, places):
-    values = series.Epochs(model.polynomials, places.jd).terms(model.tables[name]).sum(axis=0)
-    return series.target(name, model.polynomials, places) - values
-
-
 class EphemerisFit(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.model = series.read_model(PROGRAM)
         cls.places = stored_places()
 
-    def test_series_gives_its_check_values(self):
+    def test_known_terms_give_their_check_values(self):
         rows = numpy.array([row[1:] for row in data_rows("check_values.csv") if row[0] == "series"],
                            float)
-        found = series.positions(self.model, rows[:, 0])
+        found = series.positions(series.read_model(PROGRAM / "fit" / "terms"), rows[:, 0])
         for column, name, decimals in zip(rows.T[1:], series.TABLES, (8, 8, 4, 8, 8, 10)):
             largest = abs(getattr(found, name) - column).max()
             self.assertLess(largest, 0.6 * 10.0 ** -decimals, name)
@@ -84,7 +81,8 @@ class EphemerisFit(unittest.TestCase):
                     step = change * fit.unit(polynomial) / series.LONG
                     before.polynomials[polynomial][1] -= step
                     after.polynomials[polynomial][1] += step
-                    differences = residuals(name, before, places) - residuals(name, after, places)
+                    differences = (search.residuals(name, before, places) -
+                                   search.residuals(name, after, places))
                     error = differences / (2 * change) - row
                     self.assertLess(abs(error).max(), 1e-5 * abs(row).max())
 
@@ -103,6 +101,47 @@ class EphemerisFit(unittest.TestCase):
                 error = abs(found.tables[name].amplitudes - known.tables[name].amplitudes)
                 limit = STANDARD_ERRORS * rms[name] * (2 / len(places.jd)) ** 0.5
                 self.assertTrue((error <= limit).all(), (error / limit).max(axis=0))
+
+    def test_search_makes_a_lacking_term_of_its_line(self):
+        lacking = self.model.tables["moon_longitude"].multiples[5]
+        candidates = search.Combinations(self.model.polynomials)
+        rate = abs(lacking @ candidates.rates)
+        days = 1.6 * numpy.arange(2 ** 16)
+        found, sizes = search.lines(0.5 * numpy.cos(numpy.radians(rate * days / 36525)), 1.6)
+        self.assertLess(abs(found[0] - rate), 360 * 36525 / days[-1] / search.PADDING)
+        self.assertAlmostEqual(sizes[0], 0.5, delta=0.05)
+
+        epochs = series.Epochs(self.model.polynomials, self.places.jd)
+        sines, cosines = epochs.waves(lacking[None])
+        rows = candidates.matching(rate)
+        place, amplitudes = search.best_match(rows, (0.3 * sines - 0.4 * cosines)[0], epochs)
+        sign = 1 if (rows[place] == lacking).all() else -1
+        self.assertEqual((sign * rows[place]).tolist(), lacking.tolist())
+        self.assertLess(abs(amplitudes - [sign * 0.3, -0.4]).max(), 0.05)
+
+    def test_the_term_that_gives_nothing_is_left_out(self):
+        name, model = "moon_latitude", shortened(self.model)
+        table, useless = model.tables[name], 7
+        table.multiples = numpy.insert(table.multiples, useless, 3, axis=0)
+        table.amplitudes = numpy.insert(table.amplitudes, useless, 1, axis=0)
+        problem = choose.Problem([name], model)
+        problem.add_places(without_other_terms(self.model, self.places))
+        count = len(table.multiples)
+        problem.keep(choose.most_useful(problem, count - 1))
+        problem.take_over(problem.solve())
+        self.assertEqual(len(model.tables[name].multiples), count - 1)
+        self.assertFalse((model.tables[name].multiples == 3).all(axis=1).any())
+
+    def test_phases_are_held_below_a_limit_and_no_more(self):
+        random = numpy.random.default_rng(1)
+        moves = random.normal(size=(20, 12))
+        influence, errors, limit = moves.T @ moves, random.normal(size=12), 0.8
+        pulls = choose.held_below(limit, errors, influence)
+        after = errors - influence @ pulls
+        self.assertLess(abs(after).max(), limit + 2 * choose.CLOSE)
+        self.assertGreater(abs(pulls).max(), 0)
+        # What is pulled lies at the limit, on the side that it is pulled from.
+        self.assertLess(abs((after - limit * numpy.sign(pulls))[pulls != 0]).max(), 0.01)
 
     def test_tables_are_read_as_they_were_written_the_largest_terms_first(self):
         with tempfile.TemporaryDirectory() as folder:

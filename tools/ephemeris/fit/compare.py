@@ -3,22 +3,16 @@
 
 usage: compare.py PLACES TABLES [OTHER_TABLES]
 
-First for whole tables, then for so many rows as the program takes of them. Each cell is the largest
-error and the root mean square, in the units of the heading. With other tables their errors follow,
-the quotients of the first by theirs, and where the first have an rms more than 2 % larger, or a
-largest error more than 5 % larger.
+Each cell is the largest error and the root mean square, in the units of the heading. With other
+tables their errors follow, the quotients of the first by theirs, and where the first have an rms
+more than 2 % larger, or a largest error more than 5 % larger.
 """
-import pathlib
 import sys
 
 import numpy
 
 import series
 
-sys.path.append(str(pathlib.Path(__file__).resolve().parents[1]))
-import make_tables
-
-ROWS_OF_PROGRAM = {name: rows for name, (rows, _) in make_tables.SERIES.items()}
 YEARS = [-3200, -3000, *range(-2000, 7000, 1000)]
 QUANTITIES = {
     "elongation": '"', "moon_longitude": '"', "moon_latitude": '"', "moon_distance": "km",
@@ -69,33 +63,25 @@ def tell(title, table):
         print(f"| {span} |", " | ".join(cells), "|")
 
 
-def tell_where_worse(what, quotient):
-    print(f"\nWhere the first are worse by more than the limits, {what}:")
+def tell_where_worse(quotient):
+    print("\nWhere the first are worse by more than the limits:")
     for span, row in quotient.items():
         for name, (largest, rms) in row.items():
             if largest > WORSE_LARGEST or rms > WORSE_RMS:
                 print(f"- {span}, {name.replace('_', ' ')}: {largest:.3f} / {rms:.4f}")
 
 
-def compare(what, models, places):
-    """Tells the errors of one model, or of two and their quotients."""
-    found = {folder: statistics(model, places) for folder, model in models.items()}
-    for folder, table in found.items():
-        tell(f"Errors of {folder}, {what}", table)
-    if len(found) == 2:
-        quotient = quotients(*found.values())
-        tell(f"Quotients of the first by the second, {what}", quotient)
-        tell_where_worse(what, quotient)
-
-
 def main():
     if len(sys.argv) not in (3, 4):
         sys.exit(__doc__)
     places = series.read_places(sys.argv[1])
-    whole = {folder: series.read_model(folder) for folder in sys.argv[2:]}
-    short = {folder: series.first_rows(model, ROWS_OF_PROGRAM) for folder, model in whole.items()}
-    compare("whole tables", whole, places)
-    compare("as the program takes them", short, places)
+    found = {folder: statistics(series.read_model(folder), places) for folder in sys.argv[2:]}
+    for folder, table in found.items():
+        tell(f"Errors of {folder}", table)
+    if len(found) == 2:
+        quotient = quotients(*found.values())
+        tell("Quotients of the first by the second", quotient)
+        tell_where_worse(quotient)
 
 
 if __name__ == "__main__":

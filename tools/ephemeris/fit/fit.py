@@ -79,12 +79,18 @@ def normal_equations(name, used, polynomials, model, places):
     return matrix, right
 
 
-def solve(matrix, right, amplitudes):
-    """The first of the unknowns are amplitudes."""
+def scaled(matrix, amplitudes):
+    """The normal equations with a diagonal of ones and the ridge, and what each unknown is to be
+    divided by then. The first of the unknowns are amplitudes."""
     scale = numpy.sqrt(matrix.diagonal())
-    scaled = matrix / scale / scale[:, None]
-    scaled[numpy.diag_indices(amplitudes)] += RIDGE
-    return numpy.linalg.solve(scaled, right / scale) / scale
+    matrix = matrix / scale / scale[:, None]
+    matrix[numpy.diag_indices(amplitudes)] += RIDGE
+    return matrix, scale
+
+
+def solve(matrix, right, amplitudes):
+    matrix, scale = scaled(matrix, amplitudes)
+    return numpy.linalg.solve(matrix, right / scale) / scale
 
 
 def unit(polynomial):

@@ -19,7 +19,7 @@ from matplotlib import colors, pyplot
 INCHES, DOTS_PER_INCH = (12, 6), 100
 BIN = 50  # years
 CELLS = 10, 0.01  # of the cloud: years, seconds
-LIMIT = 1.1  # seconds, at both ends of the axis at least
+LIMIT = 0.6  # seconds, at both ends of the axis at least
 LARGEST, RMS = "#c2571a", "#14406e"
 
 

@@ -78,13 +78,6 @@ def trimmed(number, decimals):
     return "0" if text in ("-0", "") else text
 
 
-def first_rows(model, rows):
-    """A model with the first rows of each table, so many as are told by its name."""
-    tables = {name: Table(table.multiples[:rows[name]], table.amplitudes[:rows[name]])
-              for name, table in model.tables.items()}
-    return Model(model.polynomials, tables)
-
-
 def write_table(path, table, decimals):
     with open(path, "w", newline="") as file:
         writer = csv.writer(file, lineterminator="\n")
