@@ -40,7 +40,7 @@ static_assert(offsetof(EclipseRecord, total_minutes) == 80);
 
 // The instant (AJD, Terrestrial Time) of a principal phase of a lunation, by its index in phases.h;
 // lunation 0 begins with the new moon of 2000 January 6.
-// Within a second of JPL DE431 from -3200 to 6000. Fills the record with the eclipse at that
+// Within half a second of JPL DE431 from -3200 to 6000. Fills the record with the eclipse at that
 // syzygy. Any lunation has an answer, far from the span of the series a smooth one. Phases other
 // than 0 to 3 count on into the neighbouring lunations: phase 4 is the next new moon.
 double syzyg(std::int32_t lunation, std::int32_t phase, EclipseRecord& record);

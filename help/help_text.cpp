@@ -355,19 +355,18 @@ The phases are the instants at which the apparent longitudes of Moon and Sun, se
 
 # How exactly
 
-Compared with samples computed from DE431 by other software, from -3200 to 6000, the largest errors are:
+Compared with DE431 itself, over all phases and eclipses from -3200 to 6000, the largest errors are:
 
-- 0.69 seconds in a phase (2000 phases)
-- 0.66 seconds in greatest solar eclipse (1199 eclipses)
-- 0.77 seconds in greatest lunar eclipse (1215 eclipses)
-- 0.043 minutes in half the duration of a phase of a lunar eclipse
+- 0.5 seconds in a phase (455,798 phases; root mean square 0.12 seconds)
+- 0.55 seconds in greatest eclipse (44,059 eclipses; root mean square 0.12 seconds)
+- 0.00015 in gamma, 0.0003 in a magnitude
 
-The types and saros numbers agree in all of these eclipses. The figures hold in Terrestrial Time. The program shows times in minutes and drops the seconds; in lunar eclipses it takes the phases to lie evenly about the greatest.
+No eclipse is missing and none is added; all saros numbers agree and all types but two, lunar eclipses of 1553 and 5517 on the border of their type. Half the duration of a phase of a lunar eclipse is off by 0.045 minutes at most in 1215 eclipses computed by other software, and by more only where the phase hardly begins. The figures hold in Terrestrial Time. The program shows times in minutes and drops the seconds; in lunar eclipses it takes the phases to lie evenly about the greatest.
 
 For a place, in Universal Time with delta T as it is taken:
 
 - 0.9 seconds in a rising or setting of the Moon, mostly some tenths in one of the Sun, and 4 seconds at the edge of the polar day, where the Sun hardly climbs
-- 0.6 seconds in the maximum of a solar eclipse
+- 0.5 seconds in the maximum of a solar eclipse
 - 0.7 kilometres in the central line, divided by the sine of the Sun's altitude
 - 0.003 degrees in an altitude
 - 0.0001 in Yallop's q, and no difference in the class of a crescent

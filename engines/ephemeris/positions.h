@@ -22,12 +22,12 @@ struct MoonAndSun {
 };
 
 // Positions at an instant (AJD, Terrestrial Time) by the series of this folder. Against JPL DE431
-// the elongation is good to 0.6", the Moon's latitude to 0.6" and its distance to 1.2 km, the Sun's
-// longitude to 0.22", anywhere from 550000 to 3914990; outside, smooth and finite.
+// the elongation is good to 0.4", the Moon's latitude to 0.65" and its distance to 1.1 km, the
+// Sun's longitude to 0.16", anywhere from 550000 to 3914990; outside, smooth and finite.
 MoonAndSun PositionsAt(double ajd_tt);
 
 // Elongation of the Moon from the Sun in longitude, radians in [0, 2 pi), and its rate a day, by
-// the largest terms only: good to 18".
+// the largest terms only: good to 21".
 MovingAngle RoughElongationAt(double ajd_tt);
 
 }  // namespace tarnwick

@@ -59,7 +59,7 @@ struct CommonErrors {
     greatest.Print(kind + " greatest eclipse", "s");
     gamma.Print(kind + " gamma", "Earth radii");
     EXPECT_GT(greatest.Count(), 1190U);
-    EXPECT_LT(greatest.Largest(), 2);
+    EXPECT_LT(greatest.Largest(), 0.7);
     EXPECT_LT(gamma.Largest(), 0.0002);
     EXPECT_LT(gamma.Rms(), 0.00005);
   }

@@ -23,10 +23,10 @@ constexpr double kSecond = 1.0 / 86400;
 
 double Turned(double radians) { return std::remainder(radians, 2 * std::numbers::pi); }
 
-// check_values.csv: ten epochs (AJD, TT), degrees and km. The rows marked "series" are the full
-// tables, those marked "de431" the ephemeris that they were fitted to; ours are a shorter cut of
-// the tables, whose largest errors against DE431 over 1.2 million epochs are the bounds here.
-TEST(Positions, AgreeWithTheFullSeriesAndWithTheEphemeris) {
+// check_values.csv: ten epochs (AJD, TT), degrees and km. The rows marked "series" are longer
+// series, those marked "de431" the ephemeris that they and ours were fitted to. The bounds are the
+// largest errors of ours against DE431 at 400,000 epochs, rounded up.
+TEST(Positions, AgreeWithLongerSeriesAndWithTheEphemeris) {
   ErrorStatistics elongation;
   ErrorStatistics latitude;
   ErrorStatistics distance;
@@ -39,7 +39,7 @@ TEST(Positions, AgreeWithTheFullSeriesAndWithTheEphemeris) {
     elongation.Add((moon_error - sun_error) / kArcsecond);
     latitude.Add((moon.latitude.value - value("moon_lat_deg") * kDegree) / kArcsecond);
     distance.Add(moon.distance - value("moon_km"));
-    EXPECT_NEAR(sun_error / kArcsecond, 0, 0.22);
+    EXPECT_NEAR(sun_error / kArcsecond, 0, 0.16);
     EXPECT_NEAR(sun.latitude.value / kArcsecond, value("sun_lat_deg") * 3600, 0.15);
     EXPECT_NEAR(sun.distance / kKmPerAu, value("sun_au"), 4e-6);
   }
@@ -47,9 +47,9 @@ TEST(Positions, AgreeWithTheFullSeriesAndWithTheEphemeris) {
   latitude.Print("latitude of the Moon", "arcseconds");
   distance.Print("distance of the Moon", "km");
   EXPECT_EQ(elongation.Count(), 20U);
-  EXPECT_LT(elongation.Largest(), 0.58);
-  EXPECT_LT(latitude.Largest(), 0.56);
-  EXPECT_LT(distance.Largest(), 1.17);
+  EXPECT_LT(elongation.Largest(), 0.4);
+  EXPECT_LT(latitude.Largest(), 0.65);
+  EXPECT_LT(distance.Largest(), 1.1);
 }
 
 TEST(Positions, RatesAreTheSlopesOfTheValues) {
@@ -90,8 +90,8 @@ TEST(Syzyg, IsWithinASecondOfTheEphemerisOver9200Years) {
   }
   errors.Print("phase instants", "seconds");
   EXPECT_EQ(errors.Count(), 2000U);
-  EXPECT_LT(errors.Largest(), 1.0);
-  EXPECT_LT(errors.Rms(), 0.2);
+  EXPECT_LT(errors.Largest(), 0.55);
+  EXPECT_LT(errors.Rms(), 0.15);
   EXPECT_LT(std::fabs(errors.Mean()), 0.1);
 }
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Writes the tables of engines/ephemeris/ from the CSV files beside this script.
 
-The series were fitted to JPL DE431 over the years -3200 to 6000; each file is sorted by amplitude,
-so the first rows make the best shorter series. How many are kept stands in SERIES.
+The series were fitted to JPL DE431 over the years -3200 to 6000, by what is in fit/; the rows of
+each file are sorted by size, so that the first make the best shorter series.
 """
 import csv
 import pathlib
@@ -12,13 +12,13 @@ from product_plan import ANGLES, Plan, opposite, size
 HERE = pathlib.Path(__file__).parent
 TABLES = HERE.parent.parent / "engines" / "ephemeris"
 
-SERIES = {
-    "moon_longitude": (640, "arcseconds, added to the mean longitude L"),
-    "moon_latitude": (252, "arcseconds"),
-    "moon_distance": (226, "km"),
-    "sun_longitude": (131, "arcseconds, added to the mean longitude Ls"),
-    "sun_latitude": (13, "arcseconds"),
-    "sun_distance": (37, "1e-8 au"),
+UNITS = {
+    "moon_longitude": "arcseconds, added to the mean longitude L",
+    "moon_latitude": "arcseconds",
+    "moon_distance": "km",
+    "sun_longitude": "arcseconds, added to the mean longitude Ls",
+    "sun_latitude": "arcseconds",
+    "sun_distance": "1e-8 au",
 }
 
 # A term is large if its amplitudes add up to so much.
@@ -46,16 +46,14 @@ def write(name, heading, lines, source=None):
 
 
 def write_series(name):
-    count, unit = SERIES[name]
     header, rows = read(name)
-    kept = aligned([header] + rows[:count])
+    kept = aligned([header] + rows)
     names = kept[0]
     lines = ["//" + " ".join(names[:ANGLES]) + "    " + "  ".join(names[ANGLES:])]
     for row in kept[1:]:
         lines.append(f"{{{{{','.join(row[:ANGLES])}}}, {{{', '.join(row[ANGLES:])}}}}},")
     title = name.replace("_", " ").capitalize()
-    write(name, [f"{title}: {unit}. The {count} largest of {len(rows)} terms, fitted to DE431."],
-          lines)
+    write(name, [f"{title}: {UNITS[name]}. {len(rows)} terms, fitted to DE431."], lines)
 
 
 def groups_of_thetas(series, large):
@@ -106,9 +104,9 @@ def write_delta_t():
 
 
 if __name__ == "__main__":
-    for series in SERIES:
+    for series in UNITS:
         write_series(series)
-    rows = {name: read(name)[1][:count] for name, (count, _) in SERIES.items()}
+    rows = {name: read(name)[1] for name in UNITS}
     write_products("products", rows, LARGE)
     rough = {name: rows[name][:count] for name, count in ROUGH.items()}
     write_products("rough_products", rough, dict.fromkeys(ROUGH, 0))
