@@ -21,7 +21,7 @@ EVENTS = """\
 1,0,2451580.044505000,0.000001,1,150,2451580.034900000,-1.2233,0.5795,0,0,0,0
 """.splitlines()
 TOTAL, PARTIAL_SOLAR = 2, 4  # their rows
-LATE = 1.001 / check_events.SECONDS
+LATE = 1.001 * check_events.PROMISED / check_events.SECONDS
 
 
 def events(*changes, rows=EVENTS):
@@ -39,8 +39,8 @@ class EventCheck(unittest.TestCase):
                 ("none", events(), events(), None),
                 ("no eclipse", events(("type", TOTAL, -10)), events(), "in one list only: 1."),
                 ("one more", events(("type", 1, 1)), events(), "in one list only: 1."),
-                ("late", events(("instant", 3, LATE)), events(), "1 s or more: 1."),
-                ("early", events(("instant", 3, -LATE)), events(), "1 s or more: 1."),
+                ("late", events(("instant", 3, LATE)), events(), "0.5 s or more: 1."),
+                ("early", events(("instant", 3, -LATE)), events(), "0.5 s or more: 1."),
                 ("saros", events(("saros", PARTIAL_SOLAR, 1)), events(), "Saros"),
                 ("search", events(), events(("left", 0, -0.02)), "stopped too early"),
                 ("fewer", events(rows=without_last), events(), "not hold the same phases"),
@@ -61,10 +61,10 @@ class EventCheck(unittest.TestCase):
         self.assertEqual(check_events.faults(other, events()), [])
 
     def test_errors_are_told_in_seconds_and_by_kind(self):
-        changed = events(("instant", 1, 0.6 / 86400), ("greatest", PARTIAL_SOLAR, -0.3 / 86400))
+        changed = events(("instant", 1, 0.35 / 86400), ("greatest", PARTIAL_SOLAR, -0.3 / 86400))
         phases = {row[0]: row[1:] for row in check_events.phase_rows(changed, events())}
-        self.assertEqual(phases["all"], (5, "0.600", "0.2683", 1, 0))
-        self.assertEqual(phases["first quarter"], (1, "0.600", "0.6000", 1, 0))
+        self.assertEqual(phases["all"], (5, "0.350", "0.1565", 1, 0))
+        self.assertEqual(phases["first quarter"], (1, "0.350", "0.3500", 1, 0))
         self.assertEqual(phases["new moon"], (2, "0.000", "0.0000", 0, 0))
         eclipses = {row[0]: row[1:] for row in check_events.error_rows(changed, events())}
         self.assertEqual(eclipses["greatest, solar"], ("s", 1, "-0.300", "0.300", "0.300"))

@@ -5,7 +5,7 @@ usage: check_events.py SERIES DE431
 
 Both are lists of events.cpp. Errors are series minus DE431. The status is 1 where the lists do not
 hold the same phases and eclipses, where a saros number differs, where a search has stopped before
-0.01 s, or where a phase is off by the second that phase_engine.h promises or more.
+0.01 s, or where a phase is off by the half second that phase_engine.h promises or more.
 """
 import sys
 
@@ -22,8 +22,8 @@ TYPES = ["none", "partial solar", "central annular", "central total", "non-centr
          "partial lunar", "total lunar"]
 FIRST_LUNAR_TYPE = 8
 SECONDS = 86400
-LATE, VERY_LATE = 0.5, 0.7  # seconds; how many phases are off by more is told
-PROMISED, EXACT = 1, 0.01  # seconds
+LATE, VERY_LATE = 0.3, 0.4  # seconds; how many phases are off by more is told
+PROMISED, EXACT = 0.5, 0.01  # seconds
 
 # Quantity of an eclipse: unit, what makes the unit of the list that one, digits.
 QUANTITIES = {
