@@ -358,8 +358,8 @@ The phases are the instants at which the apparent longitudes of Moon and Sun, se
 Compared with DE431 itself, over all phases and eclipses from -3200 to 6000, the largest errors are:
 
 - 0.5 seconds in a phase (455,798 phases; root mean square 0.12 seconds)
-- 0.55 seconds in greatest eclipse (44,059 eclipses; root mean square 0.12 seconds)
-- 0.00015 in gamma, 0.0003 in a magnitude
+- 0.56 seconds in greatest eclipse (44,059 eclipses; root mean square 0.12 seconds)
+- 0.00016 in gamma, 0.0003 in a magnitude
 
 No eclipse is missing and none is added; all saros numbers agree and all types but two, lunar eclipses of 1553 and 5517 on the border of their type. Half the duration of a phase of a lunar eclipse is off by 0.045 minutes at most in 1215 eclipses computed by other software, and by more only where the phase hardly begins. The figures hold in Terrestrial Time. The program shows times in minutes and drops the seconds; in lunar eclipses it takes the phases to lie evenly about the greatest.
 
