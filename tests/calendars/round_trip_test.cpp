@@ -35,10 +35,7 @@ template <char letter>
 FieldsOfCalendar EuroCalendar(Calendar calendar) {
   return {calendar,
           [](std::int32_t day_number) {
-            DateRecord record;
-            record.calendar = letter;
-            record.jdn = day_number;
-            jdn_to_euro_date(record);
+            const DateRecord record = CivilDateOf(day_number, letter);
             return Fields{0, record.year, record.month, record.day};
           },
           [](const Fields& fields) {

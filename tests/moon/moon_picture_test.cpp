@@ -90,24 +90,6 @@ TEST(MoonPicture, LitShareIsTheFractionOnTheRightSide) {
   }
 }
 
-// The terminator of a crescent is the half-ellipse that bulges towards the lit limb.
-TEST(MoonPicture, TerminatorIsAHalfEllipse) {
-  constexpr int kWidth = 400;
-  constexpr double kFraction = 0.2;
-  const std::vector<std::uint32_t> pixels = Draw(kWidth, kFraction, true);
-  const double radius = kMoonDiscRadius * kWidth;
-  for (const int row : {60, 120, 200, 300}) {
-    SCOPED_TRACE(row);
-    const auto begin = pixels.begin() + std::ptrdiff_t{row} * kWidth + kWidth / 2;
-    const auto lit = std::find_if(begin, begin + kWidth / 2, [](std::uint32_t pixel) {
-      return ((pixel >> 16U) & 0xffU) >= kLit;
-    });
-    const double y = row + 0.5 - kWidth / 2.0;
-    const double edge = (1 - 2 * kFraction) * std::sqrt(radius * radius - y * y);
-    EXPECT_NEAR(static_cast<double>(lit - begin), edge, 1.5);
-  }
-}
-
 // Its own mirror image is drawn but once.
 TEST(MoonPicture, MiddleRowIsAsBrightAsTheNext) {
   constexpr std::size_t kWidth = 101;

@@ -250,9 +250,9 @@ TEST_F(SavedState, AnyBytesLetTheProgramStart) {
   }
 }
 
-// What labels and choices show after these commands; the history is that of one run.
 std::string WithDump(const std::string& commands) { return "start\n" + commands + "dump\n"; }
 
+// What labels and choices show; the history is that of one run.
 std::vector<std::string> Kept(std::vector<std::string> dump) {
   std::erase_if(dump, [](const std::string& line) {
     const auto has = [&](const char* part) { return line.find(part) != std::string::npos; };
