@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "engines/checked_arithmetic.h"
@@ -93,33 +95,23 @@ TEST(TimeOfDay, IsRoundedToSecondsWithinTheDay) {
 }
 
 TEST(Durations, LeaveOutWhatIsZero) {
-  struct Case {
-    std::int32_t minutes;
-    std::string long_text;
-    std::string short_text;
-  };
-  const Case cases[] = {{0, "0 minutes", "0m"},
-                        {-5, "0 minutes", "0m"},
-                        {1, "1 minute", "1m"},
-                        {69, "1 hour and 9 minutes", "1h 9m"},
-                        {1441, "1 day and 1 minute", "1d 1m"},
-                        {2 * 1440 + 3 * 60, "2 days and 3 hours", "2d 3h"},
-                        {2 * 1440 + 3 * 60 + 5, "2 days, 3 hours and 5 minutes", "2d 3h 5m"}};
-  for (const Case& c : cases) {
-    EXPECT_EQ(DurationText(c.minutes, true), c.long_text);
-    EXPECT_EQ(DurationText(c.minutes, false), c.short_text);
+  const std::tuple<std::int32_t, std::string, std::string> cases[] = {
+      {0, "0 minutes", "0m"},
+      {-5, "0 minutes", "0m"},
+      {1, "1 minute", "1m"},
+      {69, "1 hour and 9 minutes", "1h 9m"},
+      {1441, "1 day and 1 minute", "1d 1m"},
+      {2 * 1440 + 3 * 60, "2 days and 3 hours", "2d 3h"},
+      {2 * 1440 + 3 * 60 + 5, "2 days, 3 hours and 5 minutes", "2d 3h 5m"}};
+  for (const auto& [minutes, long_text, short_text] : cases) {
+    EXPECT_EQ(DurationText(minutes, true), long_text);
+    EXPECT_EQ(DurationText(minutes, false), short_text);
   }
 }
 
 TEST(Clock, IsReadInEveryFormOfItsTexts) {
   constexpr double kMarchFifth = 2460374.5;  // 2024-03-05, midnight at Greenwich
-  struct Case {
-    std::string date;
-    std::string time;
-    std::int32_t offset;
-    double ajd;
-  };
-  const Case cases[] = {
+  const std::tuple<const char*, const char*, std::int32_t, double> cases[] = {
       {"2024-03-05", "00:00:00", 0, kMarchFifth},
       {"2024/03/05", "18:00:00", 0, kMarchFifth + 0.75},
       {"03/05/2024", "06:00:00", 0, kMarchFifth + 0.25},
@@ -131,8 +123,8 @@ TEST(Clock, IsReadInEveryFormOfItsTexts) {
       {"2024-03-05", "23:00:00", -120, kMarchFifth + 25.0 / 24},
       {"2024-03-05", "00:00:27", 0, kMarchFifth + 27.0 / 86400},
   };
-  for (const Case& c : cases) {
-    EXPECT_NEAR(NowAsAJD(c.date, c.time, c.offset).days, c.ajd, 1e-9) << c.date << " " << c.time;
+  for (const auto& [date, time, offset, ajd] : cases) {
+    EXPECT_NEAR(NowAsAJD(date, time, offset).days, ajd, 1e-9) << date << " " << time;
   }
   for (const char* broken : {"", "?", "2024", "2024-02-31", "99999999999999999999"}) {
     EXPECT_LT(NowAsAJD(broken, broken, 0).days, -1e9) << broken;

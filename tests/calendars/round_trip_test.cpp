@@ -35,10 +35,7 @@ template <char letter>
 FieldsOfCalendar EuroCalendar(Calendar calendar) {
   return {calendar,
           [](std::int32_t day_number) {
-            DateRecord record;
-            record.calendar = letter;
-            record.jdn = day_number;
-            jdn_to_euro_date(record);
+            const DateRecord record = CivilDateOf(day_number, letter);
             return Fields{0, record.year, record.month, record.day};
           },
           [](const Fields& fields) {
@@ -47,56 +44,31 @@ FieldsOfCalendar EuroCalendar(Calendar calendar) {
           }};
 }
 
-template <auto to_jdn, typename Date>
-std::int32_t DayNumberOf(Date date) {
-  to_jdn(date);
-  return date.jdn;
+// The fields of the calendar's record, which begin with the cycle if there is one.
+Fields FieldsOf(const ARCDate& date) { return {0, date.year, date.month, date.day}; }
+Fields FieldsOf(const SDDate& date) { return {date.cycle, date.year, date.month, date.day}; }
+Fields FieldsOf(const KSGDate& date) { return {date.cycle, date.year, date.month, date.day}; }
+Fields FieldsOf(const LLTDate& date) {
+  return {date.cycle, date.year, date.month, date.triday, date.day};
 }
 
-FieldsOfCalendar ARCCalendar() {
-  return {kARC,
-          [](std::int32_t day_number) {
-            const auto date = DateOfDay<ARCDate>(DayNumber(day_number));
-            return Fields{0, date.year, date.month, date.day};
-          },
-          [](const Fields& fields) {
-            return DayNumberOf<ARCDateToJDN>(ARCDate{fields[1], fields[2], fields[3]});
-          }};
+void Fill(ARCDate& date, const Fields& f) { date = {f[1], f[2], f[3]}; }
+void Fill(SDDate& date, const Fields& f) { date = {f[0], f[1], f[2], f[3]}; }
+void Fill(LLTDate& date, const Fields& f) { date = {f[0], f[1], f[2], f[3], f[4]}; }
+void Fill(KSGDate& date, const Fields& f) {
+  const auto narrow = [](std::int32_t field) { return static_cast<std::int16_t>(field); };
+  date = {f[0], narrow(f[1]), narrow(f[2]), narrow(f[3])};
 }
 
-FieldsOfCalendar SDCalendar() {
-  return {kSD,
-          [](std::int32_t day_number) {
-            const auto date = DateOfDay<SDDate>(DayNumber(day_number));
-            return Fields{date.cycle, date.year, date.month, date.day};
-          },
+template <class Date, bool (*to_jdn)(Date&)>
+FieldsOfCalendar OwnCalendar(Calendar calendar) {
+  return {calendar,
+          [](std::int32_t day_number) { return FieldsOf(DateOfDay<Date>(DayNumber(day_number))); },
           [](const Fields& fields) {
-            return DayNumberOf<SDDateToJDN>(SDDate{fields[0], fields[1], fields[2], fields[3]});
-          }};
-}
-
-FieldsOfCalendar LLTCalendar() {
-  return {kLLT,
-          [](std::int32_t day_number) {
-            const auto date = DateOfDay<LLTDate>(DayNumber(day_number));
-            return Fields{date.cycle, date.year, date.month, date.triday, date.day};
-          },
-          [](const Fields& fields) {
-            return DayNumberOf<LLTToJDN>(
-                LLTDate{fields[0], fields[1], fields[2], fields[3], fields[4]});
-          }};
-}
-
-FieldsOfCalendar KSGCalendar() {
-  return {kKSG,
-          [](std::int32_t day_number) {
-            const auto date = DateOfDay<KSGDate>(DayNumber(day_number));
-            return Fields{date.cycle, date.year, date.month, date.day};
-          },
-          [](const Fields& fields) {
-            return DayNumberOf<KSGDateToJDN>(KSGDate{
-                fields[0], static_cast<std::int16_t>(fields[1]),
-                static_cast<std::int16_t>(fields[2]), static_cast<std::int16_t>(fields[3])});
+            Date date;
+            Fill(date, fields);
+            to_jdn(date);
+            return date.jdn;
           }};
 }
 
@@ -137,26 +109,22 @@ void CheckDays(const FieldsOfCalendar& calendar, std::int32_t first, std::int32_
   }
 }
 
-TEST_P(EveryCalendar, KeepsEveryDayOfTheRange) { CheckDays(GetParam(), kFirstDay, kLastDay); }
-
-TEST_P(EveryCalendar, KeepsDaysFarBeyondTheRange) {
-  CheckDays(GetParam(), kFirstDay - kFarBeyond, kFirstDay - kFarBeyond + 10000);
-  CheckDays(GetParam(), kLastDay + kFarBeyond, kLastDay + kFarBeyond + 10000);
-}
-
-TEST_P(EveryCalendar, KeepsTheFirstAndTheLastDayNumberOf32Bits) {
+TEST_P(EveryCalendar, KeepsEveryDayOfTheRangeAndThoseFarBeyond) {
   constexpr std::int32_t kLowest = std::numeric_limits<std::int32_t>::min();
   constexpr std::int32_t kHighest = std::numeric_limits<std::int32_t>::max();
-  CheckDays(GetParam(), kLowest + 1, kLowest + 1000);
-  CheckDays(GetParam(), kHighest - 1000, kHighest - 1);
+  CheckDays(GetParam(), kFirstDay, kLastDay);
+  for (const std::int32_t first : {kFirstDay - kFarBeyond, kLastDay + kFarBeyond, kLowest + 1}) {
+    CheckDays(GetParam(), first, first + 10000);
+  }
+  CheckDays(GetParam(), kHighest - 10000, kHighest - 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Calendars, EveryCalendar,
-                         testing::Values(EuroCalendar<'G'>(kCE), EuroCalendar<'J'>(kJC),
-                                         ARCCalendar(), SDCalendar(), LLTCalendar(), KSGCalendar()),
-                         [](const auto& tested) {
-                           return std::string(AbbreviationOf(tested.param.calendar));
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Calendars, EveryCalendar,
+    testing::Values(EuroCalendar<'G'>(kCE), EuroCalendar<'J'>(kJC),
+                    OwnCalendar<ARCDate, ARCDateToJDN>(kARC), OwnCalendar<SDDate, SDDateToJDN>(kSD),
+                    OwnCalendar<LLTDate, LLTToJDN>(kLLT), OwnCalendar<KSGDate, KSGDateToJDN>(kKSG)),
+    [](const auto& tested) { return std::string(AbbreviationOf(tested.param.calendar)); });
 
 TEST(Weekdays, RunOnThroughTheRangeAndBeyond) {
   constexpr std::int32_t kWednesdayBeforeZero = -6;  // day number 0 is a Monday

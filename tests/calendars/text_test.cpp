@@ -5,6 +5,8 @@
 #include <limits>
 #include <string>
 #include <string_view>
+#include <tuple>
+#include <utility>
 
 namespace tarnwick {
 namespace {
@@ -66,28 +68,25 @@ TEST(Text, ReadsTheLeadingNumber) {
 }
 
 TEST(Text, FormatsWithAFixedCountOfDecimals) {
-  struct Case {
-    double value;
-    std::int32_t decimals;
-    std::string text;
-  };
-  const Case cases[] = {{2451545, 4, "2,451,545.0000"},
-                        {-1234.56785, 4, "-1,234.5679"},
-                        {999.99996, 4, "1,000.0000"},
-                        {-0.00004, 4, "0.0000"},
-                        {0.04999, 1, "0.0"},
-                        {-2.5, 0, "-3"},
-                        {12.7, -3, "13"},
-                        {kInfinity, 2, "inf"},
-                        {-kInfinity, 2, "-inf"},
-                        {std::nan(""), 2, "nan"},
-                        {123456789012345678.0, 1, "123,456,789,012,346,000.0"}};
-  for (const Case& c : cases) EXPECT_EQ(FormatFixed(c.value, c.decimals, true), c.text);
-  // As doubles these lie below the half; 15 digits bring them back to it.
-  EXPECT_EQ(FormatFixed(0.15, 1, true), "0.2");
-  EXPECT_EQ(FormatFixed(1.005, 2, true), "1.01");
-  EXPECT_EQ(FormatFixed(0.49999999999999994, 0, true), "1");
-  EXPECT_EQ(FormatFixed(0.499999999999999, 0, true), "0");
+  const std::tuple<double, std::int32_t, std::string> cases[] = {
+      {2451545, 4, "2,451,545.0000"},
+      {-1234.56785, 4, "-1,234.5679"},
+      {999.99996, 4, "1,000.0000"},
+      {-0.00004, 4, "0.0000"},
+      {0.04999, 1, "0.0"},
+      {-2.5, 0, "-3"},
+      {12.7, -3, "13"},
+      {kInfinity, 2, "inf"},
+      {-kInfinity, 2, "-inf"},
+      {std::nan(""), 2, "nan"},
+      {123456789012345678.0, 1, "123,456,789,012,346,000.0"},
+      // As doubles these lie below the half; 15 digits bring them back to it.
+      {0.15, 1, "0.2"},
+      {1.005, 2, "1.01"},
+      {0.49999999999999994, 0, "1"},
+      {0.499999999999999, 0, "0"}};
+  for (const auto& [value, decimals, text] : cases)
+    EXPECT_EQ(FormatFixed(value, decimals, true), text);
   EXPECT_EQ(FormatFixed(2451545.5, 1, false), "2451545.5");
   EXPECT_EQ(FormatFixed(std::numeric_limits<double>::max(), 4, false).size(), 309u + 5u);
 }

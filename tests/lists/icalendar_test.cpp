@@ -142,39 +142,30 @@ CalendarEvent EventIn(std::int32_t year, const std::string& uid, const EventPlac
 
 TEST(CalendarEvents, SayWhatHappens) {
   const EventPlace babylon{{32.54, 44.42}, "Babylon"};
-  struct Case {
+  struct Named {
     std::int32_t year;
     const char* uid;
     const char* summary;
-    std::vector<std::string> told;
   };
-  const Case cases[] = {
-      {2024, "phase-297-2", "Full moon", {"2024-01-25 CE 17:54:0", "Lunation 297"}},
-      {1066, "phase--11552-0", "New moon", {"1066-01-05 CE", "\nJulian calendar: 1065-12-30 JC"}},
-      {-500, "phase--30921-1", "First quarter", {"-500-01-04 CE 06:07 +- 7 min GMT"}},
-      {2018, "eclipse-229-2@", "Total lunar eclipse", {"2018-07-27 CE, saros 129", "1.60"}},
-      {2018,
-       "eclipse-229-2-32.54N44.42E@",
-       "Lunar eclipse seen as total at Babylon",
+  const std::pair<Named, std::vector<std::string>> cases[] = {
+      {{2024, "phase-297-2", "Full moon"}, {"2024-01-25 CE 17:54:0", "Lunation 297"}},
+      {{1066, "phase--11552-0", "New moon"}, {"1066-01-05 CE", "\nJulian calendar: 1065-12-30 JC"}},
+      {{-500, "phase--30921-1", "First quarter"}, {"-500-01-04 CE 06:07 +- 7 min GMT"}},
+      {{2018, "eclipse-229-2@", "Total lunar eclipse"}, {"2018-07-27 CE, saros 129", "1.60"}},
+      {{2018, "eclipse-229-2-32.54N44.42E@", "Lunar eclipse seen as total at Babylon"},
        {"\nBabylon, 32.54 N 44.42 E\n", "Seen here as total", "total phase ends",
         "The clock is sure"}},
-      {-135,
-       "eclipse--26403-0-32.54N44.42E@",
-       "Solar eclipse seen as total at Babylon",
+      {{-135, "eclipse--26403-0-32.54N44.42E@", "Solar eclipse seen as total at Babylon"},
        {"of -135-04-15 JC (-135, 136 BCE)", " +- ", "delta T"}},
-      {2024,
-       "crescent-300-32.54N44.42E@",
-       "First crescent at Babylon (A)",
+      {{2024, "crescent-300-32.54N44.42E@", "First crescent at Babylon (A)"},
        {"evening of 2024-04-09 CE, easily visible (A)"}},
-      {2000,
-       "coincidence-2451639@",
-       "First of the month in SD, ARC, LLT and KSG",
+      {{2000, "coincidence-2451639@", "First of the month in SD, ARC, LLT and KSG"},
        {"-01 SD\n", "-01 ARC\n", "-01-1 LLT\n", "-01 KSG"}},
   };
-  for (const Case& test : cases) {
-    const CalendarEvent event = EventIn(test.year, test.uid, babylon);
-    EXPECT_EQ(event.summary, test.summary);
-    for (const std::string& part : test.told) {
+  for (const auto& [named, told] : cases) {
+    const CalendarEvent event = EventIn(named.year, named.uid, babylon);
+    EXPECT_EQ(event.summary, named.summary);
+    for (const std::string& part : told) {
       EXPECT_NE(event.description.find(part), std::string::npos) << part << event.description;
     }
   }

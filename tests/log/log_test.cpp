@@ -4,6 +4,8 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <tuple>
+#include <vector>
 
 #include "app/main_window.h"
 #include "tests/driver_answers.h"
@@ -86,15 +88,11 @@ class LogTest : public testing::Test {
 };
 
 TEST_F(LogTest, CaptionThatCannotBeCutIsReportedAndWhatWasWrittenStays) {
-  struct Case {
-    Label& label;
-    const char* caption;
-    const char* ends_with;
-  };
-  for (const auto& [label, caption, ends_with] :
-       {Case{form_.dates.lblKSGDate[1], "no date", "  KSG="},
-        Case{form_.dates.lblKSGDate[1], "KSG", "  KSG="},
-        Case{form_.moon.lblPhaseOfMoon[1], "Moon", ".0000  \r\n"}}) {
+  Label& date = form_.dates.lblKSGDate[1];
+  Label& phase = form_.moon.lblPhaseOfMoon[1];
+  const std::tuple<Label&, const char*, const char*> cases[] = {
+      {date, "no date", "  KSG="}, {date, "KSG", "  KSG="}, {phase, "Moon", ".0000  \r\n"}};
+  for (const auto& [label, caption, ends_with] : cases) {
     form_.log.log_window.ShowText("begun\r\n");
     const std::string shown = label.Caption();
     label.SetCaption(caption);
@@ -111,15 +109,12 @@ TEST_F(LogTest, CaptionThatCannotBeCutIsReportedAndWhatWasWrittenStays) {
 }
 
 TEST_F(LogTest, FullLogIsClearedOnlyAfterTwoQuestionsAndTheEntryIsNotLost) {
-  struct Case {
-    std::vector<MessageAnswer> answers;
-    bool cleared;
-  };
   using enum MessageAnswer;
   const std::string almost_full(999'990, 'x');  // not even room for what was done
   form_.log.chkLog.SetValue(true);
-  for (const auto& [answers, cleared] :
-       {Case{{kNo}, false}, Case{{kYes, kCancel}, false}, Case{{kYes, kOk}, true}}) {
+  for (const auto& answers :
+       std::vector<std::vector<MessageAnswer>>{{kNo}, {kYes, kCancel}, {kYes, kOk}}) {
+    const bool cleared = answers.back() == kOk;
     form_.log.log_window.ShowText(almost_full);
     for (const MessageAnswer answer : answers) desktop_.QueueAnswer(answer);
     form_.move.cmdMove.Click();

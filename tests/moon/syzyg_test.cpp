@@ -103,13 +103,5 @@ TEST_F(Lunations, PositionsAreGivenFrom1600To2099) {
   EXPECT_EQ(MoonPosition(UniversalTime(2488069.5), latitude), kAfterPositions);
 }
 
-TEST_F(Lunations, EclipseTypesHaveNamesFrom1To10) {
-  EXPECT_EQ(EclipseTypeText(0), "");
-  EXPECT_EQ(EclipseTypeText(6), "Central annular-total solar eclipse");
-  EXPECT_EQ(EclipseTypeText(10), "Total lunar eclipse");
-  EXPECT_EQ(EclipseTypeText(11), "");
-  EXPECT_EQ(EclipseTypeText(-1), "");
-}
-
 }  // namespace
 }  // namespace tarnwick

@@ -13,25 +13,22 @@
 namespace tarnwick {
 namespace {
 
-struct CertaintyCase {
-  double latitude;
-  double longitude;
-  DateRecord date;
-  std::string text;
-};
-
 // With a larger delta T the Earth has turned less, so that the path lies further east.
 TEST(Certainty, TellsWhatAnotherDeltaTWouldShow) {
-  const CertaintyCase cases[] = {
-      {38.49, 28.04, {-584, 5, 28, 'J'}, "total; partial if delta T is 460 s more"},  // Sardis
-      {32.54, 44.42, {-135, 4, 15, 'J'}, "total; partial if delta T is 310 s more"},  // Babylon
-      {36.36, 43.15, {-762, 6, 15, 'J'}, "partial; total if delta T is 530 s more"},  // Nineveh
-      {37.97, 23.72, {-430, 8, 3, 'J'}, "partial"},                                   // Athens
-      {48.78, 9.18, {1999, 8, 11, 'G'}, "total"},                                     // Stuttgart
+  const struct {
+    GeoPoint place;
+    DateRecord date;
+    std::string text;
+  } cases[] = {
+      {{38.49, 28.04}, {-584, 5, 28, 'J'}, "total; partial if delta T is 460 s more"},  // Sardis
+      {{32.54, 44.42}, {-135, 4, 15, 'J'}, "total; partial if delta T is 310 s more"},  // Babylon
+      {{36.36, 43.15}, {-762, 6, 15, 'J'}, "partial; total if delta T is 530 s more"},  // Nineveh
+      {{37.97, 23.72}, {-430, 8, 3, 'J'}, "partial"},                                   // Athens
+      {{48.78, 9.18}, {1999, 8, 11, 'G'}, "total"},                                     // Stuttgart
   };
-  for (CertaintyCase c : cases) {
+  for (auto c : cases) {
     const UniversalTime midnight(euro_date_to_jdn(c.date) - 0.5);
-    const Observer observer = ObserverAt({c.latitude, c.longitude});
+    const Observer observer = ObserverAt(c.place);
     const auto found =
         FindSeenEclipse(SoughtEclipse::kSolar, observer, midnight, true, [] { return true; });
     ASSERT_TRUE(found && found->instant - midnight < 1) << c.text;

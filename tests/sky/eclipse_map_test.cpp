@@ -126,37 +126,6 @@ TEST(EclipseMap, MeetsWhatThePlacesSee) {
   EXPECT_LT(errors.Largest(), 0.01);
 }
 
-TEST(EclipseMap, DrawsEveryKindOfEclipse) {
-  const struct {
-    std::int32_t lunation;
-    std::size_t curves;  // of magnitude that there must be
-    bool central;
-    bool limited;
-  } kEclipses[] = {
-      {153, 5, true, true},     // annular, over the date line
-      {265, 5, true, true},     // annular, over the north pole
-      {188, 5, true, true},     // total, ends at the north pole
-      {-804, 1, false, false},  // partial, only touches the Earth
-      {177, 5, false, true},    // annular, not central
-  };
-  for (const auto& [lunation, curves, central, limited] : kEclipses) {
-    SCOPED_TRACE(lunation);
-    const SolarEclipseMap map = SolarMapOf(lunation);
-    for (std::size_t i = 0; i < map.magnitudes.size(); ++i) {
-      EXPECT_EQ(!map.magnitudes[i].empty(), i < curves) << i;
-      ExpectWithinTheMap(map.magnitudes[i], 4);
-      ExpectWithoutLooseEnds(map.magnitudes[i]);
-    }
-    EXPECT_EQ(!map.central_line.empty(), central);
-    EXPECT_EQ(map.greatest_place.has_value(), central);
-    const auto& [north, south] = map.limits;
-    EXPECT_EQ(!north.empty() || !south.empty(), limited);
-    for (const GeoLines* lines : {&map.central_line, &north, &south}) {
-      ExpectWithinTheMap(*lines, 180);
-    }
-  }
-}
-
 // -135-04-15 JC, over Babylon, when delta T is known to 310 s.
 TEST(EclipseMap, MovesThePathOfAnOldEclipseByTheErrorOfDeltaT) {
   const EclipseRecord record = EclipseOf(-26403, kNewMoon);

@@ -18,14 +18,6 @@ constexpr GeoPoint kNewYork{40.71, -74.01};
 constexpr GeoPoint kSydney{-33.87, 151.21};
 constexpr GeoPoint kAthens{37.97, 23.72};
 
-struct EclipseCase {
-  GeoPoint place;
-  DateRecord date;
-  std::int16_t phase;
-  std::string seen;
-  std::size_t contacts;
-};
-
 EclipseRecord RecordOf(DateRecord date, std::int16_t phase) {
   const UniversalTime noon(euro_date_to_jdn(date));
   const double beyond_new_moon = phase == kNewMoon ? 3 : 0;
@@ -37,35 +29,28 @@ EclipseTexts TextsOf(const EclipseRecord& record, const GeoPoint& place) {
 }
 
 TEST(EclipseTexts, SayAsWhatItIsSeen) {
-  const EclipseCase cases[] = {
-      {kStuttgart, {1999, 8, 11, 'G'}, kNewMoon, "Seen here as total, magnitude 1.028", 5},
-      {kNewYork,
-       {1999, 8, 11, 'G'},
-       kNewMoon,
-       "Seen here as partial, magnitude 0.461 at sunrise; magnitude 0.952 below the horizon",
-       4},
-      {kSydney, {1999, 8, 11, 'G'}, kNewMoon, "No eclipse here: the Moon's shadow passes by", 0},
-      {kAthens,
-       {2025, 9, 7, 'G'},
-       kFullMoon,
-       "Seen here as total, umbral magnitude 1.362; begins below the horizon",
-       7},
-      {kAthens,
-       {2018, 1, 31, 'G'},
-       kFullMoon,
-       "Seen here as penumbral, penumbral magnitude 0.307 at moonrise; total below the horizon",
-       8},
-      {kNewYork, {2018, 7, 27, 'G'}, kFullMoon, "Not seen here: the Moon is below the horizon", 7},
-      {kAthens,
-       {2020, 6, 5, 'G'},
-       kFullMoon,
-       "Seen here as penumbral, penumbral magnitude 0.568",
-       3},
+  struct Asked {
+    GeoPoint place;
+    DateRecord date;
+    std::int16_t phase;
+    std::size_t contacts;
   };
-  for (const EclipseCase& c : cases) {
-    const EclipseTexts texts = TextsOf(RecordOf(c.date, c.phase), c.place);
-    EXPECT_EQ(texts.seen, c.seen);
-    EXPECT_EQ(texts.contacts.size(), c.contacts) << c.seen;
+  const std::pair<Asked, std::string> cases[] = {
+      {{kStuttgart, {1999, 8, 11}, kNewMoon, 5}, "Seen here as total, magnitude 1.028"},
+      {{kNewYork, {1999, 8, 11}, kNewMoon, 4},
+       "Seen here as partial, magnitude 0.461 at sunrise; magnitude 0.952 below the horizon"},
+      {{kSydney, {1999, 8, 11}, kNewMoon, 0}, "No eclipse here: the Moon's shadow passes by"},
+      {{kAthens, {2025, 9, 7}, kFullMoon, 7},
+       "Seen here as total, umbral magnitude 1.362; begins below the horizon"},
+      {{kAthens, {2018, 1, 31}, kFullMoon, 8},
+       "Seen here as penumbral, penumbral magnitude 0.307 at moonrise; total below the horizon"},
+      {{kNewYork, {2018, 7, 27}, kFullMoon, 7}, "Not seen here: the Moon is below the horizon"},
+      {{kAthens, {2020, 6, 5}, kFullMoon, 3}, "Seen here as penumbral, penumbral magnitude 0.568"},
+  };
+  for (const auto& [asked, seen] : cases) {
+    const EclipseTexts texts = TextsOf(RecordOf(asked.date, asked.phase), asked.place);
+    EXPECT_EQ(texts.seen, seen);
+    EXPECT_EQ(texts.contacts.size(), asked.contacts) << seen;
   }
 }
 

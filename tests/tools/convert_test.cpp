@@ -6,6 +6,7 @@
 #include <streambuf>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -43,13 +44,7 @@ TEST(Convert, ReadsEntriesByCalendarAndZone) {
   constexpr std::size_t kTime = 2;
   constexpr std::size_t kAJDColumn = 3;
   constexpr std::size_t kCEColumn = 4;
-  struct Case {
-    TableArguments arguments;
-    const char* entry;
-    std::size_t column;
-    const char* expected;
-  };
-  const Case cases[] = {
+  const std::tuple<TableArguments, const char*, std::size_t, const char*> cases[] = {
       {{"convert"}, "2003-12-31", kAJDColumn, "2453005.0000000"},
       {{"convert", "--zone", "+02:30"}, "2003-12-31 ce 14:30", kAJDColumn, "2453005.0000000"},
       {{"convert", "--zone=-05:00"}, "2003-12-31 CE 20:00", kAJDColumn, "2453005.5416667"},
@@ -61,9 +56,8 @@ TEST(Convert, ReadsEntriesByCalendarAndZone) {
       // what is shown at the lower limit can be typed back
       {{"convert"}, "552282.99996 AJD", kAJDColumn, "552283.0000000"},
   };
-  for (const Case& test : cases) {
-    EXPECT_EQ(CellOf(RunTool(test.arguments, test.entry), test.column), test.expected)
-        << test.entry;
+  for (const auto& [arguments, entry, column, expected] : cases) {
+    EXPECT_EQ(CellOf(RunTool(arguments, entry), column), expected) << entry;
   }
 }
 

@@ -97,62 +97,6 @@ TEST(Driver, DumpPrintsEverythingByName) {
   EXPECT_EQ(at + 1, dump.size());
 }
 
-TEST(Driver, RefusesWhatIsNoPointOfADrawing) {
-  for (const auto& [command, answer] :
-       {std::pair("point frmSky.drwMap 0 1", ""), std::pair("point frmSky.drwMap 0.5 1e-3", ""),
-        std::pair("point frmSky.drwMap 0.5 1.001", "error: no such fraction: 1.001\n"),
-        std::pair("point frmSky.drwMap -0.1 1", "error: no such fraction: -0.1\n"),
-        std::pair("point frmSky.drwMap nan 1", "error: no such fraction: nan\n"),
-        std::pair("point frmSky.drwMap 0.5", "error: no such fraction: \n"),
-        std::pair("point cmdSky 0.5 0.5", "error: cmdSky is not a drawing\n"),
-        std::pair("close frmSky\npoint frmSky.drwMap 0 0",
-                  "error: drwMap is disabled or hidden\n")}) {
-    std::istringstream input("start\nclick cmdSky\n" + std::string(command) + "\n");
-    std::ostringstream output;
-    Driver(input, output, TEST_PROGRAM_FOLDER).Run();
-    EXPECT_EQ(output.str(), answer) << command;
-  }
-}
-
-TEST(Driver, RefusesWhatIsNoPartOfATable) {
-  for (const auto& [command, answer] :
-       {std::pair("rows frmLists.tblList", "0\n"), std::pair("get frmLists.tblList", "0\n"),
-        std::pair("get frmLists.tblList.Selected", "-1\n"),
-        std::pair("rows cmdLists", "error: cmdLists is not a table\n"),
-        std::pair("cell frmLists.tblList 0 0", "error: no such row: 0\n"),
-        std::pair("cell frmLists.tblList -1 0", "error: no such number: -1\n"),
-        std::pair("cell frmLists.tblList", "error: no such number: \n"),
-        std::pair("set frmLists.tblList 0", "error: no such row: 0\n"),
-        std::pair("press frmLists.tblList 13", ""),
-        std::pair("press frmLists.tblList 65", "error: frmLists.tblList is not a text box\n"),
-        std::pair("sort frmLists.tblList 99", "error: no such column: 99\n"),
-        std::pair("sort frmLists.cmdList 0", "error: frmLists.cmdList is not a table\n"),
-        std::pair("close frmLists\nsort frmLists.tblList 0",
-                  "error: tblList is disabled or hidden\n")}) {
-    std::istringstream input("start\nclick cmdLists\n" + std::string(command) + "\n");
-    std::ostringstream output;
-    Driver(input, output, TEST_PROGRAM_FOLDER).Run();
-    EXPECT_EQ(output.str(), answer) << command;
-  }
-}
-
-TEST(Driver, TicksATimerByItsName) {
-  for (const auto& [command, answer] :
-       {std::pair("tick", "12:05 (local)\n"), std::pair("tick 2", "12:05 (local)\n"),
-        std::pair("tick Clock", "12:05 (local)\n"),
-        std::pair("tick frmMain.Clock 2", "12:05 (local)\n"),
-        std::pair("tick frmSky.tmrMap", "12:00 (local)\n"),
-        std::pair("tick Clock 0", "error: no such number: 0\n12:00 (local)\n"),
-        std::pair("tick cmdNow", "error: cmdNow is not a timer\n12:00 (local)\n")}) {
-    std::istringstream input(
-        "now 2024-03-05 12:00:00 60\nstart\nclick cmdNow\nnow 2024-03-05 12:05:00 60\n" +
-        std::string(command) + "\nget lblTime(1)\n");
-    std::ostringstream output;
-    Driver(input, output, TEST_PROGRAM_FOLDER).Run();
-    EXPECT_EQ(output.str(), answer) << command;
-  }
-}
-
 TEST(Driver, TellsOfTheFirstMissingPictureOnly) {
   std::istringstream input("start\nclick cmdMove\nmessages\n");
   std::ostringstream output;
