@@ -54,10 +54,27 @@ TEST(OwnRules, OnlyDatesThatExistAreRead) {
     const CalendarRow& row = RowOf(calendar);
     for (const auto& text : texts) EXPECT_EQ(row.read(text).code, row.failure) << text;
   }
-  ARCDate day_0{4708, 1, 0};
-  EXPECT_FALSE(ARCDateToJDN(day_0));
   KSGDate goddess;
   EXPECT_FALSE(ParseKSGDate("-1-1-1", goddess));
+}
+
+template <class Date>
+void ExpectMarked(bool (*convert)(Date&), Date no_date) {
+  no_date.jdn = 77;
+  no_date.valid = 1;
+  EXPECT_FALSE(convert(no_date));
+  EXPECT_EQ(no_date.jdn, 0);
+  EXPECT_EQ(no_date.valid, 0);
+}
+
+TEST(OwnRules, RecordsOfNoDateAreMarkedAndTridaysLeft) {
+  ExpectMarked<ARCDate>(ARCDateToJDN, {4708, 1, 0});
+  ExpectMarked<SDDate>(SDDateToJDN, {33, 46, 13, 1});
+  ExpectMarked<KSGDate>(KSGDateToJDN, {1, 470, 13, 30});
+  LLTDate triday{0, 1, 6, 10, 1};
+  triday.jdn = 77;
+  EXPECT_FALSE(LLTToJDN(triday));
+  EXPECT_EQ(triday.jdn, 77);
 }
 
 // Conversions use divisions in closed form; here they meet the lengths of months one by one, over a
@@ -142,6 +159,9 @@ TEST(OwnRules, NumbersThatEndAreErrors) {
 TEST(OwnRules, DatesAreWrittenInTheirStyles) {
   const std::pair<std::string, std::string> texts[] = {
       {ARCDateString({4708, 11, 11}, 2), "4708-11-11 ARC (Sun Day, Dionysus 11,  4708)"},
+      {ARCDateString({4708, 11, 11}, 3), "Dionysus 11,  4708"},
+      {ARCDateString({4708, 11, 11}, 5), "Sun Day, Dionysus 11,  4708"},
+      {ARCDateString({4708, 11, 11}, 6), ""},
       {ARCDateString({4708, 11, 11}, 4), "The 11th day of Dionysus in the year 4708"},
       {ARCDateString({-5, 1, 2}, 2), "-5-01-02 ARC (Mercury Day, Apollo 2, -5)"},
       {ARCDateString({-5, 13, 30}, 4), "The 30th day of Persephone in the year-5"},
