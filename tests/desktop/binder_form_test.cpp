@@ -9,15 +9,19 @@ class BinderFormTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void windowShowsItsForm() {
+  void windowShowsItsFormAndAsksItToClose() {
     BoundWindow bound;
     QVERIFY(!bound.window.isVisible());
     bound.form.SetCaption("Test 18.0");
     bound.Show();
     QCOMPARE(bound.window.windowTitle(), "Test 18.0");
     QCOMPARE(bound.form.activations, 1);
-    bound.form.Hide();
-    QVERIFY(!bound.window.isVisible());
+    bound.form.refuses_to_close = true;
+    bound.window.close();
+    QVERIFY(bound.window.isVisible());
+    bound.form.refuses_to_close = false;
+    bound.window.close();
+    QVERIFY(!bound.window.isVisible() && !bound.form.Visible());
   }
 
   void sizesAreTwips() {
@@ -37,17 +41,6 @@ class BinderFormTest : public QObject {
     QTRY_VERIFY(bound.window.width() > 500);
     bound.form.SetBounds({1500, 750, 7500, 3000});
     QVERIFY(bound.window.width() > 500);
-  }
-
-  void closeBoxAsksTheForm() {
-    BoundWindow bound;
-    bound.Show();
-    bound.form.refuses_to_close = true;
-    bound.window.close();
-    QVERIFY(bound.window.isVisible());
-    bound.form.refuses_to_close = false;
-    bound.window.close();
-    QVERIFY(!bound.window.isVisible() && !bound.form.Visible());
   }
 
   void minimisedFormIsToldOnce() {

@@ -4,7 +4,6 @@
 
 #include "desktop/calendar_view.h"
 #include "desktop/help_view.h"
-#include "tests/desktop/bound_window.h"
 #include "tests/desktop/shown_main_window.h"
 #include "tests/desktop/suites.h"
 
@@ -123,21 +122,6 @@ class KeysTest : public QObject {
     QVERIFY(QTest::qWaitForWindowActive(&help));
     QTest::keyClick(&help, Qt::Key_Q, Qt::ControlModifier);
     QVERIFY(main.desktop.TakeEnd());
-  }
-
-  void lateClickIsRefused() {
-    BoundWindow bound;
-    Button go(bound.form, "cmdGo", "Go");
-    int clicks = 0;
-    go.on_click = [&] { ++clicks; };
-    auto& push = bound.Add<QPushButton>(go);
-    bound.Show();
-    int pressed = 0;
-    QObject::connect(&push, &QPushButton::clicked, &push, [&] { ++pressed; });
-    push.animateClick();  // acts a tenth of a second later
-    go.SetEnabled(false);
-    QTRY_COMPARE(pressed, 1);
-    QCOMPARE(clicks, 0);
   }
 };
 
