@@ -59,43 +59,36 @@ class PrintPainterTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void documentsTakeTheirPages_data() {
-    QTest::addColumn<PrintedDocument>("document");
-    QTest::addColumn<int>("fewest");
-    QTest::addColumn<int>("most");
-    QTest::addColumn<bool>("wide");
+  void documentsTakeTheirPages() {
     const PrintedGrids year = Year();
     const int lunations = static_cast<int>(year.page_count);
-    QTest::newRow("lunation") << PrintedDocument(PrintedLunations("One", {49, 49}, {3, 0})) << 1
-                              << 1 << true;
-    QTest::newRow("year") << PrintedDocument(year) << lunations << lunations << true;
-    QTest::newRow("500 rows") << PrintedDocument(Rows(500)) << 7 << 13 << false;
-    QTest::newRow("no row") << PrintedDocument(Rows(0)) << 1 << 1 << false;
-    QTest::newRow("no column") << PrintedDocument(PrintedTable{"Nothing", {}, 0, {}}) << 1 << 1
-                               << false;
-    QTest::newRow("wide") << PrintedDocument(WideTable()) << 1 << 1 << true;
-  }
-
-  void documentsTakeTheirPages() {
-    QFETCH(PrintedDocument, document);
-    QFETCH(int, fewest);
-    QFETCH(int, most);
-    QFETCH(bool, wide);
-    for (const auto& [paper, upright, across] :
-         {std::tuple(PaperSize::kA4, "595 842", "842 595"),
-          std::tuple(PaperSize::kLetter, "612 792", "792 612")}) {
-      const QByteArray pdf = Saved(document, paper);
-      QVERIFY(pdf.startsWith("%PDF-"));
-      const int pages = CountPages(pdf);
-      QVERIFY2(pages >= fewest && pages <= most, qPrintable(QString::number(pages)));
-      const QStringList sheets = Sheets(pdf);
-      QVERIFY(!sheets.isEmpty());
-      QCOMPARE(sheets, QStringList(sheets.size(), wide ? across : upright));
+    struct {
+      PrintedDocument document;
+      int fewest;
+      int most;
+      bool wide;
+    } const cases[] = {
+        {PrintedLunations("One", {49, 49}, {3, 0}), 1, 1, true},
+        {year, lunations, lunations, true},
+        {Rows(500), 7, 13, false},
+        {Rows(0), 1, 1, false},
+        {PrintedTable{"Nothing", {}, 0, {}}, 1, 1, false},
+        {WideTable(), 1, 1, true},
+    };
+    for (const auto& [document, fewest, most, wide] : cases) {
+      for (const auto& [paper, upright, across] :
+           {std::tuple(PaperSize::kA4, "595 842", "842 595"),
+            std::tuple(PaperSize::kLetter, "612 792", "792 612")}) {
+        const QByteArray pdf = Saved(document, paper);
+        QVERIFY(pdf.startsWith("%PDF-"));
+        const int pages = CountPages(pdf);
+        QVERIFY2(pages >= fewest && pages <= most, qPrintable(QString::number(pages)));
+        const QStringList sheets = Sheets(pdf);
+        QVERIFY(!sheets.isEmpty());
+        QCOMPARE(sheets, QStringList(sheets.size(), wide ? across : upright));
+      }
     }
-  }
-
-  void textsAreTextsAndPicturesAreCurves() {
-    const QByteArray pdf = Saved(Year(), PaperSize::kA4);
+    const QByteArray pdf = Saved(year, PaperSize::kA4);  // texts are texts, pictures are curves
     QVERIFY(pdf.contains("/ToUnicode"));
     QVERIFY(!pdf.contains("/Subtype /Image"));
   }

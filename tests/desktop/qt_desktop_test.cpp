@@ -17,50 +17,40 @@ class QtDesktopTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void messageBoxShowsTheMessageAndAnswers_data() {
-    QTest::addColumn<MessageIcon>("icon");
-    QTest::addColumn<MessageButtons>("buttons");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("shown");
-    QTest::addColumn<MessageAnswer>("answer");
-    QTest::addColumn<std::optional<MessageAnswer>>("first");
+  void messageBoxShowsTheMessageAndAnswers() {
     using enum MessageIcon;
-    const auto row = [](const char* name, MessageIcon icon, MessageButtons buttons, int key,
-                        int shown, MessageAnswer answer, std::optional<MessageAnswer> first = {}) {
-      QTest::newRow(name) << icon << buttons << key << shown << answer << first;
-    };
     constexpr auto kOk = MessageButtons::kOk;
     constexpr auto kOkCancel = MessageButtons::kOkCancel;
     constexpr auto kYesNo = MessageButtons::kYesNo;
-    row("ok", kExclamation, kOk, Qt::Key_Return, QMessageBox::Warning, MessageAnswer::kOk);
-    row("ok, Escape", kNone, kOk, Qt::Key_Escape, QMessageBox::NoIcon, MessageAnswer::kOk);
-    row("ok or cancel", kQuestion, kOkCancel, Qt::Key_Return, QMessageBox::Question,
-        MessageAnswer::kOk);
-    row("cancel", kQuestion, kOkCancel, Qt::Key_Escape, QMessageBox::Question,
-        MessageAnswer::kCancel);
-    row("yes", kInformation, kYesNo, Qt::Key_Return, QMessageBox::Information, MessageAnswer::kYes);
-    row("no", kQuestion, kYesNo, Qt::Key_Escape, QMessageBox::Question, MessageAnswer::kNo);
-    row("no first", kQuestion, kYesNo, Qt::Key_Return, QMessageBox::Question, MessageAnswer::kNo,
-        MessageAnswer::kNo);
-  }
-
-  void messageBoxShowsTheMessageAndAnswers() {
-    QFETCH(MessageIcon, icon);
-    QFETCH(MessageButtons, buttons);
-    QFETCH(int, key);
-    QFETCH(int, shown);
-    WhenModal<QMessageBox>([key, shown](QMessageBox& box) {
-      QCOMPARE(box.text(), "<b>plain</b>");
-      QCOMPARE(box.textFormat(), Qt::PlainText);
-      QCOMPARE(box.windowTitle(), "Compute date");
-      QCOMPARE(static_cast<int>(box.icon()), shown);
-      QTest::keyClick(&box, static_cast<Qt::Key>(key));
-    });
-    QFETCH(std::optional<MessageAnswer>, first);
-    const MessageAnswer given =
-        desktop_.ShowMessage({"<b>plain</b>", "Compute date", icon, buttons, first});
-    QFETCH(MessageAnswer, answer);
-    QCOMPARE(given, answer);
+    struct {
+      MessageIcon icon;
+      MessageButtons buttons;
+      Qt::Key key;
+      QMessageBox::Icon shown;
+      MessageAnswer answer;
+      std::optional<MessageAnswer> first = {};
+    } const cases[] = {
+        {kExclamation, kOk, Qt::Key_Return, QMessageBox::Warning, MessageAnswer::kOk},
+        {kNone, kOk, Qt::Key_Escape, QMessageBox::NoIcon, MessageAnswer::kOk},
+        {kQuestion, kOkCancel, Qt::Key_Return, QMessageBox::Question, MessageAnswer::kOk},
+        {kQuestion, kOkCancel, Qt::Key_Escape, QMessageBox::Question, MessageAnswer::kCancel},
+        {kInformation, kYesNo, Qt::Key_Return, QMessageBox::Information, MessageAnswer::kYes},
+        {kQuestion, kYesNo, Qt::Key_Escape, QMessageBox::Question, MessageAnswer::kNo},
+        {kQuestion, kYesNo, Qt::Key_Return, QMessageBox::Question, MessageAnswer::kNo,
+         MessageAnswer::kNo},
+    };
+    for (const auto& one : cases) {
+      WhenModal<QMessageBox>([&one](QMessageBox& box) {
+        QCOMPARE(box.text(), "<b>plain</b>");
+        QCOMPARE(box.textFormat(), Qt::PlainText);
+        QCOMPARE(box.windowTitle(), "Compute date");
+        QCOMPARE(box.icon(), one.shown);
+        QTest::keyClick(&box, one.key);
+      });
+      QCOMPARE(
+          desktop_.ShowMessage({"<b>plain</b>", "Compute date", one.icon, one.buttons, one.first}),
+          one.answer);
+    }
   }
 
   void clockReadsLocalTime() {
