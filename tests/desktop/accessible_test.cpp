@@ -2,8 +2,7 @@
 #include "desktop/accessible.h"
 
 #include <QAction>
-#include <QDialog>
-#include <QTimer>
+#include <QMessageBox>
 #include <algorithm>
 
 #include "calendars/calendar_table.h"
@@ -11,23 +10,10 @@
 #include "desktop/qt_desktop.h"
 #include "tests/desktop/all_windows.h"
 #include "tests/desktop/suites.h"
+#include "tests/desktop/when_modal.h"
 
 namespace tarnwick {
 namespace {
-
-// Every window of the program.
-struct Windows : AllWindows {
-  Windows() {
-    for (Form* form : main.screen.Forms()) {
-      if (form != &main.form.notice) form->Show();
-    }
-    main.form.calendar.cmdDisplayCalendar.Click();
-    main.form.notice.ShowOver(main.form, "Saved");
-    main.form.move.fraStopPauseResume.SetVisible(true);
-    main.form.search.lblSearching.SetVisible(true);
-    main.form.search.lblActualEclipseData.SetCaption("Partial lunar eclipse\r\n");
-  }
-};
 
 QWidget* WindowOf(const Form& form) {
   for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -90,7 +76,9 @@ class AccessibleTest : public QObject {
 
  private Q_SLOTS:
   void everyControlHasNameRoleAndState() {
-    Windows windows;
+    AllWindows windows;
+    windows.FillWithLongestTexts();
+    windows.main.form.notice.ShowOver(windows.main.form, "Saved");
     windows.main.form.move.cmdMove.SetEnabled(false);
     for (const Form* form : windows.main.screen.Forms()) {
       QWidget* window = WindowOf(*form);
@@ -151,7 +139,7 @@ class AccessibleTest : public QObject {
   }
 
   void currentCalendarIsAState() {
-    Windows windows;
+    AllWindows windows;
     frmMain& form = windows.main.form;
     const auto marked = [&](const Control& control) {
       const auto* window = WindowOf(control.Owner());
@@ -180,7 +168,7 @@ class AccessibleTest : public QObject {
   }
 
   void picturesAreDescribed() {
-    Windows windows;
+    AllWindows windows;
     frmMain& form = windows.main.form;
     form.entry.txbDate.SetText("2024-01-21 CE 12:00");
     form.entry.cmdCompute.Click();
@@ -221,12 +209,11 @@ class AccessibleTest : public QObject {
     QtDesktop desktop(gate);
     QStringList read;
     auto role = QAccessible::NoRole;
-    QTimer::singleShot(0, [&] {
-      QWidget* box = QApplication::activeModalWidget();
-      role = Told(*box).role();
-      read << NameOf(*box);
-      for (QLabel* text : box->findChildren<QLabel*>()) read << NameOf(*text);
-      static_cast<QDialog*>(box)->accept();
+    WhenModal<QMessageBox>([&](QMessageBox& box) {
+      role = Told(box).role();
+      read << NameOf(box);
+      for (QLabel* text : box.findChildren<QLabel*>()) read << NameOf(*text);
+      box.accept();
     });
     desktop.ShowMessage({"Nothing to do!", "Compute date", MessageIcon::kExclamation});
     QCOMPARE(role, QAccessible::AlertMessage);

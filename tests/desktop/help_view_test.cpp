@@ -62,8 +62,6 @@ class HelpViewTest : public QObject {
         QVERIFY2(!line.startsWith("# ") && !line.startsWith("- "), qPrintable(line));
       }
     }
-    VerifyNothingIsClipped(help.view);
-    VerifyNothingIsClipped(credits);
   }
 
   void noticeGoesByItselfAndOnAClick() {

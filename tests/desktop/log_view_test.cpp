@@ -3,7 +3,6 @@
 #include <QPushButton>
 #include <QScrollBar>
 
-#include "desktop/log_preferences_view.h"
 #include "desktop/log_window_view.h"
 #include "tests/desktop/shown_main_window.h"
 #include "tests/desktop/suites.h"
@@ -26,7 +25,6 @@ struct LogWindows {
 
   MainWindow main;
   LogWindowView log{main.form.log.log_window, main.gate};
-  LogPreferencesView preferences{main.form.log.log_preferences, main.gate};
 };
 
 }  // namespace
@@ -75,10 +73,6 @@ class LogViewTest : public QObject {
       QVERIFY2(place.left() > end, button->Name().c_str());
       end = place.right();
     }
-
-    windows.main.form.log.cmdLogPreferences.Click();
-    QVERIFY(QTest::qWaitForWindowActive(&windows.preferences));
-    VerifyNothingIsClipped(windows.preferences);
   }
 };
 
