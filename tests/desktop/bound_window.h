@@ -58,4 +58,11 @@ struct BoundWindow {
   Binder binder{gate, kWordings};
 };
 
+// The same with a text box.
+template <class Edit>
+struct BoundText : BoundWindow {
+  TextBox box{form, "txbText"};
+  Edit& edit = Add<Edit>(box);
+};
+
 }  // namespace tarnwick

@@ -38,88 +38,72 @@ QColor Shaded(const QColor& ground, const QColor& shade, int times) {
 }
 
 struct Seen {
-  const char* name;
-  QColor color;
-  std::vector<QColor> grounds;  // beside each of which it is seen
+  std::vector<QColor> colors;
+  std::vector<QColor> grounds;  // beside each of which each of them is seen
 };
 
 void VerifyContrast(const std::vector<Seen>& all, double least) {
-  for (const Seen& seen : all) {
-    for (const QColor& ground : seen.grounds) {
-      const double contrast = Contrast(seen.color, ground);
-      const QString what = QString("%1 on %2: %3").arg(seen.name, ground.name()).arg(contrast);
-      QVERIFY2(contrast >= least, qPrintable(what));
+  for (const auto& [colors, grounds] : all) {
+    for (const QColor& color : colors) {
+      for (const QColor& ground : grounds) {
+        const double contrast = Contrast(color, ground);
+        const QString what = QString("%1 on %2: %3").arg(color.name(), ground.name()).arg(contrast);
+        QVERIFY2(contrast >= least, qPrintable(what));
+      }
     }
   }
 }
 
 }  // namespace
 
-class ContrastTest : public QObject {
+class ContrastTest : public QObject, private Look {
   Q_OBJECT
 
  private Q_SLOTS:
-  void textsAreLegible();
-  void edgesAndMarksAreSeen();
+  void textsAreLegible() {
+    VerifyContrast(
+        {
+            {{kText, ToQt(kSelectedColor), ToQt(kUnselectedColor)}, {kWindow, kPanel, kCurrentRow}},
+            {{kCaption, ToQt(kSelectedColor), ToQt(kUnselectedColor), kEvent}, {kSky}},
+            {{kCaption}, {kWindow, kPanel, kPanelEdge}},
+            {{kDisabledText}, {kWindow, kPanel, kDisabledButton}},
+            {{kLightText, ToQt(kResultColor), kLightCaption}, {kLightPanel}},
+            {{kFieldText}, {kField, kCurrentRow}},
+            {{kPlaceholder}, {kField}},
+            {{kDisabledFieldText}, {kDisabledField}},
+            {{kSelectionText}, {kSelection}},
+            {{kButtonText}, {kButton, kButtonHover, kButtonPressed}},
+            {{kButtonText}, {kAccent, kAccentHover, kAccentPressed}},
+            {{kMagnitude, kPath, kPlace}, {kPaper}},
+            {{kToolTipText}, {kToolTip}},
+        },
+        4.5);
+  }
+
+  void edgesAndMarksAreSeen() {
+    const QColor night = Shaded(kPaper, kMapNight, 1);
+    // Where it is down at every phase of its eclipse.
+    const QColor moon_down = Shaded(kPaper, kMapShade, kMostPhases);
+    VerifyContrast(
+        {
+            {{kFieldEdge}, {kField, kPanel, kWindow}},
+            {{kCaption}, {kField}},                // the arrow of a list
+            {{kDisabledText}, {kDisabledField}},   // of a disabled one
+            {{kField}, {kChosen, kDisabledText}},  // the tick of a chosen box
+            {{kChosen}, {kField, kPanel}},
+            {{kSelection}, {kField}},
+            {{kCurrentBar}, {kPanel, kField, kCurrentRow}},
+            {{kCheckMark}, {kPanel}},
+            {{kFocusRing}, {kWindow, kPanel, kCurrentRow, kSky}},
+            {{kCoast}, {kPaper, night, moon_down}},
+            {{kMagnitude, kPath, kPathIfLess, kPathIfMore}, {kPaper, night}},
+            {{kSeen}, {kPaper, moon_down}},
+            {{kMapEdge}, {kPaper, kLightPanel}},
+            {{kLightFocusRing}, {kLightPanel}},
+        },
+        3);
+  }
 };
-
-void ContrastTest::textsAreLegible() {
-  const QColor row = Look::kCurrentRow;
-  VerifyContrast(
-      {
-          {"text", Look::kText, {Look::kWindow, Look::kPanel, row}},
-          {"caption", Look::kCaption, {Look::kWindow, Look::kPanel, Look::kPanelEdge, Look::kSky}},
-          {"selected", ToQt(kSelectedColor), {Look::kWindow, Look::kPanel, row, Look::kSky}},
-          {"unselected", ToQt(kUnselectedColor), {Look::kWindow, Look::kPanel, row, Look::kSky}},
-          {"disabled", Look::kDisabledText, {Look::kWindow, Look::kPanel, Look::kDisabledButton}},
-          {"fact", Look::kLightText, {Look::kLightPanel}},
-          {"result", ToQt(kResultColor), {Look::kLightPanel}},
-          {"caption of a fact", Look::kLightCaption, {Look::kLightPanel}},
-          {"field", Look::kFieldText, {Look::kField, row}},
-          {"hint in a field", Look::kPlaceholder, {Look::kField}},
-          {"disabled field", Look::kDisabledFieldText, {Look::kDisabledField}},
-          {"selection", Look::kSelectionText, {Look::kSelection}},
-          {"quiet button",
-           Look::kButtonText,
-           {Look::kButton, Look::kButtonHover, Look::kButtonPressed}},
-          {"accent", Look::kButtonText, {Look::kAccent, Look::kAccentHover, Look::kAccentPressed}},
-          {"event", Look::kEvent, {Look::kSky}},
-          {"magnitude on a map", Look::kMagnitude, {Look::kPaper}},
-          {"greatest eclipse on a map", Look::kPath, {Look::kPaper}},
-          {"place on a map", Look::kPlace, {Look::kPaper}},
-          {"tool tip", Look::kToolTipText, {Look::kToolTip}},
-      },
-      4.5);
-}
-
-void ContrastTest::edgesAndMarksAreSeen() {
-  const QColor night = Shaded(Look::kPaper, Look::kMapNight, 1);
-  // Where it is down at every phase of its eclipse.
-  const QColor moon_down = Shaded(Look::kPaper, Look::kMapShade, kMostPhases);
-  VerifyContrast(
-      {
-          {"edge of a field", Look::kFieldEdge, {Look::kField, Look::kPanel, Look::kWindow}},
-          {"arrow of a list", Look::kCaption, {Look::kField}},
-          {"arrow of a disabled list", Look::kDisabledText, {Look::kDisabledField}},
-          {"chosen option", Look::kChosen, {Look::kField, Look::kPanel}},
-          {"tick of a chosen box", Look::kField, {Look::kChosen, Look::kDisabledText}},
-          {"chosen row of a list", Look::kSelection, {Look::kField}},
-          {"bar of the current row",
-           Look::kCurrentBar,
-           {Look::kPanel, Look::kField, Look::kCurrentRow}},
-          {"mark beside Now", Look::kCheckMark, {Look::kPanel}},
-          {"ring", Look::kFocusRing, {Look::kWindow, Look::kPanel, Look::kCurrentRow, Look::kSky}},
-          {"coast", Look::kCoast, {Look::kPaper, night, moon_down}},
-          {"magnitude", Look::kMagnitude, {Look::kPaper, night}},
-          {"limit of what is seen", Look::kSeen, {Look::kPaper, moon_down}},
-          {"path", Look::kPath, {Look::kPaper, night}},
-          {"path if delta T is less", Look::kPathIfLess, {Look::kPaper, night}},
-          {"path if delta T is more", Look::kPathIfMore, {Look::kPaper, night}},
-          {"edge of a map", Look::kMapEdge, {Look::kPaper, Look::kLightPanel}},
-          {"ring on the pale ground", Look::kLightFocusRing, {Look::kLightPanel}},
-      },
-      3);
-}
 
 const AddSuite<ContrastTest> added;
 

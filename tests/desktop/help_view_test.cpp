@@ -8,16 +8,6 @@
 #include "tests/desktop/suites.h"
 
 namespace tarnwick {
-
-class HelpViewTest : public QObject {
-  Q_OBJECT
-
- private Q_SLOTS:
-  void keysOpenTheHelpAndTurnItsPages();
-  void pagesShowNoMarks();
-  void noticeGoesByItselfAndOnAClick();
-};
-
 namespace {
 
 struct HelpWindow {
@@ -41,60 +31,64 @@ struct HelpWindow {
 
 }  // namespace
 
-void HelpViewTest::keysOpenTheHelpAndTurnItsPages() {
-  HelpWindow help;
-  QVERIFY(help.Pages().hasFocus());
-  const QString first = help.Shown();
-  QVERIFY(first.contains("The current moment"));
-  QTest::keyClick(&help.Pages(), Qt::Key_Down);
-  QCOMPARE(help.main.form.help_window.lstPages.ListIndex(), 1);
-  QVERIFY(help.Shown() != first);
-  QTest::keyClick(&help.view, Qt::Key_Escape);
-  QVERIFY(!help.view.isVisible());
-}
+class HelpViewTest : public QObject {
+  Q_OBJECT
 
-void HelpViewTest::pagesShowNoMarks() {
-  HelpWindow help;
-  CreditsView credits(help.main.form.help_window.credits_window, help.main.gate);
-  help.main.form.help_window.cmdCredits.Click();
-  QStringList texts{credits.findChild<QTextBrowser*>()->toPlainText()};
-  for (int page = 0; page < help.Pages().count(); ++page) {
-    help.Pages().setCurrentRow(page);
-    texts << help.Shown();
+ private Q_SLOTS:
+  void keysOpenTheHelpAndTurnItsPages() {
+    HelpWindow help;
+    QVERIFY(help.Pages().hasFocus());
+    const QString first = help.Shown();
+    QVERIFY(first.contains("The current moment"));
+    QTest::keyClick(&help.Pages(), Qt::Key_Down);
+    QCOMPARE(help.main.form.help_window.lstPages.ListIndex(), 1);
+    QVERIFY(help.Shown() != first);
+    QTest::keyClick(&help.view, Qt::Key_Escape);
+    QVERIFY(!help.view.isVisible());
   }
-  for (const QString& text : texts) {
-    QVERIFY(text.size() > 200);
-    for (const QString& line : text.split('\n')) {
-      QVERIFY2(!line.startsWith("# ") && !line.startsWith("- "), qPrintable(line));
+
+  void pagesShowNoMarks() {
+    HelpWindow help;
+    CreditsView credits(help.main.form.help_window.credits_window, help.main.gate);
+    help.main.form.help_window.cmdCredits.Click();
+    QStringList texts{credits.findChild<QTextBrowser*>()->toPlainText()};
+    for (int page = 0; page < help.Pages().count(); ++page) {
+      help.Pages().setCurrentRow(page);
+      texts << help.Shown();
+    }
+    for (const QString& text : texts) {
+      QVERIFY(text.size() > 200);
+      for (const QString& line : text.split('\n')) {
+        QVERIFY2(!line.startsWith("# ") && !line.startsWith("- "), qPrintable(line));
+      }
     }
   }
-  VerifyNothingIsClipped(help.view);
-  VerifyNothingIsClipped(credits);
-}
 
-void HelpViewTest::noticeGoesByItselfAndOnAClick() {
-  MainWindow main;
-  NoticeView notice(main.form.notice, main.gate);
-  QVERIFY(QTest::qWaitForWindowActive(&main.view));
-  main.form.cmdSaveState.Click();
-  QVERIFY(notice.isVisible());
-  int starts = 0;
-  Timer& timer = main.form.notice.tmrNotice;
-  timer.Watch([&](Property changed) {
-    if (changed == Property::kEnabled && timer.Enabled()) ++starts;
-  });
-  main.form.notice.ShowOver(main.form, "Saved");  // for as long again
-  QCOMPARE(starts, 1);
-  QCOMPARE(QApplication::focusWidget()->objectName(), "cmdMove");  // as saving leaves it
-  QTest::mouseClick(notice.findChild<QWidget*>("lblNotice"), Qt::LeftButton);
-  QVERIFY(!notice.isVisible());
+  void noticeGoesByItselfAndOnAClick() {
+    MainWindow main;
+    NoticeView notice(main.form.notice, main.gate);
+    QVERIFY(QTest::qWaitForWindowActive(&main.view));
+    main.form.cmdSaveState.Click();
+    QVERIFY(notice.isVisible());
+    int starts = 0;
+    Timer& timer = main.form.notice.tmrNotice;
+    timer.Watch([&](Property changed) {
+      if (changed == Property::kEnabled && timer.Enabled()) ++starts;
+    });
+    main.form.notice.ShowOver(main.form, "Saved");  // for as long again
+    QCOMPARE(starts, 1);
+    QCOMPARE(QApplication::focusWidget()->objectName(), "cmdMove");  // as saving leaves it
+    QTest::mouseClick(notice.findChild<QWidget*>("lblNotice"), Qt::LeftButton);
+    QVERIFY(!notice.isVisible());
 
-  main.form.notice.ShowOver(main.form, "The log has been added to C:\\Users\\Maria\\tnwk-log.txt");
-  VerifyNothingIsClipped(notice);
-  main.form.notice.tmrNotice.SetInterval(20);
-  QVERIFY(notice.isVisible());
-  QTRY_VERIFY(!notice.isVisible());
-}
+    main.form.notice.ShowOver(main.form,
+                              "The log has been added to C:\\Users\\Maria\\tnwk-log.txt");
+    VerifyNothingIsClipped(notice);
+    main.form.notice.tmrNotice.SetInterval(20);
+    QVERIFY(notice.isVisible());
+    QTRY_VERIFY(!notice.isVisible());
+  }
+};
 
 const AddSuite<HelpViewTest> added;
 

@@ -37,41 +37,39 @@ class MoonPicturesTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void lightFollowsTheDaysOfALunation();
-  void reliefShowsInSunlight();
+  void lightFollowsTheDaysOfALunation() {
+    const QDir folder(QCoreApplication::applicationDirPath() + "/assets/moon_pics");
+    QCOMPARE(folder.entryList(QDir::Files).size(), 30);
+    int before = -1;
+    for (int number = 1; number <= 32; ++number) {
+      if (number == 8 || number == 24) continue;  // those cells of the calendar are empty
+      const QString file = QString("day%1.gif").arg(number);
+      const QImage image(folder.filePath(file));
+      QVERIFY2(!image.isNull() && image.width() == image.height(), qPrintable(file));
+      const Lit lit = CountLit(image);
+      const int all = lit.left + lit.right;
+      QVERIFY2(number <= kFullMoon ? all > before : all < before, qPrintable(file));
+      before = all;
+      if (number == kFullMoon) continue;
+      // Next to new moon nothing may be lit.
+      QVERIFY2(number < kFullMoon ? lit.right >= lit.left : lit.left >= lit.right,
+               qPrintable(file));
+    }
+  }
+
+  // A full Moon is flat.
+  void reliefShowsInSunlight() {
+    constexpr int kWidth = 60;
+    std::vector<std::uint32_t> flat = DrawMoon(kWidth, {1, true});
+    Relight(flat, kWidth, {1, true}, {0.5, true});
+    const std::vector<std::uint32_t> drawn = DrawMoon(kWidth, {0.5, true});
+    int different = 0;
+    for (std::size_t i = kWidth / 2 + 5; i < drawn.size(); i += kWidth) {
+      if (drawn[i] != flat[i]) ++different;
+    }
+    QVERIFY(different > kWidth / 3);
+  }
 };
-
-void MoonPicturesTest::lightFollowsTheDaysOfALunation() {
-  const QDir folder(QCoreApplication::applicationDirPath() + "/assets/moon_pics");
-  QCOMPARE(folder.entryList(QDir::Files).size(), 30);
-  int before = -1;
-  for (int number = 1; number <= 32; ++number) {
-    if (number == 8 || number == 24) continue;  // those cells of the calendar are empty
-    const QString file = QString("day%1.gif").arg(number);
-    const QImage image(folder.filePath(file));
-    QVERIFY2(!image.isNull() && image.width() == image.height(), qPrintable(file));
-    const Lit lit = CountLit(image);
-    const int all = lit.left + lit.right;
-    QVERIFY2(number <= kFullMoon ? all > before : all < before, qPrintable(file));
-    before = all;
-    if (number == kFullMoon) continue;
-    // Next to new moon nothing may be lit.
-    QVERIFY2(number < kFullMoon ? lit.right >= lit.left : lit.left >= lit.right, qPrintable(file));
-  }
-}
-
-// A full Moon is flat.
-void MoonPicturesTest::reliefShowsInSunlight() {
-  constexpr int kWidth = 60;
-  std::vector<std::uint32_t> flat = DrawMoon(kWidth, {1, true});
-  Relight(flat, kWidth, {1, true}, {0.5, true});
-  const std::vector<std::uint32_t> drawn = DrawMoon(kWidth, {0.5, true});
-  int different = 0;
-  for (std::size_t i = kWidth / 2 + 5; i < drawn.size(); i += kWidth) {
-    if (drawn[i] != flat[i]) ++different;
-  }
-  QVERIFY(different > kWidth / 3);
-}
 
 const AddSuite<MoonPicturesTest> added;
 

@@ -2,62 +2,15 @@
 #include <QMessageBox>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QTimer>
 #include <QWindow>
 
 #include "desktop/qt_desktop.h"
-#include "desktop/screen_fit.h"
 #include "tests/desktop/all_windows.h"
-#include "tests/desktop/lists_texts.h"
-#include "tests/desktop/sky_texts.h"
 #include "tests/desktop/suites.h"
+#include "tests/desktop/when_modal.h"
 
 namespace tarnwick {
-
-class ScreensTest : public QObject {
-  Q_OBJECT
-
- private Q_SLOTS:
-  void screenIsTheOneAskedFor();
-  void placesAreBroughtInside_data();
-  void placesAreBroughtInside();
-  void everyWindowOpensInside();
-  void everythingCanBeReached();
-  void noticeIsAsLargeAsItsText();
-  void longMessagesFit_data();
-  void longMessagesFit();
-};
-
 namespace {
-
-QRect Available() { return QGuiApplication::primaryScreen()->availableGeometry(); }
-
-// All windows of the program, open.
-struct Windows : AllWindows {
-  Windows() {
-    main.view.move(Available().bottomRight() - QPoint(200, 100));
-    for (QWidget* window : Secondary()) BelongTo(*window, main.view);
-    BelongTo(notice, main.view);
-    main.form.log.chkLog.SetValue(true);
-    main.form.move.cmdMove.Click();
-    for (Button* opener :
-         {&main.form.log.cmdViewLog, &main.form.log.cmdLogPreferences,
-          &main.form.calendar.cmdDisplayCalendar, &main.form.sky.cmdSky, &main.form.lists.cmdLists,
-          &main.form.cmdHelp, &main.form.help_window.cmdCredits}) {
-      opener->Click();
-    }
-    main.FillWithLongestTexts();
-    FillWithLongestTexts(main.form.sky.sky_window);
-    FillWithLongestTexts(main.form.lists.lists_window);
-    for (QWidget* window : All()) QVERIFY(QTest::qWaitForWindowExposed(window));
-    QCoreApplication::processEvents();
-  }
-
-  QList<QWidget*> Secondary() {
-    return {&log, &preferences, &calendar, &sky, &lists, &help, &credits};
-  }
-  QList<QWidget*> All() { return Secondary() << &main.view; }
-};
 
 void VerifyInside(const QWidget& window) {
   QVERIFY2(Available().contains(window.frameGeometry()), qPrintable(window.objectName()));
@@ -73,111 +26,105 @@ void VerifyInView(const QWidget& widget, const QScrollArea& area) {
 
 }  // namespace
 
-void ScreensTest::screenIsTheOneAskedFor() {
-  const QByteArray asked = qgetenv("TARNWICK_TEST_SCREEN");
-  if (asked.isEmpty()) return;
-  const QSize size =
-      QGuiApplication::primaryScreen()->size() * qgetenv("QT_SCALE_FACTOR").toDouble();
-  const QList<QByteArray> sides = asked.split('x');
-  QVERIFY(qAbs(size.width() - sides[0].toInt()) <= 2 &&
-          qAbs(size.height() - sides[1].toInt()) <= 2);
-}
+class ScreensTest : public QObject {
+  Q_OBJECT
 
-void ScreensTest::placesAreBroughtInside_data() {
-  QTest::addColumn<QRect>("place");
-  QTest::addColumn<QRect>("expected");
-  QTest::newRow("inside") << QRect(10, 30, 100, 100) << QRect(10, 30, 100, 100);
-  QTest::newRow("fills") << QRect(0, 20, 800, 580) << QRect(0, 20, 800, 580);
-  QTest::newRow("below") << QRect(10, 550, 100, 100) << QRect(10, 500, 100, 100);
-  QTest::newRow("right") << QRect(790, 30, 100, 100) << QRect(700, 30, 100, 100);
-  QTest::newRow("above, left") << QRect(-50, 0, 100, 100) << QRect(0, 20, 100, 100);
-  QTest::newRow("too large") << QRect(300, 300, 900, 900) << QRect(0, 20, 800, 580);
-  QTest::newRow("too high") << QRect(300, 300, 100, 900) << QRect(300, 20, 100, 580);
-}
-
-void ScreensTest::placesAreBroughtInside() {
-  QFETCH(QRect, place);
-  QFETCH(QRect, expected);
-  QCOMPARE(Inside(place, {0, 20, 800, 580}), expected);
-}
-
-void ScreensTest::everyWindowOpensInside() {
-  Windows windows;
-  for (QWidget* window : windows.All()) VerifyInside(*window);
-  for (QWidget* window : windows.Secondary()) {
-    QCOMPARE(window->windowHandle()->transientParent(), windows.main.view.windowHandle());
+ private Q_SLOTS:
+  void screenIsTheOneAskedFor() {
+    const QByteArray asked = qgetenv("TARNWICK_TEST_SCREEN");
+    if (asked.isEmpty()) return;
+    const QSize size =
+        QGuiApplication::primaryScreen()->size() * qgetenv("QT_SCALE_FACTOR").toDouble();
+    const QList<QByteArray> sides = asked.split('x');
+    QVERIFY(qAbs(size.width() - sides[0].toInt()) <= 2 &&
+            qAbs(size.height() - sides[1].toInt()) <= 2);
   }
-  QCOMPARE(windows.log.x(), windows.main.view.x());
-  // An open log is put to its place again, which may lie below the screen.
-  windows.main.form.log.cmdViewLog.Click();
-  QCoreApplication::processEvents();
-  VerifyInside(windows.log);
-}
 
-void ScreensTest::everythingCanBeReached() {
-  Windows windows;
-  for (QWidget* window : windows.All()) {
-    VerifyNothingIsClipped(*window);
-    const auto& area = *window->findChild<QScrollArea*>();
-    const QSize hidden = area.widget()->size() - area.viewport()->size();
-    QVERIFY(area.horizontalScrollBar()->maximum() >= hidden.width());
-    QVERIFY(area.verticalScrollBar()->maximum() >= hidden.height());
-    window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(window));
-    for (QWidget* widget : area.widget()->findChildren<QWidget*>()) {
-      if (!widget->isVisible() || !widget->isEnabled()) continue;
-      if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
-      widget->setFocus(Qt::TabFocusReason);
-      QCoreApplication::processEvents();
-      VerifyInView(*widget, area);
+  void placesAreBroughtInside() {
+    for (const auto& [place, expected] :
+         {std::pair(QRect(10, 30, 100, 100), QRect(10, 30, 100, 100)),
+          {QRect(0, 20, 800, 580), QRect(0, 20, 800, 580)},
+          {QRect(10, 550, 100, 100), QRect(10, 500, 100, 100)},
+          {QRect(790, 30, 100, 100), QRect(700, 30, 100, 100)},
+          {QRect(-50, 0, 100, 100), QRect(0, 20, 100, 100)},
+          {QRect(300, 300, 900, 900), QRect(0, 20, 800, 580)},
+          {QRect(300, 300, 100, 900), QRect(300, 20, 100, 580)}}) {
+      QCOMPARE(Inside(place, {0, 20, 800, 580}), expected);
     }
   }
-}
 
-void ScreensTest::noticeIsAsLargeAsItsText() {
-  Windows windows;
-  QSize former(0, 0);
-  for (const int words : {1, 4, 60}) {
-    const QString text = QString("saved it ").repeated(words).trimmed();
-    windows.main.form.notice.ShowOver(windows.main.form, text.toStdString());
+  void everyWindowOpensInside() {
+    AllWindows windows;
+    windows.FillWithLongestTexts();
+    for (QWidget* window : windows.All()) VerifyInside(*window);
+    for (QWidget* window : windows.Secondary()) {
+      QCOMPARE(window->windowHandle()->transientParent(), windows.main.view.windowHandle());
+    }
+    QCOMPARE(windows.log.x(), windows.main.view.x());
+    // An open log is put to its place again, which may lie below the screen.
+    windows.main.form.log.cmdViewLog.Click();
     QCoreApplication::processEvents();
-    VerifyInside(windows.notice);
-    VerifyNothingIsClipped(windows.notice);
-    const auto& label = *windows.notice.findChild<QLabel*>();
-    QVERIFY(label.heightForWidth(label.width()) <= label.height());
-    const QSize size = windows.notice.size();
-    QVERIFY(size.width() > former.width() || size.height() > former.height());
-    former = size;
+    VerifyInside(windows.log);
   }
-}
 
-void ScreensTest::longMessagesFit_data() {
-  QTest::addColumn<QString>("text");
-  QTest::newRow("short") << "Nothing to do!";
-  QTest::newRow("a long line") << QString("The file could not be written. ").repeated(8);
-  QTest::newRow("many lines") << QString("A line of it.\n").repeated(300);
-  QTest::newRow("a long word") << QString("/a_long_folder").repeated(80);
-}
-
-void ScreensTest::longMessagesFit() {
-  QFETCH(QString, text);
-  MainWindow main;
-  QVERIFY(QTest::qWaitForWindowActive(&main.view));
-  QTimer::singleShot(50, this, [&] {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-    QVERIFY(box != nullptr);
-    VerifyInside(*box);
-    const QLabel* shown = nullptr;
-    for (const QLabel* label : box->findChildren<QLabel*>()) {
-      if (label->isVisible() && label->text() == text) shown = label;
+  void everythingCanBeReached() {
+    AllWindows windows;
+    windows.FillWithLongestTexts();
+    for (QWidget* window : windows.All()) {
+      VerifyNothingIsClipped(*window);
+      const auto& area = *window->findChild<QScrollArea*>();
+      const QSize hidden = area.widget()->size() - area.viewport()->size();
+      QVERIFY(area.horizontalScrollBar()->maximum() >= hidden.width());
+      QVERIFY(area.verticalScrollBar()->maximum() >= hidden.height());
+      window->activateWindow();
+      QVERIFY(QTest::qWaitForWindowActive(window));
+      for (QWidget* widget : area.widget()->findChildren<QWidget*>()) {
+        if (!widget->isVisible() || !widget->isEnabled()) continue;
+        if ((widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+        widget->setFocus(Qt::TabFocusReason);
+        QCoreApplication::processEvents();
+        VerifyInView(*widget, area);
+      }
     }
-    QVERIFY(shown != nullptr);
-    QVERIFY(shown->width() >= shown->minimumSizeHint().width());
-    QVERIFY(!shown->wordWrap() || shown->heightForWidth(shown->width()) <= shown->height());
-    box->reject();
-  });
-  QtDesktop(main.gate).ShowMessage({text.toStdString(), "Save log", MessageIcon::kExclamation});
-}
+  }
+
+  void noticeIsAsLargeAsItsText() {
+    AllWindows windows;
+    windows.FillWithLongestTexts();
+    QSize former(0, 0);
+    for (const int words : {1, 4, 60}) {
+      const QString text = QString("saved it ").repeated(words).trimmed();
+      windows.main.form.notice.ShowOver(windows.main.form, text.toStdString());
+      QCoreApplication::processEvents();
+      VerifyInside(windows.notice);
+      VerifyNothingIsClipped(windows.notice);
+      const QSize size = windows.notice.size();
+      QVERIFY(size.width() > former.width() || size.height() > former.height());
+      former = size;
+    }
+  }
+
+  void longMessagesFit() {
+    MainWindow main;
+    QVERIFY(QTest::qWaitForWindowActive(&main.view));
+    for (const QString& text :
+         {QString("Nothing to do!"), QString("The file could not be written. ").repeated(8),
+          QString("A line of it.\n").repeated(300), QString("/a_long_folder").repeated(80)}) {
+      WhenModal<QMessageBox>([&](QMessageBox& box) {
+        VerifyInside(box);
+        const QLabel* shown = nullptr;
+        for (const QLabel* label : box.findChildren<QLabel*>()) {
+          if (label->isVisible() && label->text() == text) shown = label;
+        }
+        QVERIFY(shown != nullptr);
+        QVERIFY(shown->width() >= shown->minimumSizeHint().width());
+        QVERIFY(!shown->wordWrap() || shown->heightForWidth(shown->width()) <= shown->height());
+        box.reject();
+      });
+      QtDesktop(main.gate).ShowMessage({text.toStdString(), "Save log", MessageIcon::kExclamation});
+    }
+  }
+};
 
 const AddSuite<ScreensTest> added;
 

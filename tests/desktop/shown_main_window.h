@@ -26,23 +26,6 @@ struct MainWindow {
     return *qobject_cast<Widget*>(view.WidgetOf(control));
   }
 
-  // Shows whatever can be shown, each at its longest.
-  void FillWithLongestTexts() {
-    form.dates.lblOstrelLWCDate[1].SetCaption(
-        "9000-13-3-3 OLW (Daythree in Weekthree of De Quincy, 9000)");
-    form.moon.lblAgeOfMoon[1].SetCaption("[-64316] 29 days, 23 hrs, 59 mins (100.0%)");
-    form.search.lblActualEclipseData.SetCaption(
-        "Total lunar eclipse\r\nLunation number = -64316\r\nSaros number = 100\r\n"
-        "Penumbral phase starts 20:58 and lasts 6h 28m.\r\n"
-        "Umbral phase starts 20:58 and lasts 3h 58m.\r\n"
-        "Total phase starts 20:58 and lasts 1h 48m.\r\n");
-    form.history.cboHistory.AddItem("5003-10-2-1 OLW 09:55 (Greenwich; local = GMT+05:30)");
-    form.move.fraStopPauseResume.SetVisible(true);
-    form.move.cmdPauseResume.SetCaption("Resume");
-    form.search.lblSearching.SetVisible(true);
-    QCoreApplication::processEvents();
-  }
-
   HandlerGate gate{[](const std::string& what) { QFAIL(what.c_str()); }};
   DriverDesktop desktop{[](YieldMode) {}, QCoreApplication::applicationDirPath().toStdString()};
   Screen screen;
@@ -94,6 +77,10 @@ inline void VerifyNothingIsClipped(const QWidget& window) {
     const QRect place(widget->mapTo(&content, QPoint()), widget->size());
     QVERIFY2(content.rect().contains(place), name);
     if (const auto* list = qobject_cast<const QComboBox*>(widget)) VerifyItemsFit(*list);
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    if (label != nullptr && label->wordWrap()) {
+      QVERIFY2(label->heightForWidth(label->width()) <= label->height(), name);
+    }
   }
 }
 

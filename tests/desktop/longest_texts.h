@@ -1,11 +1,30 @@
-// The window of the sky at a place, filled.
+// The windows, filled: every label with the longest text that it is likely to have.
 #pragma once
 
+#include <string>
+
+#include "app/main_window.h"
+#include "lists/lists_window.h"
 #include "sky/sky_window.h"
 
 namespace tarnwick {
 
-// Gives every label the longest text that it is likely to have.
+// Shows whatever can be shown, each at its longest.
+inline void FillWithLongestTexts(frmMain& form) {
+  form.dates.lblOstrelLWCDate[1].SetCaption(
+      "9000-13-3-3 OLW (Daythree in Weekthree of De Quincy, 9000)");
+  form.moon.lblAgeOfMoon[1].SetCaption("[-64316] 29 days, 23 hrs, 59 mins (100.0%)");
+  form.search.lblActualEclipseData.SetCaption(
+      "Total lunar eclipse\r\nLunation number = -64316\r\nSaros number = 100\r\n"
+      "Penumbral phase starts 20:58 and lasts 6h 28m.\r\n"
+      "Umbral phase starts 20:58 and lasts 3h 58m.\r\n"
+      "Total phase starts 20:58 and lasts 1h 48m.\r\n");
+  form.history.cboHistory.AddItem("5003-10-2-1 OLW 09:55 (Greenwich; local = GMT+05:30)");
+  form.move.fraStopPauseResume.SetVisible(true);
+  form.move.cmdPauseResume.SetCaption("Resume");
+  form.search.lblSearching.SetVisible(true);
+}
+
 inline void FillWithLongestTexts(frmSky& form) {
   const auto fill = [](auto& labels, const char* text) {
     for (Label& label : labels) label.SetCaption(text);
@@ -44,6 +63,30 @@ inline void FillWithLongestTexts(frmSky& form) {
       "Greatest eclipse at 11:03 +- 11 min GMT + 12:00, 45.07 N 124.29 E: total for 2 min 23 s, "
       "path 112 km wide");
   form.lblSearching.SetVisible(true);
+}
+
+// The window is open; what it has found of its first list stands behind the rows.
+inline void FillWithLongestTexts(frmLists& form) {
+  form.cmdList.Click();
+  form.tmrList.Tick();
+  form.cmdStopList.Click();
+  form.cboChoice.SetVisible(true);
+  form.cmdStopList.SetVisible(true);
+  constexpr std::size_t kColumns = 9;
+  for (std::size_t i = 0; i < kMostColumns; ++i) {
+    form.chkColumn[i].SetCaption("Magnitude");
+    form.chkColumn[i].SetVisible(i < kColumns);
+  }
+  form.lblListTitle.SetCaption(
+      "Umbral lunar eclipses seen at Cambridge, Massachusetts, -3113-11-13 CE to 5999-12-31 CE");
+  form.lblProgress.SetCaption("3,361,000 rows, 100 %");
+  std::vector<TableColumn> columns(kColumns, {"Magnitude", "-5011-13-3-3 OLW"});
+  columns.back().right = true;
+  form.tblList.SetColumns(columns);
+  form.tblList.cell_text = [](std::size_t row, std::size_t column) {
+    return std::to_string(row) + " in " + std::to_string(column);
+  };
+  form.tblList.SetRowCount(1000);
 }
 
 }  // namespace tarnwick
