@@ -21,7 +21,7 @@ constexpr Wording kWordings[] = {
     {"chkIncludeSD", 'S', ""},
     {"chkIncludeLLT", 'L', ""},
     {"chkIncludeKSG", 'K', ""},
-    {"chkIncludeOLWC", 'O', ""},
+    {"chkIncludeOLWC", 'W', ""},
     {"chkIncludeCJD", 'D', ""},
     {"chkIncludeAJD", 'u', ""},
     {"chkIncludePhaseOfMoonAndIllumination", 'P', ""},
