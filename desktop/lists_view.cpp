@@ -46,6 +46,13 @@ constexpr char kLongestKind[] = "Coincidences of 1sts of months";
 constexpr char kLongestChoice[] = "Umbral lunar eclipses";
 constexpr char kLongestDate[] = "-5011-13-3-3 OLW 08:08";
 
+// As high as with a text, so that its first one moves nothing.
+void KeepHeightWithoutText(QLabel& label) {
+  QLabel with_text("X");
+  with_text.setFont(label.font());
+  label.setFixedHeight(with_text.sizeHint().height());
+}
+
 }  // namespace
 
 ListsView::ListsView(frmLists& form, HandlerGate& gate) : form_(form), binder_(gate, kWordings) {
@@ -118,6 +125,7 @@ QWidget* ListsView::MakeColumns() {
 QWidget* ListsView::MakeTitle() {
   auto* title = new QLabel(this);
   title->setFont(TitleFont(font()));
+  KeepHeightWithoutText(*title);
   KeepRoomWhenHidden(*title);
   binder_.Bind(form_.lblListTitle, *title);
   return title;
@@ -132,6 +140,7 @@ QWidget* ListsView::MakeTable() {
 
 QWidget* ListsView::MakeProgress() {
   auto* progress = new QLabel(this);
+  KeepHeightWithoutText(*progress);
   KeepRoomWhenHidden(*progress);
   binder_.Bind(form_.lblProgress, *progress);
   SetTextColor(*progress, Look::kCaption);

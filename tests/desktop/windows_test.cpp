@@ -35,9 +35,7 @@ class WindowsTest : public QObject {
     for (const double scale : {1.0, 1.5, 2.5}) {
       QApplication::setFont(Scaled(usual, scale));
       AllWindows windows;
-      frmLists& lists = windows.main.form.lists.lists_window;
-      lists.lblListTitle.SetCaption("Phases");
-      lists.cboChoice.SetVisible(false);
+      windows.main.form.lists.lists_window.cboChoice.SetVisible(false);
       QTest::qWait(10);  // for the layouts, one inside the other
       std::map<const QWidget*, std::map<QString, QRect>> before;
       for (const QWidget* window : windows.All()) before[window] = Places(*window);
