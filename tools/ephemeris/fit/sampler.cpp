@@ -22,15 +22,16 @@
 #include <system_error>
 #include <vector>
 
+#include "engines/ephemeris/positions.h"
 #include "tools/ephemeris/fit/de431.h"
 
 namespace {
 
 using tarnwick::De431Body;
 using tarnwick::De431Place;
+using tarnwick::kKmPerAu;
 
 constexpr double kFirst = 550000, kLast = 3914990;  // JD (TT), the span of the series
-constexpr double kKmPerAu = 149597870.7;
 constexpr std::uint64_t kMostEpochs = 10'000'000;
 constexpr double kQuarter = 7.38;    // days from phase to phase, from 6.5 to 8.3
 constexpr double kMeanRate = 12.19;  // of the elongation, degrees a day

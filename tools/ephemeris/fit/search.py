@@ -15,14 +15,14 @@ import numpy
 import series
 
 FLOOR = 0.0035  # arcseconds: smaller lines are worth no term
-PADDING = 4     # a spectrum is sampled so much closer than it resolves
+PADDING = 4  # a spectrum is sampled so much closer than it resolves
 OF_MOON = {"D": 6, "lp": 2, "l": 4, "F": 2}  # the largest multiples that are tried
 OF_PLANETS = {"Me": 4, "V": 20, "E": 20, "M": 12, "J": 6, "S": 5, "U": 4, "N": 4}
 MOST_PLANETS = 3
-LARGEST_SUM = 4   # of the planets' multiples, which their perihelia and nodes have to make up for
-MATCHES = 16      # combinations, the simplest ones, that are tried for a line
-AS_GOOD = 0.8    # of the best one's gain
-EVERY = 20        # of the grid's epochs are enough to compare combinations
+LARGEST_SUM = 4  # of the planets' multiples, which their perihelia and nodes have to make up for
+MATCHES = 16  # combinations, the simplest ones, that are tried for a line
+AS_GOOD = 0.8  # of the best one's gain
+EVERY = 20  # of the grid's epochs are enough to compare combinations
 
 
 def combinations(limits):
@@ -44,8 +44,8 @@ def of_planets():
 
 def simplicity(rows):
     """The less the simpler."""
-    of_planets = rows[:, series.ANGLES.index("Me"):]
-    return abs(rows).sum(axis=1) + 3 * abs(of_planets.sum(axis=1)) + 8 * (rows != 0).sum(axis=1)
+    planets = rows[:, series.ANGLES.index("Me"):]
+    return abs(rows).sum(axis=1) + 3 * abs(planets.sum(axis=1)) + 8 * (rows != 0).sum(axis=1)
 
 
 class Combinations:
@@ -58,8 +58,8 @@ class Combinations:
                                   for name in series.ANGLES])
         self.resolution = 360 / (ends[1] - ends[0])  # degrees a century, as the rates
         self.moon = combinations(OF_MOON)
-        self.planets = of_planets()
-        self.planets = self.planets[numpy.argsort(self.planets @ self.rates)]
+        planets = of_planets()
+        self.planets = planets[numpy.argsort(planets @ self.rates)]
 
     def matching(self, rate):
         """The simplest ones that stay with a line for most of the span."""
